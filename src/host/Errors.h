@@ -1,0 +1,43 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace quillon {
+
+/// A failure of a host operation, told in the user's words.
+class HostError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// An amount or a 16-bit or 32-bit number left its range.
+class OverflowError : public HostError {
+ public:
+  OverflowError() : HostError("Overflow") {}
+};
+
+/// A row, column or item number outside its bounds, or a name that nothing carries.
+class SubscriptError : public HostError {
+ public:
+  explicit SubscriptError(const std::string& what) : HostError("Subscript out of range: " + what) {}
+};
+
+/// The database refused a statement or the connection is gone.
+class DbError : public HostError {
+ public:
+  DbError(const std::string& message, std::string sqlState, std::string statement)
+      : HostError(message), sqlState_(std::move(sqlState)), statement_(std::move(statement)) {}
+
+  /// Five characters of the SQL standard, e.g. "40001" for a lock conflict, "08006" for a lost connection.
+  const std::string& SqlState() const { return sqlState_; }
+
+  /// The statement as it was sent; empty where the failure belongs to none.
+  const std::string& Statement() const { return statement_; }
+
+ private:
+  std::string sqlState_;
+  std::string statement_;
+};
+
+}  // namespace quillon

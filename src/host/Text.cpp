@@ -1,0 +1,155 @@
+#include "host/Text.h"
+
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "host/Errors.h"
+
+namespace quillon::text {
+
+namespace {
+
+icu::UnicodeString Wide(std::string_view text) {
+  return icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
+}
+
+std::string Narrow(const icu::UnicodeString& text) {
+  std::string out;
+  text.toUTF8String(out);
+  return out;
+}
+
+bool IsPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+}  // namespace
+
+std::size_t CharBytes(std::string_view text, std::size_t at) {
+  const auto lead = static_cast<unsigned char>(text[at]);
+  const std::size_t wanted = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+  std::size_t bytes = 1;
+  while (bytes < wanted && at + bytes < text.size() &&
+         (static_cast<unsigned char>(text[at + bytes]) & 0xC0) == 0x80) {
+    ++bytes;
+  }
+  return bytes;
+}
+
+std::size_t Length(std::string_view text) {
+  if (IsPlain(text)) return text.size();
+  std::size_t units = 0;
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t bytes = CharBytes(text, i);
+    units += bytes == 4 ? 2 : 1;
+    i += bytes;
+  }
+  return units;
+}
+
+std::string Left(std::string_view text, std::size_t units) {
+  std::size_t taken = 0;
+  std::size_t at = 0;
+  while (at < text.size()) {
+    const std::size_t bytes = CharBytes(text, at);
+    taken += bytes == 4 ? 2 : 1;
+    if (taken > units) break;
+    at += bytes;
+  }
+  return std::string(text.substr(0, at));
+}
+
+std::string Mid(std::string_view text, std::size_t start, std::size_t units) {
+  const std::string head = Left(text, start > 0 ? start - 1 : 0);
+  const std::string_view rest = text.substr(head.size());
+  return units == std::string::npos ? std::string(rest) : Left(rest, units);
+}
+
+std::string Upper(std::string_view text) {
+  std::string out(text);
+  if (!IsPlain(text)) return Narrow(Wide(text).toUpper(icu::Locale::getRoot()));
+  std::transform(out.begin(), out.end(), out.begin(), [](char c) { return static_cast<char>(c >= 'a' && c <= 'z' ? c - 32 : c); });
+  return out;
+}
+
+std::string Lower(std::string_view text) {
+  std::string out(text);
+  if (!IsPlain(text)) return Narrow(Wide(text).toLower(icu::Locale::getRoot()));
+  std::transform(out.begin(), out.end(), out.begin(), [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); });
+  return out;
+}
+
+std::string Trim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+bool EqualNoCase(std::string_view a, std::string_view b) { return Lower(a) == Lower(b); }
+
+bool ContainsNoCase(std::string_view text, std::string_view part) {
+  return Lower(text).find(Lower(part)) != std::string::npos;
+}
+
+std::vector<std::string> Split(std::string_view text, std::string_view separator) {
+  std::vector<std::string> parts;
+  std::size_t start = 0;
+  for (std::size_t at = text.find(separator); at != std::string_view::npos; at = text.find(separator, start)) {
+    parts.emplace_back(text.substr(start, at - start));
+    start = at + separator.size();
+  }
+  parts.emplace_back(text.substr(start));
+  return parts;
+}
+
+std::string Join(const std::vector<std::string>& parts, std::string_view separator) {
+  std::string out;
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (i > 0) out += separator;
+    out += parts[i];
+  }
+  return out;
+}
+
+std::string ReplaceAll(std::string text, std::string_view what, std::string_view with) {
+  std::size_t at = text.find(what);
+  while (at != std::string::npos) {
+    text.replace(at, what.size(), with);
+    at = text.find(what, at + with.size());
+  }
+  return text;
+}
+
+std::string Repaired(std::string_view text) { return IsPlain(text) ? std::string(text) : Narrow(Wide(text)); }
+
+}  // namespace quillon::text
+
+namespace quillon {
+
+double Val(std::string_view text) {
+  std::size_t at = text.find_first_not_of(" \t\r\n");
+  if (at == std::string_view::npos) return 0;
+  if (text[at] == '+') ++at;
+  // Only digits, a sign, a point and an exponent belong to a number: from_chars alone would also take "inf".
+  const std::size_t sign = at < text.size() && text[at] == '-' ? 1 : 0;
+  if (at + sign >= text.size() || (text[at + sign] != '.' && (text[at + sign] < '0' || text[at + sign] > '9'))) {
+    return 0;
+  }
+  double value = 0;
+  const auto result = std::from_chars(text.data() + at, text.data() + text.size(), value);
+  if (result.ec == std::errc::result_out_of_range) throw OverflowError();
+  return result.ec == std::errc() ? value : 0;
+}
+
+long long ValInteger(std::string_view text) {
+  const double value = std::trunc(Val(text));
+  constexpr double kLimit = 9223372036854775808.0;
+  if (!(value < kLimit && value >= -kLimit)) throw OverflowError();
+  return static_cast<long long>(value);
+}
+
+}  // namespace quillon
