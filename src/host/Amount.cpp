@@ -35,8 +35,8 @@ Amount Amount::OfText(std::string_view text) {
   const bool negative = text[at] == '-';
   if (negative || text[at] == '+') ++at;
   Wide units = 0;
-  int decimals = -1;        // -1 before the point
-  int dropped = 0;          // the first digit past the fourth decimal
+  int decimals = -1;  // -1 before the point
+  int dropped = 0;    // the first digit past the fourth decimal
   bool droppedMore = false;
   for (; at < text.size(); ++at) {
     const char c = text[at];
@@ -106,8 +106,6 @@ Amount operator*(Amount a, Amount b) {
   return Amount(Narrow(whole));
 }
 
-Amount operator*(Amount a, std::int64_t whole) {
-  return Amount(Narrow(static_cast<Wide>(a.units_) * whole));
-}
+Amount operator*(Amount a, std::int64_t whole) { return Amount(Narrow(static_cast<Wide>(a.units_) * whole)); }
 
 }  // namespace quillon

@@ -23,9 +23,7 @@ year_month_day Civil(int y, int m, int d) {
   return year(y) / month(static_cast<unsigned>(m)) / day(static_cast<unsigned>(d));
 }
 
-year_month_day Civil(std::int32_t serial) {
-  return year_month_day(sys_days(std::chrono::days(serial)));
-}
+year_month_day Civil(std::int32_t serial) { return year_month_day(sys_days(std::chrono::days(serial))); }
 
 std::string Padded(int value, std::size_t width) {
   std::string text = std::to_string(value);
@@ -46,7 +44,8 @@ int MonthOf(std::string_view name) {
   const auto lower = [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); };
   for (int m = 0; m < 12; ++m) {
     bool same = name.size() == 3;
-    for (std::size_t i = 0; same && i < 3; ++i) same = lower(kMonths[static_cast<std::size_t>(m)][i]) == lower(name[i]);
+    for (std::size_t i = 0; same && i < 3; ++i)
+      same = lower(kMonths[static_cast<std::size_t>(m)][i]) == lower(name[i]);
     if (same) return m + 1;
   }
   return -1;
@@ -112,10 +111,17 @@ std::string Date::Format(std::string_view picture) const {
     std::size_t run = 1;
     while (i + run < picture.size() && picture[i + run] == picture[i]) ++run;
     switch (picture[i]) {
-      case 'd': text += Padded(Day(), run); break;
-      case 'M': text += run == 3 ? std::string(MonthName(Month())) : Padded(Month(), run); break;
-      case 'y': text += run == 2 ? Padded(Year() % 100, 2) : Padded(Year(), 4); break;
-      default: text += picture.substr(i, run);
+      case 'd':
+        text += Padded(Day(), run);
+        break;
+      case 'M':
+        text += run == 3 ? std::string(MonthName(Month())) : Padded(Month(), run);
+        break;
+      case 'y':
+        text += run == 2 ? Padded(Year() % 100, 2) : Padded(Year(), 4);
+        break;
+      default:
+        text += picture.substr(i, run);
     }
     i += run;
   }
