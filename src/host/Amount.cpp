@@ -13,6 +13,9 @@ constexpr std::int64_t kScale = 10000;
 
 __extension__ using Wide = __int128;
 
+/// The magnitude of the lowest amount; digits past it cannot bring a number back into the range.
+constexpr Wide kPastLimit = -static_cast<Wide>(INT64_MIN);
+
 std::int64_t Narrow(Wide value) {
   if (value > INT64_MAX || value < INT64_MIN) throw OverflowError();
   return static_cast<std::int64_t>(value);
@@ -35,8 +38,8 @@ Amount Amount::OfText(std::string_view text) {
   const bool negative = text[at] == '-';
   if (negative || text[at] == '+') ++at;
   Wide units = 0;
-  int decimals = -1;        // -1 before the point
-  int dropped = 0;          // the first digit past the fourth decimal
+  int decimals = -1;  // -1 before the point
+  int dropped = 0;    // the first digit past the fourth decimal
   bool droppedMore = false;
   for (; at < text.size(); ++at) {
     const char c = text[at];
@@ -47,7 +50,7 @@ Amount Amount::OfText(std::string_view text) {
     } else if (decimals < 4) {
       units = units * 10 + (c - '0');
       if (decimals >= 0) ++decimals;
-      if (units > INT64_MAX) throw OverflowError();
+      if (units > kPastLimit) throw OverflowError();
     } else if (decimals == 4) {
       dropped = c - '0';
       ++decimals;
@@ -106,8 +109,6 @@ Amount operator*(Amount a, Amount b) {
   return Amount(Narrow(whole));
 }
 
-Amount operator*(Amount a, std::int64_t whole) {
-  return Amount(Narrow(static_cast<Wide>(a.units_) * whole));
-}
+Amount operator*(Amount a, std::int64_t whole) { return Amount(Narrow(static_cast<Wide>(a.units_) * whole)); }
 
 }  // namespace quillon

@@ -23,9 +23,7 @@ year_month_day Civil(int y, int m, int d) {
   return year(y) / month(static_cast<unsigned>(m)) / day(static_cast<unsigned>(d));
 }
 
-year_month_day Civil(std::int32_t serial) {
-  return year_month_day(sys_days(std::chrono::days(serial)));
-}
+year_month_day Civil(std::int32_t serial) { return year_month_day(sys_days(std::chrono::days(serial))); }
 
 std::string Padded(int value, std::size_t width) {
   std::string text = std::to_string(value);
@@ -46,7 +44,8 @@ int MonthOf(std::string_view name) {
   const auto lower = [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); };
   for (int m = 0; m < 12; ++m) {
     bool same = name.size() == 3;
-    for (std::size_t i = 0; same && i < 3; ++i) same = lower(kMonths[static_cast<std::size_t>(m)][i]) == lower(name[i]);
+    for (std::size_t i = 0; same && i < 3; ++i)
+      same = lower(kMonths[static_cast<std::size_t>(m)][i]) == lower(name[i]);
     if (same) return m + 1;
   }
   return -1;
@@ -89,13 +88,13 @@ int Date::Day() const { return static_cast<int>(static_cast<unsigned>(Civil(seri
 Date Date::AddDays(std::int64_t days) const {
   if (IsEmpty()) return *this;
   const Date last = Of(9999, 12, 31);
-  const std::int64_t moved = serial_ + days;
-  if (moved > last.serial_ || moved < Of(100, 1, 1).serial_) throw OverflowError();
-  return Date(static_cast<std::int32_t>(moved));
+  if (days > last.serial_ - serial_ || days < Of(100, 1, 1).serial_ - serial_) throw OverflowError();
+  return Date(static_cast<std::int32_t>(serial_ + days));
 }
 
 Date Date::AddYears(int years) const {
   if (IsEmpty()) return *this;
+  if (years > 9999 - Year() || years < 100 - Year()) throw OverflowError();
   const int y = Year() + years;
   return Exists(y, Month(), Day()) ? Of(y, Month(), Day()) : Of(y, Month(), 28);
 }
@@ -112,10 +111,17 @@ std::string Date::Format(std::string_view picture) const {
     std::size_t run = 1;
     while (i + run < picture.size() && picture[i + run] == picture[i]) ++run;
     switch (picture[i]) {
-      case 'd': text += Padded(Day(), run); break;
-      case 'M': text += run == 3 ? std::string(MonthName(Month())) : Padded(Month(), run); break;
-      case 'y': text += run == 2 ? Padded(Year() % 100, 2) : Padded(Year(), 4); break;
-      default: text += picture.substr(i, run);
+      case 'd':
+        text += Padded(Day(), run);
+        break;
+      case 'M':
+        text += run == 3 ? std::string(MonthName(Month())) : Padded(Month(), run);
+        break;
+      case 'y':
+        text += run == 2 ? Padded(Year() % 100, 2) : Padded(Year(), 4);
+        break;
+      default:
+        text += picture.substr(i, run);
     }
     i += run;
   }

@@ -1,11 +1,10 @@
 #include "host/Text.h"
 
-#include <unicode/locid.h>
-#include <unicode/unistr.h>
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
 
 #include "host/Errors.h"
 
@@ -64,22 +63,29 @@ std::string Left(std::string_view text, std::size_t units) {
 }
 
 std::string Mid(std::string_view text, std::size_t start, std::size_t units) {
-  const std::string head = Left(text, start > 0 ? start - 1 : 0);
-  const std::string_view rest = text.substr(head.size());
+  const std::size_t before = start > 0 ? start - 1 : 0;
+  const std::string head = Left(text, before);
+  std::string_view rest = text.substr(head.size());
+  if (!rest.empty() && Length(head) < before) {  // the start lies inside a pair: its second half is dropped
+    rest.remove_prefix(CharBytes(rest, 0));
+    if (units != std::string::npos && units > 0) --units;
+  }
   return units == std::string::npos ? std::string(rest) : Left(rest, units);
 }
 
 std::string Upper(std::string_view text) {
   std::string out(text);
   if (!IsPlain(text)) return Narrow(Wide(text).toUpper(icu::Locale::getRoot()));
-  std::transform(out.begin(), out.end(), out.begin(), [](char c) { return static_cast<char>(c >= 'a' && c <= 'z' ? c - 32 : c); });
+  std::transform(out.begin(), out.end(), out.begin(),
+                 [](char c) { return static_cast<char>(c >= 'a' && c <= 'z' ? c - 32 : c); });
   return out;
 }
 
 std::string Lower(std::string_view text) {
   std::string out(text);
   if (!IsPlain(text)) return Narrow(Wide(text).toLower(icu::Locale::getRoot()));
-  std::transform(out.begin(), out.end(), out.begin(), [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); });
+  std::transform(out.begin(), out.end(), out.begin(),
+                 [](char c) { return static_cast<char>(c >= 'A' && c <= 'Z' ? c + 32 : c); });
   return out;
 }
 
@@ -98,7 +104,8 @@ bool ContainsNoCase(std::string_view text, std::string_view part) {
 std::vector<std::string> Split(std::string_view text, std::string_view separator) {
   std::vector<std::string> parts;
   std::size_t start = 0;
-  for (std::size_t at = text.find(separator); at != std::string_view::npos; at = text.find(separator, start)) {
+  for (std::size_t at = text.find(separator); at != std::string_view::npos;
+       at = text.find(separator, start)) {
     parts.emplace_back(text.substr(start, at - start));
     start = at + separator.size();
   }
@@ -133,10 +140,12 @@ namespace quillon {
 double Val(std::string_view text) {
   std::size_t at = text.find_first_not_of(" \t\r\n");
   if (at == std::string_view::npos) return 0;
-  if (text[at] == '+') ++at;
+  const bool plus = text[at] == '+';
+  if (plus) ++at;
   // Only digits, a sign, a point and an exponent belong to a number: from_chars alone would also take "inf".
-  const std::size_t sign = at < text.size() && text[at] == '-' ? 1 : 0;
-  if (at + sign >= text.size() || (text[at + sign] != '.' && (text[at + sign] < '0' || text[at + sign] > '9'))) {
+  const std::size_t sign = !plus && text[at] == '-' ? 1 : 0;
+  if (at + sign >= text.size() ||
+      (text[at + sign] != '.' && (text[at + sign] < '0' || text[at + sign] > '9'))) {
     return 0;
   }
   double value = 0;
