@@ -13,9 +13,9 @@ class CReportOptions {
  public:
   /// What a report is laid out with beyond its named options.
   struct SettingsRecord {
-    bool ChkUnderline = false;    ///< cells marked underlined in the grid print underlined
-    double LineHeight = 0;        ///< twips; 0 is the height of the text
-    double LineTopMargin = 0;     ///< twips above the text of a line
+    bool ChkUnderline = false;  ///< cells marked underlined in the grid print underlined
+    double LineHeight = 0;      ///< twips; 0 is the height of the text
+    double LineTopMargin = 0;   ///< inches above the text of a line
   };
 
   SettingsRecord Settings;
@@ -32,8 +32,8 @@ class CReportOptions {
   std::string ColumnOption(int column, const std::string& name) const;
   std::string Var(const std::string& name) const;
 
-  /// Adds the options of a text "Name=Value,Name=Value"; a comma splits only where "Name=" follows, so a value may
-  /// hold commas. ":=" counts as "=".
+  /// Adds the options of a text "Name=Value,Name=Value"; a comma splits only where "Name=" follows, so a
+  /// value may hold commas. ":=" counts as "=".
   void AddOptionText(const std::string& text);
 
  private:
