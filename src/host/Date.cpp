@@ -54,7 +54,7 @@ int MonthOf(std::string_view name) {
 }  // namespace
 
 bool Date::Exists(int y, int m, int d) {
-  return y >= 100 && y <= 9999 && m >= 1 && m <= 12 && d >= 1 && Civil(y, m, d).ok();
+  return y >= 100 && y <= 9999 && m >= 1 && m <= 12 && d >= 1 && d <= 31 && Civil(y, m, d).ok();
 }
 
 Date Date::Of(int y, int m, int d) {

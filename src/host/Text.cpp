@@ -5,6 +5,7 @@
 #include <cmath>
 #include <unicode/locid.h>
 #include <unicode/unistr.h>
+#include <unicode/utf8.h>
 
 #include "host/Errors.h"
 
@@ -29,14 +30,10 @@ bool IsPlain(std::string_view text) {
 }  // namespace
 
 std::size_t CharBytes(std::string_view text, std::size_t at) {
-  const auto lead = static_cast<unsigned char>(text[at]);
-  const std::size_t wanted = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
-  std::size_t bytes = 1;
-  while (bytes < wanted && at + bytes < text.size() &&
-         (static_cast<unsigned char>(text[at + bytes]) & 0xC0) == 0x80) {
-    ++bytes;
-  }
-  return bytes;
+  const std::string_view rest = text.substr(at, U8_MAX_LENGTH);
+  int32_t bytes = 0;
+  U8_FWD_1(rest.data(), bytes, static_cast<int32_t>(rest.size()));
+  return static_cast<std::size_t>(bytes);
 }
 
 std::size_t Length(std::string_view text) {
@@ -137,6 +134,17 @@ std::string Repaired(std::string_view text) { return IsPlain(text) ? std::string
 
 namespace quillon {
 
+namespace {
+
+/// Of a number that floating point cannot hold: whether it is too small rather than too large.
+bool IsTiny(std::string_view number) {
+  const std::size_t exponent = number.find_first_of("eE");
+  if (exponent != std::string_view::npos) return number[exponent + 1] == '-';
+  return number.substr(0, number.find('.')).find_first_not_of("-0") == std::string_view::npos;
+}
+
+}  // namespace
+
 double Val(std::string_view text) {
   std::size_t at = text.find_first_not_of(" \t\r\n");
   if (at == std::string_view::npos) return 0;
@@ -150,7 +158,8 @@ double Val(std::string_view text) {
   }
   double value = 0;
   const auto result = std::from_chars(text.data() + at, text.data() + text.size(), value);
-  if (result.ec == std::errc::result_out_of_range) throw OverflowError();
+  if (result.ec == std::errc::result_out_of_range && !IsTiny({text.data() + at, result.ptr}))
+    throw OverflowError();
   return result.ec == std::errc() ? value : 0;
 }
 
