@@ -70,5 +70,17 @@ TEST_F(XmlTable, AFileThatCannotBeReadHasNoTables) {
   EXPECT_FALSE(table.Load((folder_ / "absent.xml").string()));
 }
 
+TEST_F(XmlTable, ElementsNestedWithoutEndDoNoHarm) {
+  constexpr int kDepth = 200000;
+  std::string deep;
+  for (int i = 0; i < kDepth; ++i) deep += "<Data>";
+  CXmlTable table;
+  EXPECT_FALSE(table.Load(File(deep)));
+  for (int i = 0; i < kDepth; ++i) deep += "</Data>";
+  ASSERT_TRUE(table.Load(File(deep)));
+  table.SelectTable("Data");
+  EXPECT_EQ(table.RowCount(), 1U);
+}
+
 }  // namespace
 }  // namespace quillon
