@@ -88,6 +88,7 @@ bool EditableGrid::EndEdit() {
     ValidateCell.Raise(editRow_, editCol_, text, cancel);
   } catch (...) {
     validating_ = false;
+    if (!editing_) Close();
     throw;
   }
   validating_ = false;
