@@ -108,10 +108,7 @@ void EditableGrid::CancelEdit() {
 }
 
 bool EditableGrid::UserEnterCell(int row, int col) {
-  RequireReachable();
-  RequireRow(row);
-  RequireCol(col);
-  if (!IsRowVisible(row)) throw Refused(FullName() + " row " + std::to_string(row) + " is hidden");
+  RequireUserCell(row, col);
   if (!OwnerForm().UserFocus(*this)) return false;
   return SetCell(row, col);
 }
