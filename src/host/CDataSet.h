@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "host/CDbLink.h"
@@ -32,8 +31,8 @@ class CDataSet {
   /// Nothing detaches an open set: its rows are read to the end and stay readable.
   void SetActiveConnection(std::nullptr_t);
 
-  /// The field of the current row; throws SubscriptError for a name or number that the query does not give, and
-  /// HostError before the first and past the last row.
+  /// The field of the current row; throws SubscriptError for a name or number that the query does not give,
+  /// and HostError before the first and past the last row.
   Variant Field(const std::string& name) const;
   Variant Field(std::size_t index) const;
   const std::vector<std::string>& FieldNames() const;
@@ -62,14 +61,17 @@ class CDataSet {
  private:
   RowSet& Opened() const;
   std::size_t IndexOf(const std::string& name) const;
+  void NoteNames();
   void Go(std::int64_t row);
 
   std::unique_ptr<RowSet> rows_;
   std::int64_t row_ = -1;
   bool atEnd_ = true;
   bool empty_ = true;
+  std::vector<std::size_t> firstOfName_;  // for each field the first one with its name
+  mutable std::size_t nextField_ = 0;
   bool adding_ = false;
-  std::vector<std::pair<std::size_t, Variant>> changed_;
+  RowSet::Changes changed_;
 };
 
 }  // namespace quillon
