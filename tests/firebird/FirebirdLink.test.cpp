@@ -287,6 +287,47 @@ TEST_F(LinkTest, ARefusedStatementSaysWhatWhyAndWhich) {
   link_->SetObserver(nullptr);
 }
 
+TEST_F(LinkTest, StatementsThatDifferInTheirValuesMeanWhatTheirTextsSay) {
+  const auto rows = [&](const std::string& sql) {
+    std::int64_t changed = -1;
+    link_->Execute(sql, changed, CDbLink::kNoRows);
+    return changed;
+  };
+  const auto prepared = [&] {
+    return link_->Lookup("mon$statements", "count(*)", "mon$sql_text like 'Update entries%?%'");
+  };
+  for (int i = 1; i <= 20; ++i) {
+    EXPECT_EQ(rows("Update entries set vdate='2024-05-" + std::to_string(i + 10) +
+                   "',mark='Y' where id=" + std::to_string(i) + " and line=1"),
+              1);
+  }
+  EXPECT_EQ(prepared().ToInteger(), 1) << "one statement serves them all";
+  EXPECT_EQ(link_->Lookup("entries", "max(vdate)", "mark='Y'").ToDate(), Date::Of(2024, 5, 30));
+
+  EXPECT_EQ(rows("Update entries set mark='N' where id=1.5"), 0);
+  EXPECT_EQ(rows("Update entries set mark='N' where id='1'"), 1);
+  EXPECT_EQ(rows("Update entries set mark='X' where id=99999999999"), 0);
+  EXPECT_EQ(rows("Update entries set amt=-5 where id=2"), 1);
+  EXPECT_EQ(rows("Update entries set amt=7 where id=3"), 1);
+  EXPECT_EQ(rows("Update entries set mark='longer' where mark='longer'"), 0);
+  EXPECT_EQ(rows("Update entries set mark=null where id=4 or id=5"), 2);
+  EXPECT_EQ(rows("Update entries set vdate='1-JUN-2024' where id=6 -- where id=7"), 1);
+  EXPECT_EQ(rows("Update narrations set narration='It''s ?, = 5' where nar=1"), 1);
+  EXPECT_EQ(rows("Insert Into narrations (nar,narration) values (7,'a,b')"), 1);
+  EXPECT_EQ(rows("delete from entries where id=9 and mark='Y'"), 1);
+  EXPECT_EQ(link_->Lookup("entries", "amt", "id=2").ToAmount(), Amount::OfInteger(-5));
+  EXPECT_EQ(link_->Lookup("entries", "amt", "id=3").ToAmount(), Amount::OfInteger(7));
+  EXPECT_EQ(link_->Lookup("entries", "mark", "id=1").ToText(), "N");
+  EXPECT_EQ(link_->Lookup("entries", "vdate", "id=6").ToDate(), Date::Of(2024, 6, 1));
+  EXPECT_EQ(link_->Lookup("narrations", "narration", "nar=1").ToText(), "It's ?, = 5");
+  EXPECT_EQ(ErrorOf([&] { rows("Update entries set vdate='2024-02-31' where id=1"); }).SqlState(), "22018");
+  const std::string twice = "Insert Into narrations (nar,narration) values (7,'c')";
+  EXPECT_EQ(ErrorOf([&] { rows(twice); }).Statement(), twice);
+
+  link_->Execute("alter table entries drop mark");
+  EXPECT_EQ(ErrorOf([&] { rows("Update entries set mark='N' where id=1"); }).SqlState(), "42S22");
+}
+
 TEST_F(LinkTest, ALockedRecordIsRefusedInsteadOfHanging) {
   const auto other = FirebirdLink::Open(address_, "2024");
   other->BeginTrans();

@@ -2,6 +2,7 @@
 
 #include "desk/firebird/FirebirdRows.h"
 #include "desk/firebird/FirebirdStatus.h"
+#include "desk/firebird/LiftedSql.h"
 #include "desk/firebird/SqlText.h"
 #include "host/Errors.h"
 
@@ -61,7 +62,7 @@ auto FirebirdLink::Send(const std::string& sql, Action action) {
     return action();
   } catch (const DbError& error) {
     NoteFailure(sql, error);
-    if (!error.Statement().empty()) throw;
+    if (error.Statement() == sql) throw;
     throw DbError(error.what(), error.SqlState(), sql);
   } catch (const HostError& error) {
     Tell(sql, 0, error.what());
@@ -92,15 +93,37 @@ FirebirdStatement& FirebirdLink::Prepared(const std::string& statement) {
 
 void FirebirdLink::Execute(const std::string& sql, std::int64_t& rowsAffected, int /*options*/) {
   rowsAffected = Send(sql, [&] {
-    FirebirdStatement statement(Writing(), sql);
-    if (!statement.ChangesRows()) {
-      // Prepared statements would hold on to tables that this one alters.
-      prepared_.clear();
-      keys_.clear();
-    }
-    return statement.Execute(Writing());
+    const std::optional<std::int64_t> rows = ExecuteLifted(sql);
+    return rows ? *rows : ExecutePlain(sql);
   });
   Tell(sql, rowsAffected, {});
+}
+
+/// A statement in a loop costs its parse: those that differ only in their values are prepared once.
+std::optional<std::int64_t> FirebirdLink::ExecuteLifted(const std::string& sql) {
+  const std::optional<LiftedSql> lifted = LiftedSql::Of(sql);
+  if (!lifted) return {};
+  FirebirdStatement* statement = nullptr;
+  try {
+    statement = &Prepared(lifted->Shape);
+  } catch (const DbError& error) {
+    // The text itself tells what is wrong with it.
+    if (FirebirdStatus::IsConnectionLost(error.SqlState())) throw;
+    return {};
+  }
+  const std::optional<std::vector<Variant>> values = lifted->ValuesFor(*statement);
+  if (!values) return {};
+  return statement->Execute(Writing(), *values);
+}
+
+std::int64_t FirebirdLink::ExecutePlain(const std::string& sql) {
+  FirebirdStatement statement(Writing(), sql);
+  if (!statement.ChangesRows()) {
+    // Prepared statements would hold on to tables that this one alters.
+    prepared_.clear();
+    keys_.clear();
+  }
+  return statement.Execute(Writing());
 }
 
 std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<const Variant> values) {

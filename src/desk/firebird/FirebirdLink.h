@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -64,6 +65,8 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   void Tell(const std::string& sql, std::int64_t rows, const std::string& error);
   const std::shared_ptr<FirebirdTransaction>& Reading();
   FirebirdTransaction& Writing();
+  std::optional<std::int64_t> ExecuteLifted(const std::string& sql);
+  std::int64_t ExecutePlain(const std::string& sql);
   FirebirdStatement& Prepared(const std::string& statement);
   Variant FirstValue(const std::string& sql);
 
