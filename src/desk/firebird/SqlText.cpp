@@ -32,13 +32,18 @@ std::size_t FindFrom(const std::string& query) {
   return query.size();
 }
 
+std::string Quoted(const std::string& text) {
+  std::string quoted("'");
+  return quoted.append(text).append("'");
+}
+
 std::string Literal(const Variant& value) {
   if (value.IsNull() || value.IsEmpty()) return "null";
   if (value.Is<Date>()) {
     const Date date = value.As<Date>();
-    return date.IsEmpty() ? "null" : "'" + date.Format("yyyy-MM-dd") + "'";
+    return date.IsEmpty() ? "null" : Quoted(date.Format("yyyy-MM-dd"));
   }
-  if (value.Is<std::string>()) return "'" + text::ReplaceAll(value.As<std::string>(), "'", "''") + "'";
+  if (value.Is<std::string>()) return Quoted(text::ReplaceAll(value.As<std::string>(), "'", "''"));
   return value.ToText();
 }
 
