@@ -45,6 +45,9 @@ class FirebirdServer {
     return {"inet://127.0.0.1:" + std::to_string(port_) + "/" + folder_.File(file), kUser, kPassword};
   }
 
+  /// The folder that the server may use.
+  const std::filesystem::path& Folder() const { return folder_.Path(); }
+
   void Start() {
     process_ = fork();
     if (process_ == 0) {
