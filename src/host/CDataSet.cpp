@@ -7,11 +7,24 @@
 
 namespace quillon {
 
+namespace {
+
+char Capital(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+bool SameName(const std::string& a, const std::string& b) {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Capital(x) == Capital(y); });
+}
+
+}  // namespace
+
 void CDataSet::Open(const std::string& sql, CDbLink& link, int /*cursorMode*/, int lockMode) {
   Close();
-  rows_ = link.OpenRows(sql, lockMode == kLockOptimistic, CursorLocation == kUseClient);
-  Go(0);
-  empty_ = atEnd_;
+  std::unique_ptr<RowSet> rows = link.OpenRows(sql, lockMode == kLockOptimistic, CursorLocation == kUseClient);
+  empty_ = atEnd_ = !rows->Seek(0);
+  rows_ = std::move(rows);
+  row_ = 0;
+  NoteNames();
 }
 
 void CDataSet::SetActiveConnection(std::nullptr_t) { Opened().Detach(); }
@@ -22,15 +35,29 @@ RowSet& CDataSet::Opened() const {
 }
 
 std::size_t CDataSet::IndexOf(const std::string& name) const {
+  // Forms read the same fields row after row, mostly in the same order: the search goes on where the last one
+  // ended.
   const std::vector<std::string>& names = Opened().FieldNames();
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    if (names[i] == name) return i;
+  const auto start = names.begin() + static_cast<std::ptrdiff_t>(std::min(nextField_, names.size()));
+  const auto isWanted = [&](const std::string& field) { return SameName(field, name); };
+  auto found = std::find_if(start, names.end(), isWanted);
+  if (found == names.end()) {
+    found = std::find_if(names.begin(), start, isWanted);
+    if (found == start) throw SubscriptError(name);
   }
-  const std::string wanted = text::Upper(name);
+  const auto index = static_cast<std::size_t>(found - names.begin());
+  nextField_ = index + 1;
+  return firstOfName_[index];
+}
+
+void CDataSet::NoteNames() {
+  const std::vector<std::string>& names = rows_->FieldNames();
+  firstOfName_.clear();
   for (std::size_t i = 0; i < names.size(); ++i) {
-    if (text::Upper(names[i]) == wanted) return i;
+    const auto same = [&](const std::string& other) { return SameName(other, names[i]); };
+    firstOfName_.push_back(
+        static_cast<std::size_t>(std::find_if(names.begin(), names.end(), same) - names.begin()));
   }
-  throw SubscriptError(name);
 }
 
 Variant CDataSet::Field(const std::string& name) const { return Field(IndexOf(name)); }
@@ -69,8 +96,7 @@ void CDataSet::Update() {
   RowSet& rows = Opened();
   if (adding_) {
     rows.Append(changed_);
-    adding_ = false;
-    changed_.clear();
+    empty_ = false;
     Go(rows.Count() - 1);
   } else if (!changed_.empty()) {
     rows.Write(row_, changed_);
@@ -117,6 +143,7 @@ void CDataSet::Close() {
   changed_.clear();
   adding_ = false;
   row_ = -1;
+  nextField_ = 0;
   atEnd_ = empty_ = true;
 }
 

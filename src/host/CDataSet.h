@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "host/CDbLink.h"
@@ -62,14 +61,17 @@ class CDataSet {
  private:
   RowSet& Opened() const;
   std::size_t IndexOf(const std::string& name) const;
+  void NoteNames();
   void Go(std::int64_t row);
 
   std::unique_ptr<RowSet> rows_;
   std::int64_t row_ = -1;
   bool atEnd_ = true;
   bool empty_ = true;
+  std::vector<std::size_t> firstOfName_;  // for each field the first one with its name
+  mutable std::size_t nextField_ = 0;
   bool adding_ = false;
-  std::vector<std::pair<std::size_t, Variant>> changed_;
+  RowSet::Changes changed_;
 };
 
 }  // namespace quillon

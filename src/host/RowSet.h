@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/Variant.h"
@@ -11,6 +12,9 @@ namespace quillon {
 /// The rows of an opened query, as a database driver gives them to CDataSet. Rows count from 0.
 class RowSet {
  public:
+  /// Fields by their number, with the values that they are given.
+  using Changes = std::vector<std::pair<std::size_t, Variant>>;
+
   RowSet() = default;
   RowSet(const RowSet&) = delete;
   RowSet& operator=(const RowSet&) = delete;
@@ -33,8 +37,8 @@ class RowSet {
 
   /// Writes the given fields of a row back, by the primary key of the table that the row came from, or adds a
   /// row; throws HostError on a set that was not opened for change.
-  virtual void Write(std::int64_t row, const std::vector<std::pair<std::size_t, Variant>>& fields) = 0;
-  virtual void Append(const std::vector<std::pair<std::size_t, Variant>>& fields) = 0;
+  virtual void Write(std::int64_t row, const Changes& fields) = 0;
+  virtual void Append(const Changes& fields) = 0;
 };
 
 }  // namespace quillon

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace Firebird {
+class IAttachment;
+}
+
+namespace quillon {
+
+/// Where a database is and who opens it. The embedded engine opens a plain file name, without a password;
+/// "inet://host:port/path" names a server.
+struct FirebirdAddress {
+  std::string Database;
+  std::string User;
+  std::string Password;
+
+  bool IsServer() const { return Database.find("://") != std::string::npos; }
+};
+
+/// One attachment to a database, detached when the last holder lets go.
+class FirebirdAttachment {
+ public:
+  /// Throws DbError.
+  static std::shared_ptr<FirebirdAttachment> Attach(const FirebirdAddress& address);
+
+  /// Makes a new database; throws DbError when there is one already.
+  static std::shared_ptr<FirebirdAttachment> Create(const FirebirdAddress& address);
+
+  explicit FirebirdAttachment(Firebird::IAttachment* attachment) : attachment_(attachment) {}
+  FirebirdAttachment(const FirebirdAttachment&) = delete;
+  FirebirdAttachment& operator=(const FirebirdAttachment&) = delete;
+  ~FirebirdAttachment();
+
+  Firebird::IAttachment* operator->() const { return attachment_; }
+
+ private:
+  Firebird::IAttachment* attachment_;
+};
+
+}  // namespace quillon

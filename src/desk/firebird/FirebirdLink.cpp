@@ -1,0 +1,211 @@
+#include "desk/firebird/FirebirdLink.h"
+
+#include "desk/firebird/FirebirdRows.h"
+#include "desk/firebird/FirebirdStatus.h"
+#include "desk/firebird/LiftedSql.h"
+#include "desk/firebird/SqlText.h"
+#include "host/Errors.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr std::size_t kPreparedKept = 32;
+
+constexpr const char* kKeyQuery =
+    "select trim(s.rdb$field_name) from rdb$relation_constraints c join rdb$index_segments s on "
+    "s.rdb$index_name=c.rdb$index_name where c.rdb$constraint_type='PRIMARY KEY' and c.rdb$relation_name='";
+
+}  // namespace
+
+std::shared_ptr<FirebirdLink> FirebirdLink::Open(FirebirdAddress address, std::string label) {
+  auto link = std::make_shared<FirebirdLink>(std::move(address), std::move(label));
+  link->Attach();
+  return link;
+}
+
+FirebirdLink::FirebirdLink(FirebirdAddress address, std::string label)
+    : address_(std::move(address)), label_(std::move(label)) {}
+
+FirebirdLink::~FirebirdLink() { Drop(); }
+
+void FirebirdLink::Attach() {
+  if (attachment_) return;
+  if (inTransaction_) {
+    throw DbError("The connection was lost in the middle of a transaction; nothing of it was stored", "08006",
+                  "");
+  }
+  attachment_ = FirebirdAttachment::Attach(address_);
+}
+
+void FirebirdLink::Drop() {
+  prepared_.clear();
+  read_.reset();
+  auto_.reset();
+  work_.reset();
+  attachment_.reset();
+}
+
+void FirebirdLink::Tell(const std::string& sql, std::int64_t rows, const std::string& error) {
+  if (observer_) observer_->OnStatement(*this, label_, sql, rows, error);
+}
+
+void FirebirdLink::NoteFailure(const std::string& sql, const DbError& error) {
+  if (FirebirdStatus::IsConnectionLost(error.SqlState())) Drop();
+  Tell(sql, 0, error.what());
+}
+
+template <class Action>
+auto FirebirdLink::Send(const std::string& sql, Action action) {
+  try {
+    Attach();
+    return action();
+  } catch (const DbError& error) {
+    NoteFailure(sql, error);
+    if (error.Statement() == sql) throw;
+    throw DbError(error.what(), error.SqlState(), sql);
+  } catch (const HostError& error) {
+    Tell(sql, 0, error.what());
+    throw;
+  }
+}
+
+const std::shared_ptr<FirebirdTransaction>& FirebirdLink::Reading() {
+  if (work_) return work_;
+  if (!read_) read_ = std::make_shared<FirebirdTransaction>(attachment_, FirebirdTransaction::Kind::kRead);
+  return read_;
+}
+
+FirebirdTransaction& FirebirdLink::Writing() {
+  if (work_) return *work_;
+  if (!auto_)
+    auto_ = std::make_shared<FirebirdTransaction>(attachment_, FirebirdTransaction::Kind::kAutoCommit);
+  return *auto_;
+}
+
+FirebirdStatement& FirebirdLink::Prepared(const std::string& statement) {
+  const auto kept = prepared_.find(statement);
+  if (kept != prepared_.end()) return *kept->second;
+  if (prepared_.size() >= kPreparedKept) prepared_.clear();
+  return *prepared_.emplace(statement, std::make_unique<FirebirdStatement>(Writing(), statement))
+              .first->second;
+}
+
+void FirebirdLink::Execute(const std::string& sql, std::int64_t& rowsAffected, int /*options*/) {
+  rowsAffected = Send(sql, [&] {
+    const std::optional<std::int64_t> rows = ExecuteLifted(sql);
+    return rows ? *rows : ExecutePlain(sql);
+  });
+  Tell(sql, rowsAffected, {});
+}
+
+/// A statement in a loop costs its parse: those that differ only in their values are prepared once.
+std::optional<std::int64_t> FirebirdLink::ExecuteLifted(const std::string& sql) {
+  const std::optional<LiftedSql> lifted = LiftedSql::Of(sql);
+  if (!lifted) return {};
+  FirebirdStatement* statement = nullptr;
+  try {
+    statement = &Prepared(lifted->Shape);
+  } catch (const DbError& error) {
+    // The text itself tells what is wrong with it.
+    if (FirebirdStatus::IsConnectionLost(error.SqlState())) throw;
+    return {};
+  }
+  const std::optional<std::vector<Variant>> values = lifted->ValuesFor(*statement);
+  if (!values) return {};
+  return statement->Execute(Writing(), *values);
+}
+
+std::int64_t FirebirdLink::ExecutePlain(const std::string& sql) {
+  FirebirdStatement statement(Writing(), sql);
+  if (!statement.ChangesRows()) {
+    // Prepared statements would hold on to tables that this one alters.
+    prepared_.clear();
+    keys_.clear();
+  }
+  return statement.Execute(Writing());
+}
+
+std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<const Variant> values) {
+  const std::string shown = WithLiterals(statement, values);
+  const std::int64_t rows = Send(shown, [&] { return Prepared(statement).Execute(Writing(), values); });
+  Tell(shown, rows, {});
+  return rows;
+}
+
+Variant FirebirdLink::FirstValue(const std::string& sql) {
+  Variant value = Send(sql, [&] {
+    FirebirdStatement statement(*Reading(), sql);
+    statement.Open(Reading());
+    const Variant first = statement.Fetch() ? statement.Value(0) : Variant();
+    // What LIST makes lives as long as its transaction.
+    if (statement.Outputs()[0].Holds == FirebirdField::Kind::kBlob) read_.reset();
+    return first;
+  });
+  Tell(sql, 0, {});
+  return value;
+}
+
+Variant FirebirdLink::Lookup(const std::string& table, const std::string& expression,
+                             const std::string& where) {
+  const Variant value = FirstValue("select first 1 " + expression + " from " + table +
+                                   (where.empty() ? "" : " where " + where));
+  return value.IsNull() ? Variant() : value;
+}
+
+bool FirebirdLink::TableExists(const std::string& name) {
+  return !FirstValue(WithLiterals("select 1 from rdb$relations where rdb$relation_name=?", {{Variant(name)}}))
+              .IsEmpty();
+}
+
+bool FirebirdLink::RowExists(const std::string& sql) { return !FirstValue(sql).IsEmpty(); }
+
+void FirebirdLink::BeginTrans() {
+  if (inTransaction_) throw HostError("A transaction is open already");
+  Send("",
+       [&] { work_ = std::make_shared<FirebirdTransaction>(attachment_, FirebirdTransaction::Kind::kWork); });
+  inTransaction_ = true;
+}
+
+void FirebirdLink::CommitTrans() {
+  if (!inTransaction_) throw HostError("There is no transaction to store");
+  const std::shared_ptr<FirebirdTransaction> ended = std::move(work_);
+  try {
+    Send("", [&] {
+      if (ended) ended->Commit();
+    });
+  } catch (const DbError&) {
+    inTransaction_ = false;
+    throw;
+  }
+  inTransaction_ = false;
+}
+
+void FirebirdLink::RollbackTrans() {
+  if (!inTransaction_) throw HostError("There is no transaction to take back");
+  inTransaction_ = false;
+  work_.reset();
+}
+
+std::unique_ptr<RowSet> FirebirdLink::OpenRows(const std::string& sql, bool changeable, bool keep) {
+  auto rows = Send(sql, [&] {
+    const bool whole = keep || inTransaction_;
+    auto opened = std::make_unique<FirebirdRows>(*this, Reading(), sql, changeable, whole);
+    if (opened->HasBlobs()) read_.reset();
+    return opened;
+  });
+  Tell(sql, 0, {});
+  return rows;
+}
+
+const std::vector<std::string>& FirebirdLink::KeyOf(const std::string& table) {
+  const auto known = keys_.find(table);
+  if (known != keys_.end()) return known->second;
+  FirebirdStatement statement(*Reading(), kKeyQuery + table + "' order by s.rdb$field_position");
+  statement.Open(Reading());
+  std::vector<std::string> columns;
+  while (statement.Fetch()) columns.push_back(statement.Value(0).ToText());
+  return keys_.emplace(table, std::move(columns)).first->second;
+}
+
+}  // namespace quillon

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+
+#include "desk/firebird/FirebirdAttachment.h"
+
+namespace Firebird {
+class ITransaction;
+}
+
+namespace quillon {
+
+/// A transaction; what is not committed when it ends is rolled back. It sees what others have committed and
+/// waits two seconds for a record that another one is changing.
+class FirebirdTransaction {
+ public:
+  enum class Kind {
+    kRead,        ///< Reads only; costs nothing while it stays open.
+    kAutoCommit,  ///< The engine commits each statement.
+    kWork,        ///< Holds until Commit.
+  };
+
+  /// Throws DbError.
+  FirebirdTransaction(std::shared_ptr<FirebirdAttachment> attachment, Kind kind);
+  FirebirdTransaction(const FirebirdTransaction&) = delete;
+  FirebirdTransaction& operator=(const FirebirdTransaction&) = delete;
+  ~FirebirdTransaction();
+
+  /// Throws DbError; what was done is then rolled back when the object dies.
+  void Commit();
+
+  const std::shared_ptr<FirebirdAttachment>& Attachment() const { return attachment_; }
+  Firebird::ITransaction* Handle() const { return transaction_; }
+
+ private:
+  std::shared_ptr<FirebirdAttachment> attachment_;
+  Firebird::ITransaction* transaction_ = nullptr;
+};
+
+}  // namespace quillon

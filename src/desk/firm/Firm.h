@@ -1,0 +1,77 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "desk/firebird/FirebirdLink.h"
+#include "desk/firm/FirmFile.h"
+#include "desk/firm/FirmLock.h"
+
+namespace quillon {
+
+/// What a firm is known by: its row in the common database.
+struct FirmDetails {
+  std::string FirmName;
+  std::string AuthName;
+  std::string AuthDesig;
+  std::string Address1;
+  std::string Address2;
+  std::string Address3;
+  std::string Station;
+  std::string Pin;
+  std::string State;
+  std::string Phone;
+};
+
+/// An opened financial year.
+struct FirmYear {
+  int StartYear = 0;
+  Date StartDate;
+  Date EndDate;
+  std::shared_ptr<FirebirdLink> Db;
+};
+
+/// A firm: a folder with firm.json, a common database and one for each financial year.
+class Firm {
+ public:
+  /// Opens the common database. Throws HostError in plain words when that cannot be done.
+  static std::unique_ptr<Firm> Open(const std::filesystem::path& folder);
+
+  /// Use Open.
+  explicit Firm(const std::filesystem::path& folder);
+
+  const std::string& Name() const { return file_.Name; }
+  const std::filesystem::path& Folder() const { return folder_; }
+  const std::shared_ptr<FirebirdLink>& Common() const { return common_; }
+
+  /// The calendar years in which the firm's years start, the earliest first.
+  std::vector<int> Years() const;
+  bool HasYear(int startYear) const { return file_.Years.contains(startYear); }
+
+  /// One link for each year, opened at its first use. Throws HostError for a year that the firm does not have
+  /// or whose database cannot be opened.
+  const FirmYear& OpenYear(int startYear);
+
+  /// Is told of the statements of all links, those opened later too; nothing takes it off.
+  void SetObserver(SqlObserver* observer);
+
+ private:
+  std::filesystem::path folder_;
+  FirmFile file_;
+  std::optional<FirmLock> lock_;
+  std::shared_ptr<FirebirdLink> common_;
+  std::map<int, FirmYear> years_;
+  SqlObserver* observer_ = nullptr;
+};
+
+/// Makes a firm without accounts and entries in a folder, which is made too. `server` is a place on a server
+/// where the databases go, such as "inet://host:port//srv/books", with its user; without one they are files
+/// in the folder. Throws HostError when there is a firm already or the place cannot be written.
+void CreateFirm(const std::filesystem::path& folder, const FirmDetails& details,
+                const std::vector<int>& years, const FirebirdAddress& server = {});
+
+}  // namespace quillon

@@ -1,0 +1,367 @@
+#include "desk/firebird/FirebirdLink.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+#include "host/CDataSet.h"
+#include "host/Errors.h"
+#include "tests/support/TempFolder.h"
+
+namespace quillon {
+namespace {
+
+class Recorder : public SqlObserver {
+ public:
+  void OnStatement(const CDbLink&, const std::string& db, const std::string& sql, std::int64_t rows,
+                   const std::string& error) override {
+    Lines.push_back(db + "|" + sql + "|" + std::to_string(rows) + (error.empty() ? "" : "|failed"));
+  }
+  std::vector<std::string> Lines;
+};
+
+/// A database with a small ledger: entries keyed by voucher and line, narrations keyed, notes without a key.
+class LinkTest : public testing::Test {
+ protected:
+  LinkTest() {
+    FirebirdAttachment::Create(address_);
+    link_ = FirebirdLink::Open(address_, "2024");
+    link_->Execute(
+        "create table entries (id int not null, line int not null, vdate date, amt numeric(18,4), nar int, "
+        "mark varchar(1), primary key (id, line))");
+    link_->Execute("create table narrations (nar int not null primary key, narration varchar(250))");
+    link_->Execute("create table notes (who varchar(40), what blob sub_type text)");
+    Fill(40);
+  }
+
+  void Fill(int count) {
+    link_->BeginTrans();
+    for (int i = 1; i <= count; ++i) {
+      const std::string id = std::to_string(i);
+      link_->Execute("insert into entries (id,line,vdate,amt,nar) values (" + id + ",1,'2024-04-05'," + id +
+                     ".25," + std::to_string(i % 3 + 1) + ")");
+    }
+    link_->Execute("insert into narrations values (1,'By cash')");
+    link_->Execute("insert into narrations values (2,'Chq 4711')");
+    link_->Execute("insert into narrations values (3,'Rent')");
+    link_->CommitTrans();
+  }
+
+  template <class Action>
+  static DbError ErrorOf(Action action) {
+    try {
+      action();
+    } catch (const DbError& error) {
+      return error;
+    }
+    ADD_FAILURE() << "no error came";
+    return {"", "", ""};
+  }
+
+  TempFolder folder_;
+  FirebirdAddress address_{folder_.File("books.fdb"), "", ""};
+  std::shared_ptr<FirebirdLink> link_;
+};
+
+TEST_F(LinkTest, ValuesOfAllTypesComeBackAsTheyWereStored) {
+  link_->Execute(
+      "create table kinds (id int not null primary key, small smallint, big bigint, money numeric(18,4), "
+      "rate "
+      "numeric(9,6), ratio double precision, flag boolean, vdate date, stamp timestamp, fixed char(8), name "
+      "varchar(40), letter blob sub_type text)");
+  const std::string longText(100000, 'x');
+  {
+    CDataSet set;
+    set.Open("select * from kinds", *link_, 3, 3);
+    set.AddNew();
+    set.SetField("id", 1);
+    set.SetField("small", -7);
+    set.SetField("big", 9007199254740993LL);
+    set.SetField("money", Amount::OfText("-922337203685477.5807"));
+    set.SetField("rate", Amount::OfText("9.5"));
+    set.SetField("ratio", 0.125);
+    set.SetField("flag", true);
+    set.SetField("vdate", Date::Of(1899, 12, 31));
+    set.SetField("stamp", Date::Of(2024, 2, 29));
+    set.SetField("fixed", "ab");
+    set.SetField("name", "श्री गणेश ट्रेडर्स");
+    set.SetField("letter", longText + "ळ");
+    set.Update();
+    EXPECT_FALSE(set.Bof());
+    set.AddNew();
+    set.SetField("id", 2);
+    set.Update();
+    EXPECT_EQ(set.RecordCount(), 2);
+  }
+  CDataSet set;
+  set.Open("select * from kinds order by id", *link_);
+  EXPECT_EQ(set.Field("small").As<std::int64_t>(), -7);
+  EXPECT_EQ(set.Field("big").As<std::int64_t>(), 9007199254740993);
+  EXPECT_EQ(set.Field("MONEY").As<Amount>(), Amount::OfText("-922337203685477.5807"));
+  EXPECT_EQ(set.Field("rate").As<Amount>(), Amount::OfText("9.5"));
+  EXPECT_EQ(set.Field("ratio").As<double>(), 0.125);
+  EXPECT_TRUE(set.Field("flag").As<bool>());
+  EXPECT_EQ(set.Field("vdate").As<Date>(), Date::Of(1899, 12, 31));
+  EXPECT_EQ(set.Field("stamp").As<Date>(), Date::Of(2024, 2, 29));
+  EXPECT_EQ(set.Field("fixed").As<std::string>(), "ab");
+  EXPECT_EQ(set.Field("name").As<std::string>(), "श्री गणेश ट्रेडर्स");
+  EXPECT_EQ(set.Field("letter").As<std::string>(), longText + "ळ");
+  set.MoveNext();
+  for (std::size_t i = 1; i < set.FieldNames().size(); ++i) EXPECT_TRUE(set.Field(i).IsNull()) << i;
+}
+
+TEST_F(LinkTest, LookupGivesAggregatesListsAndAnEmptyValueWithoutARow) {
+  EXPECT_EQ(link_->Lookup("ENTRIES", "Sum(amt)", "").As<Amount>(), Amount::OfText("830"));
+  EXPECT_EQ(link_->Lookup("entries", "Max(id)", "").ToInteger(), 40);
+  EXPECT_EQ(link_->Lookup("entries", "Count(id)", "nar=1").ToInteger(), 13);
+  EXPECT_EQ(link_->Lookup("entries", "LIST(id)", "id<=3").As<std::string>(), "1,2,3");
+  EXPECT_EQ(link_->Lookup("narrations", "narration", "nar=2").As<std::string>(), "Chq 4711");
+  EXPECT_TRUE(link_->Lookup("narrations", "narration", "nar=9").IsEmpty());
+  EXPECT_TRUE(link_->Lookup("entries", "Sum(amt)", "id=0").IsEmpty());
+  EXPECT_TRUE(link_->Lookup("entries", "mark", "id=1").IsEmpty());
+  EXPECT_TRUE(link_->TableExists("NOTES"));
+  EXPECT_FALSE(link_->TableExists("LETTERS"));
+  EXPECT_TRUE(link_->RowExists("select * from entries where id=40"));
+  EXPECT_FALSE(link_->RowExists("select * from entries where id=41"));
+  EXPECT_TRUE(link_->RowExists("select mark from entries where id=40"));
+}
+
+TEST_F(LinkTest, StatementsCommitByThemselvesAndTransactionsHoldTogether) {
+  const auto other = FirebirdLink::Open(address_, "2024");
+  std::int64_t rows = 0;
+  link_->Execute("Update entries set mark='Y' where nar=1", rows, CDbLink::kNoRows);
+  EXPECT_EQ(rows, 13);
+  EXPECT_EQ(other->Lookup("entries", "count(*)", "mark='Y'").ToInteger(), 13);
+
+  link_->BeginTrans();
+  link_->Execute("delete from entries where nar=1");
+  EXPECT_EQ(link_->Lookup("entries", "count(*)", "").ToInteger(), 27);
+  EXPECT_EQ(other->Lookup("entries", "count(*)", "").ToInteger(), 40);
+  CDataSet inside;
+  inside.Open("select id from entries", *link_);
+  EXPECT_THROW(link_->BeginTrans(), HostError);
+  link_->RollbackTrans();
+  EXPECT_EQ(inside.RecordCount(), 27) << "a set opened in a transaction outlives it";
+  EXPECT_EQ(link_->Lookup("entries", "count(*)", "").ToInteger(), 40);
+  EXPECT_THROW(link_->CommitTrans(), HostError);
+  EXPECT_THROW(link_->RollbackTrans(), HostError);
+
+  link_->BeginTrans();
+  link_->Execute("delete from entries where id=1");
+  link_.reset();
+  EXPECT_TRUE(other->RowExists("select * from entries where id=1")) << "what is not committed is rolled back";
+}
+
+TEST_F(LinkTest, AnOpenSetIsWalkedBothWaysWhileStatementsCommit) {
+  link_->Execute("delete from entries");
+  link_->Execute("delete from narrations");
+  Fill(1000);
+  CDataSet set;
+  set.Open("select a.*,n.narration from entries a, narrations n where a.nar=n.nar order by a.id", *link_);
+  for (int i = 1; i <= 600; ++i, set.MoveNext()) {
+    ASSERT_EQ(set.Field("id").ToInteger(), i);
+    ASSERT_EQ(set.Field("Narration").ToText(), i % 3 == 0 ? "By cash" : i % 3 == 1 ? "Chq 4711" : "Rent");
+    link_->Execute("Update entries set mark='Y' where id=" + std::to_string(i) + " and line=1");
+  }
+  set.MovePrevious();
+  EXPECT_EQ(set.Field("id").ToInteger(), 600);
+  EXPECT_EQ(set.RecordCount(), 1000);
+  set.MoveLast();
+  EXPECT_EQ(set.Field("amt").ToAmount(), Amount::OfText("1000.25"));
+  set.MoveNext();
+  EXPECT_TRUE(set.Eof());
+  EXPECT_THROW(set.Field("id"), HostError);
+  set.MovePrevious();
+  EXPECT_EQ(set.Field("id").ToInteger(), 1000);
+  set.Find("ID=777");
+  EXPECT_EQ(set.Field(0).ToInteger(), 777);
+  set.Find("ID=7777");
+  EXPECT_TRUE(set.Eof());
+  set.MoveFirst();
+  set.MovePrevious();
+  EXPECT_TRUE(set.Bof());
+  EXPECT_THROW(set.Field("nothing"), SubscriptError);
+  EXPECT_EQ(link_->Lookup("entries", "count(*)", "mark='Y'").ToInteger(), 600);
+}
+
+TEST_F(LinkTest, AChangedRowIsWrittenByItsKeyWhateverJoinsTheQueryHas) {
+  Recorder recorder;
+  link_->SetObserver(&recorder);
+  CDataSet set;
+  set.Open(
+      "Select A.*,n.nar as n2,n.narration from entries a Inner Join narrations n on a.nar=n.nar "
+      "Left Join entries b on b.id=a.id+1 where a.id in (5,6) order by a.id",
+      *link_, 3, 3);
+  set.SetField("amt", Amount::OfText("77.5"));
+  set.SetField("mark", "Y");
+  set.Update();
+  EXPECT_EQ(recorder.Lines.back(), "2024|update ENTRIES set AMT=77.5,MARK='Y' where ID=5 and LINE=1|1");
+  EXPECT_EQ(set.Field("amt").As<Amount>(), Amount::OfText("77.5"));
+  set.SetField("narration", "It's changed");
+  set.SetField("vdate", Variant::Null());
+  set.Update();
+  set.MoveNext();
+  const std::size_t sent = recorder.Lines.size();
+  set.Update();
+  EXPECT_EQ(recorder.Lines.size(), sent) << "a row without changes sends nothing";
+  EXPECT_TRUE(
+      link_->RowExists("select * from entries where id=5 and amt=77.5 and mark='Y' and vdate is null"));
+  EXPECT_EQ(link_->Lookup("entries", "count(*)", "amt=77.5").ToInteger(), 1);
+  EXPECT_EQ(link_->Lookup("narrations", "narration", "nar=3").ToText(), "It's changed");
+
+  link_->Execute("delete from entries where id=6");
+  set.SetField("mark", "N");
+  EXPECT_EQ(ErrorOf([&] { set.Update(); }).SqlState(), "02000");
+  link_->SetObserver(nullptr);
+}
+
+TEST_F(LinkTest, RowsAreChangedAlsoWhereTheQueryOrTheTableHasNoKey) {
+  CDataSet amounts;
+  amounts.Open("select first 2 e.amt, e.mark from entries e where e.id>10 order by e.id", *link_, 1, 3);
+  EXPECT_EQ(amounts.FieldNames(), (std::vector<std::string>{"AMT", "MARK"}));
+  amounts.MoveNext();
+  amounts.SetField("mark", "Z");
+  amounts.Update();
+  EXPECT_EQ(link_->Lookup("entries", "id", "mark='Z'").ToInteger(), 12);
+
+  CDataSet notes;
+  notes.Open("select * from notes n", *link_, 3, 3);
+  EXPECT_TRUE(notes.Eof());
+  for (const char* who : {"Asha", "Asha", "Bela"}) {
+    notes.AddNew();
+    notes.SetField("who", who);
+    notes.SetField("what", std::string("letter to ") + who);
+    notes.Update();
+  }
+  notes.Open("select * from notes where who='Asha'", *link_, 1, 3);
+  notes.SetField("what", "answered");
+  notes.Update();
+  notes.Close();
+  EXPECT_EQ(link_->Lookup("notes", "count(*)", "what='answered'").ToInteger(), 1);
+
+  CDataSet totals;
+  totals.Open("select nar, sum(amt) as total from entries group by nar", *link_, 3, 3);
+  EXPECT_EQ(totals.RecordCount(), 3);
+  totals.SetField("total", 1);
+  EXPECT_THROW(totals.Update(), HostError);
+  CDataSet readOnly;
+  readOnly.Open("select * from entries", *link_, 3, 1);
+  readOnly.SetField("mark", "N");
+  EXPECT_THROW(readOnly.Update(), HostError);
+}
+
+TEST_F(LinkTest, ADetachedSetNeedsNoConnection) {
+  CDataSet set;
+  set.CursorLocation = CDataSet::kUseClient;
+  set.Open("select * from entries order by id", *link_, 3, 3);
+  set.SetActiveConnection(nullptr);
+  link_.reset();
+  EXPECT_EQ(set.RecordCount(), 40);
+  set.MoveLast();
+  EXPECT_EQ(set.Field("id").ToInteger(), 40);
+  set.SetField("mark", "Y");
+  EXPECT_THROW(set.Update(), HostError);
+}
+
+TEST_F(LinkTest, ARefusedStatementSaysWhatWhyAndWhich) {
+  Recorder recorder;
+  link_->SetObserver(&recorder);
+  const std::string wrong = "Update entry set mark='Y'";
+  const DbError unknown = ErrorOf([&] { link_->Execute(wrong); });
+  EXPECT_EQ(unknown.SqlState(), "42S02");
+  EXPECT_EQ(unknown.Statement(), wrong);
+  EXPECT_NE(std::string(unknown.what()).find("ENTRY"), std::string::npos);
+  EXPECT_EQ(recorder.Lines.back(), "2024|" + wrong + "|0|failed");
+  const DbError twice = ErrorOf([&] { link_->Execute("insert into narrations values (1,'again')"); });
+  EXPECT_EQ(twice.SqlState(), "23000");
+  CDataSet set;
+  EXPECT_EQ(ErrorOf([&] { set.Open("select 1/0 from narrations", *link_); }).SqlState(), "22012");
+  EXPECT_EQ(set.State(), 0);
+  EXPECT_EQ(ErrorOf([&] { link_->Lookup("narrations", "nothing", ""); }).SqlState(), "42S22");
+  EXPECT_EQ(link_->Lookup("narrations", "count(*)", "").ToInteger(), 3) << "the link goes on after an error";
+  EXPECT_EQ(ErrorOf([&] {
+              FirebirdLink::Open({folder_.File("none.fdb"), "", ""}, "2023");
+            })
+                .SqlState()
+                .substr(0, 2),
+            "08");
+  link_->SetObserver(nullptr);
+}
+
+TEST_F(LinkTest, StatementsThatDifferInTheirValuesMeanWhatTheirTextsSay) {
+  const auto rows = [&](const std::string& sql) {
+    std::int64_t changed = -1;
+    link_->Execute(sql, changed, CDbLink::kNoRows);
+    return changed;
+  };
+  const auto prepared = [&] {
+    return link_->Lookup("mon$statements", "count(*)", "mon$sql_text like 'Update entries%?%'");
+  };
+  for (int i = 1; i <= 20; ++i) {
+    EXPECT_EQ(rows("Update entries set vdate='2024-05-" + std::to_string(i + 10) +
+                   "',mark='Y' where id=" + std::to_string(i) + " and line=1"),
+              1);
+  }
+  EXPECT_EQ(prepared().ToInteger(), 1) << "one statement serves them all";
+  EXPECT_EQ(link_->Lookup("entries", "max(vdate)", "mark='Y'").ToDate(), Date::Of(2024, 5, 30));
+
+  EXPECT_EQ(rows("Update entries set mark='N' where id=1.5"), 0);
+  EXPECT_EQ(rows("Update entries set mark='N' where id='1'"), 1);
+  EXPECT_EQ(rows("Update entries set mark='X' where id=99999999999"), 0);
+  EXPECT_EQ(rows("Update entries set amt=-5 where id=2"), 1);
+  EXPECT_EQ(rows("Update entries set amt=7 where id=3"), 1);
+  EXPECT_EQ(rows("Update entries set mark='longer' where mark='longer'"), 0);
+  EXPECT_EQ(rows("Update entries set mark=null where id=4 or id=5"), 2);
+  EXPECT_EQ(rows("Update entries set vdate='1-JUN-2024' where id=6 -- where id=7"), 1);
+  EXPECT_EQ(rows("Update narrations set narration='It''s ?, = 5' where nar=1"), 1);
+  EXPECT_EQ(rows("Insert Into narrations (nar,narration) values (7,'a,b')"), 1);
+  EXPECT_EQ(rows("delete from entries where id=9 and mark='Y'"), 1);
+  EXPECT_EQ(link_->Lookup("entries", "amt", "id=2").ToAmount(), Amount::OfInteger(-5));
+  EXPECT_EQ(link_->Lookup("entries", "amt", "id=3").ToAmount(), Amount::OfInteger(7));
+  EXPECT_EQ(link_->Lookup("entries", "mark", "id=1").ToText(), "N");
+  EXPECT_EQ(link_->Lookup("entries", "vdate", "id=6").ToDate(), Date::Of(2024, 6, 1));
+  EXPECT_EQ(link_->Lookup("narrations", "narration", "nar=1").ToText(), "It's ?, = 5");
+  EXPECT_EQ(ErrorOf([&] { rows("Update entries set vdate='2024-02-31' where id=1"); }).SqlState(), "22018");
+  const std::string twice = "Insert Into narrations (nar,narration) values (7,'c')";
+  EXPECT_EQ(ErrorOf([&] { rows(twice); }).Statement(), twice);
+
+  link_->Execute("alter table entries drop mark");
+  EXPECT_EQ(ErrorOf([&] { rows("Update entries set mark='N' where id=1"); }).SqlState(), "42S22");
+}
+
+TEST_F(LinkTest, ALockedRecordIsRefusedInsteadOfHanging) {
+  const auto other = FirebirdLink::Open(address_, "2024");
+  other->BeginTrans();
+  other->Execute("Update entries set mark='A' where id=7 and line=1");
+  const DbError locked =
+      ErrorOf([&] { link_->Execute("Update entries set mark='B' where id=7 and line=1"); });
+  EXPECT_EQ(locked.SqlState(), "40001");
+  EXPECT_NE(std::string(locked.what()).find("Another user"), std::string::npos);
+  link_->Execute("Update entries set mark='B' where id=8 and line=1");
+  other->CommitTrans();
+  link_->Execute("Update entries set mark='C' where id=7 and line=1");
+  EXPECT_EQ(other->Lookup("entries", "mark", "id=7").ToText(), "C");
+}
+
+TEST_F(LinkTest, AnotherProcessReadsAndWritesWhileTheDeskHasTheDatabaseOpen) {
+  if (std::system("command -v isql-fb >/dev/null") != 0) GTEST_SKIP() << "isql-fb is not installed";
+  CDataSet set;
+  set.Open("select * from entries order by id", *link_);
+  link_->BeginTrans();
+  link_->Execute("Update entries set mark='D' where id=1");
+  std::ofstream(folder_.File("other.sql"))
+      << "update entries set mark='O' where id=2; commit;\n"
+         "set heading off; select count(*) from entries where mark='D';\n";
+  const std::string command = "isql-fb -q -b -user SYSDBA -i '" + folder_.File("other.sql") + "' -o '" +
+                              folder_.File("out.txt") + "' '" + address_.Database + "'";
+  ASSERT_EQ(std::system(command.c_str()), 0);
+  link_->CommitTrans();
+  std::ifstream out(folder_.File("out.txt"));
+  int seen = -1;
+  out >> seen;
+  EXPECT_EQ(seen, 0) << "the other process must not see what is not committed";
+  EXPECT_EQ(link_->Lookup("entries", "mark", "id=2").ToText(), "O");
+  EXPECT_EQ(set.RecordCount(), 40);
+}
+
+}  // namespace
+}  // namespace quillon
