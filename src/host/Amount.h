@@ -19,8 +19,8 @@ class Amount {
   /// Rounds to four decimals, ties to the even digit. For values that a rule works out in floating point.
   static Amount OfDouble(double value);
 
-  /// The plain decimal number at the head of a text, read digit by digit: sign, digits, point, digits. Decimals
-  /// past the fourth round to it, ties to the even digit. No number gives 0.
+  /// The plain decimal number at the head of a text, read digit by digit: sign, digits, point, digits.
+  /// Decimals past the fourth round to it, ties to the even digit. No number gives 0.
   static Amount OfText(std::string_view text);
 
   constexpr std::int64_t Units() const { return units_; }

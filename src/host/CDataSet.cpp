@@ -50,7 +50,8 @@ const std::vector<std::string>& CDataSet::FieldNames() const { return Opened().F
 void CDataSet::SetField(const std::string& name, const Variant& value) {
   const std::size_t index = IndexOf(name);
   if (!adding_ && (row_ < 0 || atEnd_)) throw HostError("There is no current record");
-  const auto old = std::find_if(changed_.begin(), changed_.end(), [&](const auto& f) { return f.first == index; });
+  const auto old =
+      std::find_if(changed_.begin(), changed_.end(), [&](const auto& f) { return f.first == index; });
   if (old != changed_.end()) {
     old->second = value;
   } else {

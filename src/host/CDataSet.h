@@ -32,8 +32,8 @@ class CDataSet {
   /// Nothing detaches an open set: its rows are read to the end and stay readable.
   void SetActiveConnection(std::nullptr_t);
 
-  /// The field of the current row; throws SubscriptError for a name or number that the query does not give, and
-  /// HostError before the first and past the last row.
+  /// The field of the current row; throws SubscriptError for a name or number that the query does not give,
+  /// and HostError before the first and past the last row.
   Variant Field(const std::string& name) const;
   Variant Field(std::size_t index) const;
   const std::vector<std::string>& FieldNames() const;

@@ -28,9 +28,10 @@ class CDbLink {
     Execute(sql, rows, kNoRows);
   }
 
-  /// The expression's value in the first row of the table under the condition (may be empty). No row and a null
-  /// value both give an empty value, which counts as 0.
-  virtual Variant Lookup(const std::string& table, const std::string& expression, const std::string& where) = 0;
+  /// The expression's value in the first row of the table under the condition (may be empty). No row and a
+  /// null value both give an empty value, which counts as 0.
+  virtual Variant Lookup(const std::string& table, const std::string& expression,
+                         const std::string& where) = 0;
 
   /// `name` in capitals.
   virtual bool TableExists(const std::string& name) = 0;
@@ -41,8 +42,8 @@ class CDbLink {
   virtual void CommitTrans() = 0;
   virtual void RollbackTrans() = 0;
 
-  /// What CDataSet opens. `changeable` asks for a set whose rows can be changed and added to; `keep` for one that
-  /// stays readable after the link is gone.
+  /// What CDataSet opens. `changeable` asks for a set whose rows can be changed and added to; `keep` for one
+  /// that stays readable after the link is gone.
   virtual std::unique_ptr<RowSet> OpenRows(const std::string& sql, bool changeable, bool keep) = 0;
 };
 

@@ -9,8 +9,9 @@ namespace quillon {
 /// A table of named columns that is stored as one text. Rows count from 0; column names ignore case.
 class CTextTable {
  public:
-  /// `columns` joined by commas; a text with fewer values leaves the later columns empty, and the text of one row
-  /// loads as a table of one row. Throws HostError when the text is damaged; the table then stays as it was.
+  /// `columns` joined by commas; a text with fewer values leaves the later columns empty, and the text of one
+  /// row loads as a table of one row. Throws HostError when the text is damaged; the table then stays as it
+  /// was.
   void Load(const std::string& text, const std::string& columns);
 
   /// Reads into the columns that SetFields named.

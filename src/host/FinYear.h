@@ -6,8 +6,8 @@
 
 namespace quillon {
 
-/// A financial year of the firm. A new object is bound to no year until OpenYear: reading it then throws HostError.
-/// Reached late it answers StartYear, StartDate, EndDate and StartMonth.
+/// A financial year of the firm. A new object is bound to no year until OpenYear: reading it then throws
+/// HostError. Reached late it answers StartYear, StartDate, EndDate and StartMonth.
 class FinYear : public Object {
  public:
   virtual CDbLink& Db() = 0;
@@ -23,8 +23,8 @@ class FinYear : public Object {
   /// Prepares a newly made object.
   virtual void Init(bool flag) = 0;
 
-  /// Binds the object to the year that starts in that calendar year; `ok` is false when the year is absent, and the
-  /// object then stays as it was.
+  /// Binds the object to the year that starts in that calendar year; `ok` is false when the year is absent,
+  /// and the object then stays as it was.
   virtual void OpenYear(int startYear, bool& ok) = 0;
 
   Variant Get(const std::string& member) override;

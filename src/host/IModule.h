@@ -27,8 +27,8 @@ class IModule {
   virtual IModule& Obj() = 0;
 };
 
-/// The one function that a module library exports: `extern "C" IModule* CreateQuillonModule()`. The caller owns
-/// the result.
+/// The one function that a module library exports: `extern "C" IModule* CreateQuillonModule()`. The caller
+/// owns the result.
 using ModuleFactory = IModule* (*)();
 inline constexpr const char* kModuleFactoryName = "CreateQuillonModule";
 

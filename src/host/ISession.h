@@ -13,10 +13,10 @@ class IModule;
 /// The firm's numbered parameters.
 class CFirm {
  public:
-  static constexpr int kInterestYear = 1029;      ///< "Jan-Dec": the interest year is the calendar year
-  static constexpr int kAmountDecimals = 1025;    ///< "4": interest with four decimals
-  static constexpr int kSerialColumn = 962;       ///< "Yes": statements show the serial number
-  static constexpr int kForbidSimilarBills = 586; ///< "Yes": a voucher with a similar bill is not saved
+  static constexpr int kInterestYear = 1029;       ///< "Jan-Dec": the interest year is the calendar year
+  static constexpr int kAmountDecimals = 1025;     ///< "4": interest with four decimals
+  static constexpr int kSerialColumn = 962;        ///< "Yes": statements show the serial number
+  static constexpr int kForbidSimilarBills = 586;  ///< "Yes": a voucher with a similar bill is not saved
 
   CFirm() = default;
   CFirm(const CFirm&) = delete;
@@ -70,5 +70,7 @@ class ISession {
   virtual CFirm& Firm() = 0;
   virtual std::string FirmName() const = 0;
 };
+
+extern ISession* gSession;
 
 }  // namespace quillon

@@ -39,8 +39,9 @@ class IStd {
   IStd& operator=(const IStd&) = delete;
   virtual ~IStd() = default;
 
-  /// `buttons`: empty for OK alone, "2" for Yes and No. `icon`: "Q", "W", "I", "E" or empty. `defaultButton`: 0 the
-  /// first, 2 the second. Returns the button pressed, counted from 1; closing the box is the last button.
+  /// `buttons`: empty for OK alone, "2" for Yes and No. `icon`: "Q", "W", "I", "E" or empty. `defaultButton`:
+  /// 0 the first, 2 the second. Returns the button pressed, counted from 1; closing the box is the last
+  /// button.
   virtual int MsgBox(const std::string& text, const std::string& buttons = "", const std::string& icon = "",
                      const std::string& title = "", int defaultButton = 0, int style = 0) = 0;
 
@@ -53,8 +54,8 @@ class IStd {
   /// Halves away from zero; `decimals` as text, "0" to "4".
   virtual Amount RoundAmount(Amount amount, const std::string& decimals) = 0;
 
-  /// Format keys: "c" groups the Indian way, "n" does not, the digit is the decimals. A small letter shows zero as an
-  /// empty text, a capital shows it.
+  /// Format keys: "c" groups the Indian way, "n" does not, the digit is the decimals. A small letter shows
+  /// zero as an empty text, a capital shows it.
   virtual std::string FormatValue(const Variant& value, const std::string& key) = 0;
   virtual std::string FormatAmount(Amount amount, const std::string& key) = 0;
 
@@ -64,8 +65,8 @@ class IStd {
   /// Style "A": lakh and crore in capitalised words.
   virtual std::string AmountInWords(Amount amount, const std::string& style) = 0;
 
-  /// Expands a date typed short to "dd-MMM-yyyy"; what is missing comes from the reference text, else from the open
-  /// year. Empty when it is no date.
+  /// Expands a date typed short to "dd-MMM-yyyy"; what is missing comes from the reference text, else from
+  /// the open year. Empty when it is no date.
   virtual std::string ParseDateText(const std::string& text, const std::string& reference) = 0;
 
   /// One date literal, or the pair that follows "between"; empty for an empty date.
@@ -77,10 +78,10 @@ class IStd {
 
   virtual void SetupGrid(GridModel& grid) = 0;
 
-  /// A width up to 1 is a share of the grid's width, above it twips. Alignment: 1 left, 4 centre, 7 right; -1 leaves
-  /// the column's own.
-  virtual void SetGridColumn(GridModel& grid, int column, const std::string& title, double width, int alignment,
-                             int headingAlignment = -1) = 0;
+  /// A width up to 1 is a share of the grid's width, above it twips. Alignment: 1 left, 4 centre, 7 right; -1
+  /// leaves the column's own.
+  virtual void SetGridColumn(GridModel& grid, int column, const std::string& title, double width,
+                             int alignment, int headingAlignment = -1) = 0;
   virtual void SetRowColors(GridModel& grid, int row, int firstColumn, int lastColumn, long backColor,
                             long foreColor) = 0;
 

@@ -31,8 +31,8 @@ class RowSet {
   /// Fetches what is left and lets the connection go.
   virtual void Detach() = 0;
 
-  /// Writes the given fields of a row back, by the primary key of the table that the row came from, or adds a row;
-  /// throws HostError on a set that was not opened for change.
+  /// Writes the given fields of a row back, by the primary key of the table that the row came from, or adds a
+  /// row; throws HostError on a set that was not opened for change.
   virtual void Write(std::int64_t row, const std::vector<std::pair<std::size_t, Variant>>& fields) = 0;
   virtual void Append(const std::vector<std::pair<std::size_t, Variant>>& fields) = 0;
 };

@@ -68,8 +68,8 @@ class Variant {
  private:
   struct NullTag {};
 
-  std::variant<std::monostate, NullTag, bool, std::int64_t, double, Amount, Date, std::string, std::shared_ptr<Array>,
-               std::shared_ptr<Object>>
+  std::variant<std::monostate, NullTag, bool, std::int64_t, double, Amount, Date, std::string,
+               std::shared_ptr<Array>, std::shared_ptr<Object>>
       value_;
 };
 

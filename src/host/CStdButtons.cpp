@@ -1,0 +1,25 @@
+#include "host/CStdButtons.h"
+
+#include "host/Form.h"
+#include "host/Runtime.h"
+
+namespace quillon {
+
+CStdButtons::Button CStdButtons::Buttons(int index) {
+  if (index < 0 || index >= kCount) throw SubscriptError(Name() + " button " + std::to_string(index));
+  return {*this, index};
+}
+
+void CStdButtons::UserPress(int index) {
+  RequireReachable();
+  Buttons(index).Click();
+}
+
+void CStdButtons::Press(int index) {
+  const FormPtr alive = OwnerForm().Self();
+  bool cancel = false;
+  ButtonClick.Raise(index, cancel);
+  if (index == kExit && !cancel && alive->IsLoaded()) gRuntime->Unload(*alive);
+}
+
+}  // namespace quillon

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+
+#include "host/Control.h"
+
+namespace quillon {
+
+/// A field of text. Every single-line editor is one of these: the plain box, the box of a labelled field, the
+/// editor of a grid's cell.
+class TextBox : public Control {
+ public:
+  using Control::Control;
+
+  const char* Kind() const override { return "TextBox"; }
+
+  TextProperty Text{*this, "Text"};
+  Property<bool> Locked{*this, "Locked"};
+  Property<bool> MultiLine{*this, "MultiLine"};
+  Property<bool> NumericOnly{*this, "TextNumericOnly"};
+  Property<bool> AllowDecimalPoints{*this, "AllowDecimalPoints"};
+
+  /// UTF-16 units; 0 is no limit.
+  Property<int> MaxLength{*this, "MaxLength"};
+
+  /// The caret and the selection, in UTF-16 units. A length past the end stands for all of it.
+  int SelStart = 0;
+  int SelLength = 0;
+
+  Event<> Change;
+
+  bool CanTakeFocus() const override { return true; }
+  bool KeepsEnter() const override { return MultiLine; }
+
+  /// A person replaces the whole text; what the field does not take is dropped.
+  void UserType(const std::string& text);
+
+  bool HandleKey(const KeyEvent& key) override;
+  void HandleChar(int character) override;
+  void EnterFocus() override;
+  void SelectAll();
+
+ protected:
+  void PropertyChanged(const PropertyBase& property) override;
+
+ private:
+  std::string Accepted(const std::string& text) const;
+  void Replace(int start, int length, const std::string& with);
+};
+
+/// The UTF-8 form of one Unicode character.
+std::string CharacterText(int character);
+
+}  // namespace quillon

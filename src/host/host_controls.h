@@ -1,0 +1,28 @@
+#pragma once
+
+/// The controls of the host: what a form is made of.
+
+#include "host/CButton.h"
+#include "host/CButtonBar.h"
+#include "host/CEditGrid.h"
+#include "host/CGridPlus.h"
+#include "host/CMStrip.h"
+#include "host/CPeriod.h"
+#include "host/CSelGrid.h"
+#include "host/CStdButtons.h"
+#include "host/CTextPlus.h"
+#include "host/CheckBox.h"
+#include "host/ComboBox.h"
+#include "host/CommandButton.h"
+#include "host/ControlArray.h"
+#include "host/Form.h"
+#include "host/Frame.h"
+#include "host/Label.h"
+#include "host/ListBox.h"
+#include "host/MSChart.h"
+#include "host/MSHFlexGrid.h"
+#include "host/Menu.h"
+#include "host/OptionButton.h"
+#include "host/PictureBox.h"
+#include "host/ScrollBar.h"
+#include "host/TextBox.h"

@@ -1,0 +1,25 @@
+#pragma once
+
+/// The services of the host: what a form calls outside itself.
+
+#include "host/CAlertLog.h"
+#include "host/CDataSet.h"
+#include "host/CDateDialog.h"
+#include "host/CDbLink.h"
+#include "host/CNameValues.h"
+#include "host/CPartyFilter.h"
+#include "host/CPartyInfo.h"
+#include "host/CPickList.h"
+#include "host/CReportOptions.h"
+#include "host/CTextTable.h"
+#include "host/CXmlTable.h"
+#include "host/FinYear.h"
+#include "host/HostApp.h"
+#include "host/IApp.h"
+#include "host/IModule.h"
+#include "host/IPrinter.h"
+#include "host/IReports.h"
+#include "host/ISession.h"
+#include "host/IStd.h"
+#include "host/PrintSetup.h"
+#include "host/Runtime.h"
