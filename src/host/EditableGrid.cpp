@@ -88,6 +88,7 @@ bool EditableGrid::EndEdit() {
     ValidateCell.Raise(editRow_, editCol_, text, cancel);
   } catch (...) {
     validating_ = false;
+    if (!editing_) Close();
     throw;
   }
   validating_ = false;
@@ -107,10 +108,7 @@ void EditableGrid::CancelEdit() {
 }
 
 bool EditableGrid::UserEnterCell(int row, int col) {
-  RequireReachable();
-  RequireRow(row);
-  RequireCol(col);
-  if (!IsRowVisible(row)) throw Refused(FullName() + " row " + std::to_string(row) + " is hidden");
+  RequireUserCell(row, col);
   if (!OwnerForm().UserFocus(*this)) return false;
   return SetCell(row, col);
 }

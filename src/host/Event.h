@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <utility>
+#include <vector>
 
 namespace quillon {
 
@@ -26,6 +27,28 @@ class Event {
 
  private:
   std::function<void(Arguments...)> handler_;
+};
+
+/// An event that several listeners hear, each known by an address of its own.
+template <class... Arguments>
+class Broadcast {
+ public:
+  using Handler = std::function<void(Arguments...)>;
+
+  void Connect(const void* listener, Handler handler) {
+    handlers_.emplace_back(listener, std::move(handler));
+  }
+  void Disconnect(const void* listener) {
+    std::erase_if(handlers_, [listener](const auto& entry) { return entry.first == listener; });
+  }
+
+  void Raise(Arguments... arguments) const {
+    const auto handlers = handlers_;
+    for (const auto& [listener, handler] : handlers) handler(arguments...);
+  }
+
+ private:
+  std::vector<std::pair<const void*, Handler>> handlers_;
 };
 
 }  // namespace quillon

@@ -240,11 +240,17 @@ bool GridModel::HandleKey(const KeyEvent& key) {
   return true;
 }
 
-void GridModel::UserMoveTo(int row, int col) {
+void GridModel::RequireUserCell(int row, int col) const {
   RequireReachable();
-  RequireRow(row);
-  RequireCol(col);
-  if (!IsRowVisible(row)) throw Refused(FullName() + " row " + std::to_string(row) + " is hidden");
+  const std::string called = FullName() + " row " + std::to_string(row);
+  if (row < FixedRows || row >= Rows || col < 0 || col >= Cols) {
+    throw Refused(called + ", column " + std::to_string(col) + " is no cell of the grid");
+  }
+  if (!IsRowVisible(row)) throw Refused(called + " is hidden");
+}
+
+void GridModel::UserMoveTo(int row, int col) {
+  RequireUserCell(row, col);
   if (!OwnerForm().UserFocus(*this)) return;
   Row.PutSilently(row);
   Col = col;
@@ -252,9 +258,8 @@ void GridModel::UserMoveTo(int row, int col) {
 }
 
 void GridModel::UserSelect(int row, int col, int rowSel, int colSel) {
+  RequireUserCell(rowSel, colSel);
   UserMoveTo(row, col);
-  RequireRow(rowSel);
-  RequireCol(colSel);
   RowSel = rowSel;
   ColSel = colSel;
 }

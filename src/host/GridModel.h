@@ -114,6 +114,9 @@ class GridModel : public Control {
   void RequireRow(int row) const;
   void RequireCol(int col) const;
 
+  /// Throws Refused for a cell that a person cannot go to.
+  void RequireUserCell(int row, int col) const;
+
  private:
   struct ColumnData {
     long width = kDefaultColumnWidth;

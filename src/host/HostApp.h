@@ -31,7 +31,7 @@ class HostApp {
   virtual std::string DataFolder() = 0;
 
   /// The user chose an item of the main menu: its key, and a flag that modules leave alone.
-  Event<const std::string&, bool&> MainMenuClick;
+  Broadcast<const std::string&, bool&> MainMenuClick;
 };
 
 }  // namespace quillon

@@ -35,7 +35,7 @@ void ItemList::SetListIndex(int item) {
 
 void ItemList::UserChoose(int item) {
   RequireReachable();
-  At(item);
+  if (item < 0 || item >= ListCount()) throw Refused(FullName() + " has no item " + std::to_string(item));
   if (OwnerForm().UserFocus(*this)) SetListIndex(item);
 }
 

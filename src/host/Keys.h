@@ -33,6 +33,15 @@ inline constexpr int kAlt = 4;
 
 }  // namespace keys
 
+/// The key code of a character: letters and digits are their own, what the other keys make never meets the
+/// code of a function or cursor key.
+constexpr int CodeOfCharacter(int character) {
+  if (character >= 'a' && character <= 'z') return character - 32;
+  const bool own =
+      (character >= 'A' && character <= 'Z') || (character >= '0' && character <= '9') || character == ' ';
+  return own || character < ' ' ? character : 0x200 + character;
+}
+
 /// A key on its way; a code set to 0 goes no further.
 struct KeyEvent {
   int KeyCode = 0;

@@ -32,7 +32,7 @@ int ListBox::SelCount() const {
 
 void ListBox::UserCheck(int item, bool selected) {
   RequireReachable();
-  List(item);
+  if (item < 0 || item >= ListCount()) throw Refused(FullName() + " has no item " + std::to_string(item));
   if (OwnerForm().UserFocus(*this)) SetSelected(item, selected);
 }
 

@@ -17,21 +17,6 @@ const std::map<std::string, int, std::less<>> kNamedKeys = {
     {"LEFT", keys::kLeft},      {"UP", keys::kUp},         {"RIGHT", keys::kRight}, {"DOWN", keys::kDown},
     {"DEL", keys::kDelete}};
 
-/// The Unicode value of the first character.
-int CodePoint(const std::string& character) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(character[i]); };
-  switch (text::CharBytes(character, 0)) {
-    case 2:
-      return (byte(0) & 0x1F) << 6 | (byte(1) & 0x3F);
-    case 3:
-      return (byte(0) & 0x0F) << 12 | (byte(1) & 0x3F) << 6 | (byte(2) & 0x3F);
-    case 4:
-      return (byte(0) & 0x07) << 18 | (byte(1) & 0x3F) << 12 | (byte(2) & 0x3F) << 6 | (byte(3) & 0x3F);
-    default:
-      return byte(0);
-  }
-}
-
 }  // namespace
 
 Runtime::Runtime() { gRuntime = this; }
@@ -169,12 +154,12 @@ void Runtime::Press(const std::string& key) {
     } else if (name.front() == 'F' && name.size() > 1) {
       code = keys::kF1 + static_cast<int>(ValInteger(name.substr(1))) - 1;
     } else {
-      character = CodePoint(name);
+      character = text::CodePoint(name);
     }
   } else {
-    character = CodePoint(key);
+    character = text::CodePoint(key);
   }
-  if (code == 0) code = CodePoint(text::Upper(key));
+  if (code == 0) code = CodeOfCharacter(character);
   if (character == keys::kTab) character = 0;
   Act([&] { form->UserKey(code, 0, character); });
 }

@@ -124,6 +124,9 @@ class Runtime {
   virtual long ScreenHeight() const = 0;  ///< twips
   virtual void Beep() = 0;
 
+  /// The busy state of a long job comes with its text, or goes.
+  virtual void ShowBusy(bool on, const std::string& text) = 0;
+
   /// The width of a text in twips; both runtimes and the printer measure alike.
   virtual long TextWidth(const Font& font, const std::string& text) const = 0;
   virtual std::string ClipboardText() const = 0;

@@ -36,6 +36,10 @@ std::size_t CharBytes(std::string_view text, std::size_t at) {
   return static_cast<std::size_t>(bytes);
 }
 
+int CodePoint(std::string_view text) { return Wide(text.substr(0, CharBytes(text, 0))).char32At(0); }
+
+std::string OfCodePoint(int character) { return Narrow(icu::UnicodeString(static_cast<UChar32>(character))); }
+
 std::size_t Length(std::string_view text) {
   if (IsPlain(text)) return text.size();
   std::size_t units = 0;

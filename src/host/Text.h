@@ -30,6 +30,10 @@ std::vector<std::string> Split(std::string_view text, std::string_view separator
 std::string Join(const std::vector<std::string>& parts, std::string_view separator);
 std::string ReplaceAll(std::string text, std::string_view what, std::string_view with);
 
+/// The Unicode value of the first character of a text that is not empty, and the text of one.
+int CodePoint(std::string_view text);
+std::string OfCodePoint(int character);
+
 /// The byte length of the character that starts at byte `at` of valid or damaged UTF-8; at least 1.
 std::size_t CharBytes(std::string_view text, std::size_t at);
 

@@ -6,15 +6,6 @@
 
 namespace quillon {
 
-std::string CharacterText(int character) {
-  const auto code = static_cast<unsigned>(character);
-  const auto tail = [&](unsigned shift) { return static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
-  if (code < 0x80) return {static_cast<char>(code)};
-  if (code < 0x800) return {static_cast<char>(0xC0 | code >> 6), tail(0)};
-  if (code < 0x10000) return {static_cast<char>(0xE0 | code >> 12), tail(6), tail(0)};
-  return {static_cast<char>(0xF0 | code >> 18), tail(12), tail(6), tail(0)};
-}
-
 std::string TextBox::Accepted(const std::string& text) const {
   std::string kept;
   for (const char c : text) {
@@ -29,6 +20,8 @@ std::string TextBox::Accepted(const std::string& text) const {
 
 void TextBox::UserType(const std::string& text) {
   if (Locked) throw Refused(Name() + " is locked");
+  // The first key stroke has replaced what stood there, so the same text typed again is a change too.
+  if (Text == text) Text = "";
   Text = Accepted(text);
   SelStart = static_cast<int>(text::Length(Text()));
   SelLength = 0;
@@ -97,7 +90,7 @@ void TextBox::HandleChar(int character) {
   if (Locked) return;
   const int end = static_cast<int>(text::Length(Text()));
   SelStart = std::clamp(SelStart, 0, end);
-  Replace(SelStart, std::clamp(SelLength, 0, end - SelStart), CharacterText(character));
+  Replace(SelStart, std::clamp(SelLength, 0, end - SelStart), text::OfCodePoint(character));
 }
 
 void TextBox::PropertyChanged(const PropertyBase& property) {

@@ -48,7 +48,4 @@ class TextBox : public Control {
   void Replace(int start, int length, const std::string& with);
 };
 
-/// The UTF-8 form of one Unicode character.
-std::string CharacterText(int character);
-
 }  // namespace quillon

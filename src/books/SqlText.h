@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/Date.h"
+
+namespace quillon::books {
+
+/// A whole number from a grid's text, as it goes into a statement: the number at its head, 0 when there is
+/// none.
+std::string SqlNumber(std::string_view text);
+std::string SqlNumber(std::int64_t number);
+
+/// A date literal, or "Null" for no date.
+std::string SqlDateOrNull(Date date);
+
+}  // namespace quillon::books

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+
+#include "host/CGridPlus.h"
+#include "host/CReportOptions.h"
+#include "host/CheckBox.h"
+#include "host/ComboBox.h"
+#include "host/ControlArray.h"
+#include "host/Menu.h"
+#include "host/ScreenForm.h"
+#include "reconciliation/MarkedTotals.h"
+#include "reconciliation/StatementColumns.h"
+
+namespace quillon {
+
+/// "Reconciliation": the accountant sets, entry by entry, the date on which the bank cleared it. The entries
+/// come from the statement of account that opened the screen, and every date goes to the books and back into
+/// that statement at once. Four grids share one place, of which one shows: the entries, the reconciliation
+/// statement, the pass book and the interest.
+class frmAcReconciliation : public ScreenForm {
+ public:
+  frmAcReconciliation();
+
+  /// Taken from the calling statement when there is one, with the dates.
+  long AccountCode = 0;
+  Date Date1;
+  Date Date2;
+
+  /// Opens straight into the interest of the account.
+  bool bCalcInt = false;
+
+  void UpdateGrid();
+  void UpdateMarkedTotals();
+
+  /// Stores the cleared date of a row of Grid; an empty text removes it.
+  void SaveRow(int row, const std::string& dateText);
+  void UpdateGridStatement();
+  void SaveStatementRow(int row, const std::string& dateText);
+  void HideGrids();
+  void UpdateRefButton();
+  void ZoomRow();
+
+  ControlArray<Label> lblTitle1;
+  Label lblTitle2;
+  CheckBox chkReturned;
+  ComboBox cmbFilter;
+  CGridPlus Grid;
+  CGridPlus GridStatement;
+  CGridPlus GridPBook;
+  CGridPlus GridIntt;
+  CMStrip MStrip2;
+  Menu mmMarking;
+
+ protected:
+  void BuildBar() override;
+  void LoadScreen() override;
+  void FirstShow() override;
+  void ButtonPressed(int index) override;
+  void ExitPressed(bool& cancel) override;
+  void UnloadScreen() override;
+  GridModel* MainGrid() override { return &Grid; }
+
+ private:
+  void DesignControls();
+  void ConnectGrid();
+  void ConnectStatement();
+  void TakeCaller();
+
+  // The entries.
+  void SetGridColumns();
+  void CopyStatementRows();
+  void SaveRowAndCell(int row, const std::string& dateText);
+  void ShowFilterTitle();
+  void Grid_BeforeEdit(int row, int col, bool& cancel, std::string& action);
+  void Grid_ValidateCell(int row, int col, std::string& text, bool& cancel);
+  void Grid_AfterEdit(int row, int col);
+  void WarnOutsideYear(Date date);
+  void Grid_RowChange(int row);
+  void Grid_KeyDown(KeyEvent& key);
+  void ShowReturned(int row);
+  void chkReturned_Click();
+  void cmbFilter_Click();
+  void PutCursorOnLastRow();
+
+  // The statement as on a date.
+  struct Section;
+  void AskStatement();
+  void FillStatement();
+  void SetStatementColumns();
+  void AddSection(class CDataSet& lines, Section& section, int& row);
+  void AddStatementLine(class CDataSet& line, const Section& section, int row);
+  void AddAdjustedBalance(Amount balance, int& row);
+  void GridStatement_BeforeEdit(int row, int col, bool& cancel, std::string& action);
+  void GridStatement_ValidateCell(int row, int col, std::string& text, bool& cancel);
+  void GridStatement_RowChange(int row);
+  void GridStatement_KeyDown(KeyEvent& key);
+  void EditStatementRow();
+  void EchoIntoEntries(long long voucher, long long subNo, const std::string& dateText);
+  std::string StatementTitle() const;
+
+  // Both.
+  using Save = void (frmAcReconciliation::*)(int, const std::string&);
+  bool InvalidDate(bool& cancel);
+  bool CopyDateAbove(CGridPlus& grid, int row, int col, std::string& text, bool& cancel);
+  void FillDown(CGridPlus& grid, int row, int col, Save save);
+  std::string NarrationWithReference(class CDataSet& line);
+  long CounterAccount(std::int64_t voucherId, Amount amount);
+  void OpenVoucherOf(const CGridPlus& grid, int voucherColumn);
+  void EnableBuilt(std::initializer_list<int> buttons);
+  CGridPlus* VisibleGrid();
+  void Print(bool print);
+
+  CGridPlus* statement_ = nullptr;  // the calling screen's grid; the form holds the screen while it needs it
+  Date asOn_;
+  bool showReference_ = true;
+  bool cellEdited_ = false;
+  MarkedTotals marked_;
+  std::multimap<std::pair<long long, long long>, int>
+      gridRows_;  // voucher and line to row of Grid, made when asked for
+};
+
+}  // namespace quillon
