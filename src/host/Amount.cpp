@@ -13,6 +13,9 @@ constexpr std::int64_t kScale = 10000;
 
 __extension__ using Wide = __int128;
 
+/// The magnitude of the lowest amount; digits past it cannot bring a number back into the range.
+constexpr Wide kPastLimit = -static_cast<Wide>(INT64_MIN);
+
 std::int64_t Narrow(Wide value) {
   if (value > INT64_MAX || value < INT64_MIN) throw OverflowError();
   return static_cast<std::int64_t>(value);
@@ -47,7 +50,7 @@ Amount Amount::OfText(std::string_view text) {
     } else if (decimals < 4) {
       units = units * 10 + (c - '0');
       if (decimals >= 0) ++decimals;
-      if (units > INT64_MAX) throw OverflowError();
+      if (units > kPastLimit) throw OverflowError();
     } else if (decimals == 4) {
       dropped = c - '0';
       ++decimals;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <unicode/locid.h>
 #include <unicode/unistr.h>
+#include <unicode/utf8.h>
 
 #include "host/Errors.h"
 
@@ -29,14 +30,10 @@ bool IsPlain(std::string_view text) {
 }  // namespace
 
 std::size_t CharBytes(std::string_view text, std::size_t at) {
-  const auto lead = static_cast<unsigned char>(text[at]);
-  const std::size_t wanted = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
-  std::size_t bytes = 1;
-  while (bytes < wanted && at + bytes < text.size() &&
-         (static_cast<unsigned char>(text[at + bytes]) & 0xC0) == 0x80) {
-    ++bytes;
-  }
-  return bytes;
+  const std::string_view rest = text.substr(at, U8_MAX_LENGTH);
+  int32_t bytes = 0;
+  U8_FWD_1(rest.data(), bytes, static_cast<int32_t>(rest.size()));
+  return static_cast<std::size_t>(bytes);
 }
 
 std::size_t Length(std::string_view text) {
@@ -63,8 +60,13 @@ std::string Left(std::string_view text, std::size_t units) {
 }
 
 std::string Mid(std::string_view text, std::size_t start, std::size_t units) {
-  const std::string head = Left(text, start > 0 ? start - 1 : 0);
-  const std::string_view rest = text.substr(head.size());
+  const std::size_t before = start > 0 ? start - 1 : 0;
+  const std::string head = Left(text, before);
+  std::string_view rest = text.substr(head.size());
+  if (!rest.empty() && Length(head) < before) {  // the start lies inside a pair: its second half is dropped
+    rest.remove_prefix(CharBytes(rest, 0));
+    if (units != std::string::npos && units > 0) --units;
+  }
   return units == std::string::npos ? std::string(rest) : Left(rest, units);
 }
 
@@ -132,19 +134,32 @@ std::string Repaired(std::string_view text) { return IsPlain(text) ? std::string
 
 namespace quillon {
 
+namespace {
+
+/// Of a number that floating point cannot hold: whether it is too small rather than too large.
+bool IsTiny(std::string_view number) {
+  const std::size_t exponent = number.find_first_of("eE");
+  if (exponent != std::string_view::npos) return number[exponent + 1] == '-';
+  return number.substr(0, number.find('.')).find_first_not_of("-0") == std::string_view::npos;
+}
+
+}  // namespace
+
 double Val(std::string_view text) {
   std::size_t at = text.find_first_not_of(" \t\r\n");
   if (at == std::string_view::npos) return 0;
-  if (text[at] == '+') ++at;
+  const bool plus = text[at] == '+';
+  if (plus) ++at;
   // Only digits, a sign, a point and an exponent belong to a number: from_chars alone would also take "inf".
-  const std::size_t sign = at < text.size() && text[at] == '-' ? 1 : 0;
+  const std::size_t sign = !plus && text[at] == '-' ? 1 : 0;
   if (at + sign >= text.size() ||
       (text[at + sign] != '.' && (text[at + sign] < '0' || text[at + sign] > '9'))) {
     return 0;
   }
   double value = 0;
   const auto result = std::from_chars(text.data() + at, text.data() + text.size(), value);
-  if (result.ec == std::errc::result_out_of_range) throw OverflowError();
+  if (result.ec == std::errc::result_out_of_range && !IsTiny({text.data() + at, result.ptr}))
+    throw OverflowError();
   return result.ec == std::errc() ? value : 0;
 }
 

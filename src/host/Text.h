@@ -41,7 +41,8 @@ std::string Repaired(std::string_view text);
 namespace quillon {
 
 /// The number at the head of a text, after leading blanks; stops at the first character that cannot belong to
-/// it, a comma too. No number gives 0.
+/// it, a comma too. No number gives 0, and so does one too small for floating point; one too large throws
+/// OverflowError.
 double Val(std::string_view text);
 
 /// The same cut to a whole number; throws OverflowError outside 64 bits.
