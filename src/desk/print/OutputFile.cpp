@@ -1,0 +1,47 @@
+#include "desk/print/OutputFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QUuid>
+
+#include "host/Errors.h"
+
+namespace quillon {
+
+OutputFile::OutputFile(const std::string& folder, std::string stem, std::string extension)
+    : folder_(folder.empty() ? "." : folder), stem_(std::move(stem)), extension_(std::move(extension)) {
+  const QDir dir(QString::fromStdString(folder_));
+  dir.mkpath(QStringLiteral("."));
+  const QString hidden = QStringLiteral(".%1-%2.part")
+                             .arg(QString::fromStdString(stem_), QUuid::createUuid().toString(QUuid::Id128));
+  file_ = std::make_unique<QFile>(dir.filePath(hidden));
+  if (!file_->open(QIODevice::WriteOnly)) {
+    throw HostError("The folder for printed files cannot be written to: " + folder_ + " (" +
+                    file_->errorString().toStdString() + ")");
+  }
+}
+
+OutputFile::~OutputFile() {
+  if (file_) file_->remove();
+}
+
+std::string OutputFile::Finish() {
+  if (!file_->flush() || file_->error() != QFileDevice::NoError) {
+    throw HostError("The file could not be written whole in " + folder_ + ": " +
+                    file_->errorString().toStdString());
+  }
+  file_->close();
+  const QDir dir(QString::fromStdString(folder_));
+  for (int number = 1;; ++number) {
+    const std::string name = stem_ + "-" + std::to_string(number) + extension_;
+    const QString path = dir.filePath(QString::fromStdString(name));
+    if (QFile::exists(path)) continue;
+    if (file_->rename(path)) {
+      file_.reset();
+      return path.toStdString();
+    }
+    if (!QFile::exists(path)) throw HostError("The printed file could not be named " + path.toStdString());
+  }
+}
+
+}  // namespace quillon

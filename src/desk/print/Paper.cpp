@@ -1,0 +1,41 @@
+#include "desk/print/Paper.h"
+
+#include <QPageLayout>
+#include <QPageSize>
+#include <QRectF>
+
+#include "host/IPrinter.h"
+
+namespace quillon {
+
+namespace {
+
+QPageSize::PageSizeId SizeId(int paper) {
+  switch (paper) {
+    case 1:
+      return QPageSize::Letter;
+    case 5:
+      return QPageSize::Legal;
+    case 8:
+      return QPageSize::A3;
+    case 11:
+      return QPageSize::A5;
+    default:
+      return QPageSize::A4;
+  }
+}
+
+}  // namespace
+
+PaperExtent PaperSizeOf(int paper, int orientation) {
+  const QSizeF inches = PageLayout(paper, orientation).fullRect(QPageLayout::Inch).size();
+  return {inches.width() * kTwipsPerInch, inches.height() * kTwipsPerInch};
+}
+
+QPageLayout PageLayout(int paper, int orientation) {
+  return QPageLayout(QPageSize(SizeId(paper)),
+                     orientation == IPrinter::kLandscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+                     QMarginsF(0, 0, 0, 0));
+}
+
+}  // namespace quillon

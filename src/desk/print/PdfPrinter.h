@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "host/IPrinter.h"
+
+class QPainter;
+
+namespace quillon {
+
+class PdfDocument;
+class PrintObserver;
+
+/// The printer that makes a PDF page for page: print-1.pdf, print-2.pdf … in the output folder. A job for a
+/// chosen device goes there too, and the file stays.
+class PdfPrinter : public IPrinter {
+ public:
+  /// The observer may be nothing, and must live as long as the printer.
+  explicit PdfPrinter(std::string outputFolder, PrintObserver* observer = nullptr);
+  ~PdfPrinter() override;
+
+  double TextWidth(const std::string& text) const override;
+  double TextHeight(const std::string& text) const override;
+
+  void Print(const std::string& text, bool lineEnd = true) override;
+  void NewPage() override;
+
+  /// Without anything printed there is no file.
+  void EndDoc() override;
+  void KillDoc() override;
+
+  /// Draws on the page at hand in twips; begins a job as Print does.
+  void Draw(const std::function<void(QPainter&)>& draw);
+
+ private:
+  PdfDocument& Job();
+  void PrintLine(const std::string& line);
+
+  std::string folder_;
+  PrintObserver* observer_;
+  std::unique_ptr<PdfDocument> job_;
+};
+
+}  // namespace quillon
