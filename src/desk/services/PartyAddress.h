@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/CDataSet.h"
+
+namespace quillon {
+
+/// The address lines of the master in the set's current row, name first; lines without a text are left out.
+std::vector<std::string> PartyAddress(const CDataSet& master);
+
+}  // namespace quillon
