@@ -61,14 +61,14 @@ void EventLog::OnPrinted(const std::string& file, int pages, int paper, int orie
          {"orientation", orientation}});
 }
 
-void EventLog::OnReport(const ReportEvent& report) {
+void EventLog::OnReport(const ReportShown& report) {
   Write({{"event", "report"},
          {"title", report.Title},
          {"subtitle", report.Subtitle},
          {"print", report.Print},
          {"file", report.File},
          {"pages", report.Pages},
-         {"grid", report.Rows}});
+         {"grid", ToJson(report.Grid.CellTexts(0, report.Grid.Rows - 1, {}))}});
 }
 
 }  // namespace quillon

@@ -7,8 +7,8 @@
 
 #include "desk/driver/JsonText.h"
 #include "desk/firebird/SqlObserver.h"
+#include "desk/print/DeskReports.h"
 #include "desk/print/PrintObserver.h"
-#include "desk/print/ReportObserver.h"
 #include "host/Form.h"
 
 namespace quillon {
@@ -35,7 +35,7 @@ class EventLog : public SqlObserver, public PrintObserver, public ReportObserver
                    const std::string& error) override;
   void OnText(int page, double x, double y, const std::string& text, const Font& font) override;
   void OnPrinted(const std::string& file, int pages, int paper, int orientation) override;
-  void OnReport(const ReportEvent& report) override;
+  void OnReport(const ReportShown& report) override;
 
  private:
   std::ostream& out_;

@@ -55,7 +55,6 @@ int Drive(const Arguments& arguments, std::istream& in) {
   options.OutputFolder = arguments.out;
   options.Area = {0, 0, 20490, 10500};
   options.Sql = &log;
-  options.Prints = &log;
   options.Reports = &log;
   Desk desk(options);
   if (!arguments.firm.empty()) {

@@ -38,7 +38,7 @@ class DeskReports : public IReports {
   struct Surroundings {
     std::string OutputFolder;
     std::function<ReportFirm()> Firm = ReportFirm::Current;
-    std::function<std::string()> Device;  ///< the chosen printer; empty, or nothing, leaves the file
+    std::function<std::string()> Device = {};  ///< the chosen printer; empty, or nothing, leaves the file
     ReportObserver* Observer = nullptr;   ///< hears of each report, and opens the preview
   };
 

@@ -7,7 +7,7 @@ namespace quillon {
 
 Desk::Desk(Options options)
     : options_(std::move(options)),
-      reports_(options_.OutputFolder, options_.Reports, options_.Prints),
+      reports_({.OutputFolder = options_.OutputFolder, .Observer = options_.Reports}),
       module_(ModuleLibrary::Create(options_.ModulePath)) {
   gReports = &reports_;
 }

@@ -21,7 +21,6 @@ class Desk {
     std::string OutputFolder = ".";
     ScreenArea Area;
     SqlObserver* Sql = nullptr;
-    PrintObserver* Prints = nullptr;
     ReportObserver* Reports = nullptr;
   };
 
