@@ -13,7 +13,8 @@ struct OtherSide {
   std::string Head;
 };
 
-/// The account of the voucher's largest line on the side opposite to the amount's. A line of amount 0 has no other side.
+/// The account of the voucher's largest line on the side opposite to the amount's. A line of amount 0 has no
+/// other side.
 OtherSide FindOtherSide(CDbLink& db, std::int64_t voucherId, Amount amount);
 
 }  // namespace quillon

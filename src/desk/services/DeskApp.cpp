@@ -42,8 +42,9 @@ std::string DeskApp::Window::DataFolder() { return session_.Books().Folder().str
 bool DeskApp::CheckRight(const std::string& rightKey, const std::string& action, bool& denied) {
   denied = !MayDo(session_.CommonDb(), session_.CurrentUser(), rightKey, action);
   if (denied) {
-    gStd->MsgBox("You have no right to " + std::string(action == "P" ? "print here" : "open this screen") + ".", "",
-                 "W");
+    gStd->MsgBox(
+        "You have no right to " + std::string(action == "P" ? "print here" : "open this screen") + ".", "",
+        "W");
   }
   return denied;
 }
@@ -70,8 +71,8 @@ void DeskApp::FormKeyDown(int& keyCode, int& shift, Form& form) {
 }
 
 void DeskApp::NextWindow(Form& form, bool backwards) {
-  const auto here =
-      std::find_if(windows_.begin(), windows_.end(), [&](const OpenWindow& open) { return open.Window == &form; });
+  const auto here = std::find_if(windows_.begin(), windows_.end(),
+                                 [&](const OpenWindow& open) { return open.Window == &form; });
   if (windows_.size() < 2 || here == windows_.end()) return;
   const std::size_t count = windows_.size();
   const auto at = static_cast<std::size_t>(here - windows_.begin());
@@ -149,13 +150,15 @@ bool DeskApp::InputBox(std::string& text, const std::string& prompt) {
 
 std::string DeskApp::AccountDetails(std::int64_t code) {
   CDataSet account;
-  account.Open("Select a.mhd,a.mst,c.CtgName from FAMaster a left join CtgMaster c on a.mbshno=c.CtgNo where a.mcd=" +
-                   std::to_string(code),
-               session_.MainDb());
+  account.Open(
+      "Select a.mhd,a.mst,c.CtgName from FAMaster a left join CtgMaster c on a.mbshno=c.CtgNo where a.mcd=" +
+          std::to_string(code),
+      session_.MainDb());
   if (account.Eof()) return {};
   std::string details = account.Field("mhd").ToText();
   if (const std::string station = account.Field("mst").ToText(); !station.empty()) details += ", " + station;
-  if (const std::string group = account.Field("CtgName").ToText(); !group.empty()) details += "   (" + group + ")";
+  if (const std::string group = account.Field("CtgName").ToText(); !group.empty())
+    details += "   (" + group + ")";
   return details;
 }
 

@@ -28,9 +28,13 @@ class DeskApp : public IApp {
   bool ValidDate(const Variant& text, bool& valid) override;
   void FormKeyDown(int& keyCode, int& shift, Form& form) override;
   std::string GetUserSetting(const std::string& key) override { return settings_.OfUser(key); }
-  void PutUserSetting(const std::string& key, const std::string& value) override { settings_.PutOfUser(key, value); }
+  void PutUserSetting(const std::string& key, const std::string& value) override {
+    settings_.PutOfUser(key, value);
+  }
   std::string GetFirmSetting(const std::string& key) override { return settings_.OfFirm(key); }
-  void PutFirmSetting(const std::string& key, const std::string& value) override { settings_.PutOfFirm(key, value); }
+  void PutFirmSetting(const std::string& key, const std::string& value) override {
+    settings_.PutOfFirm(key, value);
+  }
   void ShowForm(const FormPtr& form) override;
   void RegisterForm(Form& form, const std::string& title, const std::string& iconKey) override;
   void UnregisterForm(Form& form) override;

@@ -19,14 +19,16 @@ std::shared_ptr<DeskYear> OpenYear(Firm& firm, int startYear) {
   auto year = std::make_shared<DeskYear>(firm);
   bool ok = false;
   year->OpenYear(wanted, ok);
-  if (!ok) throw HostError("The firm has no financial year " + std::to_string(wanted) + "-" +
-                           std::to_string(wanted + 1).substr(2));
+  if (!ok)
+    throw HostError("The firm has no financial year " + std::to_string(wanted) + "-" +
+                    std::to_string(wanted + 1).substr(2));
   return year;
 }
 
 }  // namespace
 
-DeskSession::DeskSession(const std::string& folder, const std::string& user, int startYear, SqlObserver* observer)
+DeskSession::DeskSession(const std::string& folder, const std::string& user, int startYear,
+                         SqlObserver* observer)
     : firm_(OpenFirm(folder, observer)),
       year_(OpenYear(*firm_, startYear)),
       user_(FindUser(*firm_->Common(), user)),

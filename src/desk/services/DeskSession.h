@@ -21,8 +21,8 @@ struct ScreenArea {
 /// gSession: an open firm, a year of it and a user.
 class DeskSession : public ISession {
  public:
-  /// Opens the firm, the year (0 takes the latest) and the session of the user (empty takes the first of the highest
-  /// level). Throws HostError in plain words when any of them cannot be had.
+  /// Opens the firm, the year (0 takes the latest) and the session of the user (empty takes the first of the
+  /// highest level). Throws HostError in plain words when any of them cannot be had.
   DeskSession(const std::string& folder, const std::string& user, int startYear, SqlObserver* observer);
   ~DeskSession() override;
 

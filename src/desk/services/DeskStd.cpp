@@ -66,7 +66,9 @@ std::string DeskStd::FormatValue(const Variant& value, const std::string& key) {
   return quillon::FormatValue(value, key);
 }
 
-std::string DeskStd::FormatAmount(Amount amount, const std::string& key) { return quillon::FormatAmount(amount, key); }
+std::string DeskStd::FormatAmount(Amount amount, const std::string& key) {
+  return quillon::FormatAmount(amount, key);
+}
 
 std::string DeskStd::FormatRate(Amount rate) { return quillon::FormatRate(rate); }
 
@@ -89,8 +91,8 @@ void DeskStd::SetupGrid(GridModel& grid) {
   grid.SetRowHeight(0, 390);
 }
 
-void DeskStd::SetGridColumn(GridModel& grid, int column, const std::string& title, double width, int alignment,
-                            int headingAlignment) {
+void DeskStd::SetGridColumn(GridModel& grid, int column, const std::string& title, double width,
+                            int alignment, int headingAlignment) {
   const double twips = width <= 1 ? width * static_cast<double>(grid.Width()) : width;
   grid.SetColWidth(column, static_cast<long>(twips));
   if (alignment >= 0) grid.SetColAlignment(column, alignment);
@@ -98,7 +100,8 @@ void DeskStd::SetGridColumn(GridModel& grid, int column, const std::string& titl
   if (grid.Rows > 0) grid.SetTextMatrix(0, column, title);
 }
 
-void DeskStd::SetRowColors(GridModel& grid, int row, int firstColumn, int lastColumn, long backColor, long foreColor) {
+void DeskStd::SetRowColors(GridModel& grid, int row, int firstColumn, int lastColumn, long backColor,
+                           long foreColor) {
   grid.PaintRow(row, {firstColumn, lastColumn, backColor, foreColor});
 }
 
@@ -131,8 +134,8 @@ IFiles& DeskStd::Files() {
 }
 
 void DeskStd::ShowHelp(int /*context*/) {
-  MsgBox("The keys of this screen stand on its buttons: F2 to F9 along the bottom, Esc to leave.", "", "I", "Help", 0,
-         0);
+  MsgBox("The keys of this screen stand on its buttons: F2 to F9 along the bottom, Esc to leave.", "", "I",
+         "Help", 0, 0);
 }
 
 }  // namespace quillon

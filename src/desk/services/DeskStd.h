@@ -13,8 +13,8 @@ class DeskStd : public IStd {
   DeskStd() { gStd = this; }
   ~DeskStd() override { gStd = nullptr; }
 
-  int MsgBox(const std::string& text, const std::string& buttons, const std::string& icon, const std::string& title,
-             int defaultButton, int style) override;
+  int MsgBox(const std::string& text, const std::string& buttons, const std::string& icon,
+             const std::string& title, int defaultButton, int style) override;
   void SendKeys(const std::string& keys) override;
   Amount ParseAmount(std::string_view text) override;
   Amount RoundAmount(Amount amount, const std::string& decimals) override;

@@ -6,7 +6,8 @@
 
 namespace quillon {
 
-/// The settings of users and of the firm, texts by key in the common database, so that all desks of a firm share them.
+/// The settings of users and of the firm, texts by key in the common database, so that all desks of a firm
+/// share them.
 class Settings {
  public:
   Settings(CDbLink& common, std::string user) : common_(common), user_(std::move(user)) {}

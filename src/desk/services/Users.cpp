@@ -8,7 +8,8 @@ namespace quillon {
 
 User FindUser(CDbLink& common, const std::string& name) {
   CDataSet users;
-  users.Open("Select UserName,UserLevel from Users" + (name.empty() ? "" : " where UserName=" + SqlString(name)) +
+  users.Open("Select UserName,UserLevel from Users" +
+                 (name.empty() ? "" : " where UserName=" + SqlString(name)) +
                  " order by UserLevel desc,UserName",
              common);
   if (!users.Eof()) {
@@ -21,14 +22,17 @@ User FindUser(CDbLink& common, const std::string& name) {
 bool MayDo(CDbLink& common, const User& user, const std::string& rightKey, const std::string& action) {
   if (user.Level >= User::kSupervisor) return true;
   const std::string granted =
-      common.Lookup("UserRights", "Actions", "UserName=" + SqlString(user.Name) + " and RightKey=" + SqlString(rightKey))
+      common
+          .Lookup("UserRights", "Actions",
+                  "UserName=" + SqlString(user.Name) + " and RightKey=" + SqlString(rightKey))
           .ToText();
   return granted.find(action) != std::string::npos;
 }
 
-void Grant(CDbLink& common, const std::string& user, const std::string& rightKey, const std::string& actions) {
-  common.Execute("Update or insert into UserRights (UserName,RightKey,Actions) values (" + SqlString(user) + "," +
-                 SqlString(rightKey) + "," + SqlString(actions) + ")");
+void Grant(CDbLink& common, const std::string& user, const std::string& rightKey,
+           const std::string& actions) {
+  common.Execute("Update or insert into UserRights (UserName,RightKey,Actions) values (" + SqlString(user) +
+                 "," + SqlString(rightKey) + "," + SqlString(actions) + ")");
 }
 
 }  // namespace quillon
