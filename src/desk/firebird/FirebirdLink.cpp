@@ -127,7 +127,7 @@ std::int64_t FirebirdLink::ExecutePlain(const std::string& sql) {
 }
 
 std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<const Variant> values) {
-  const std::string shown = WithLiterals(statement, values);
+  const std::string shown = observer_ ? WithLiterals(statement, values) : statement;
   const std::int64_t rows = Send(shown, [&] { return Prepared(statement).Execute(Writing(), values); });
   Tell(shown, rows, {});
   return rows;
