@@ -12,6 +12,34 @@ CSelGrid::CSelGrid(Control& parent, std::string name, int index)
       Grid(*this, "Grid", kNoIndex, false),
       Title(*this, "Title", kNoIndex, false) {}
 
+CSelGrid::~CSelGrid() { SetBoundText(nullptr); }
+
+void CSelGrid::SetBoundText(TextBox* box) {
+  if (bound_ != nullptr && bound_->Companion == this) bound_->Companion = nullptr;
+  bound_ = box;
+  if (bound_ != nullptr) bound_->Companion = this;
+}
+
+bool CSelGrid::CompanionKey(const KeyEvent& key) {
+  if (!Visible || IsEmpty() || key.Shift != 0) return false;
+  switch (key.KeyCode) {
+    case keys::kUp:
+    case keys::kDown:
+    case keys::kPageUp:
+    case keys::kPageDown:
+      return Grid.HandleKey(key);
+    case keys::kEnter:
+      Pick(Grid.Row);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void CSelGrid::CompanionTyped(const std::string& text) {
+  if (Visible) Search(text);
+}
+
 void CSelGrid::Load(const std::string& sql, CDbLink& db, bool captionFlag, int width) {
   CDataSet rows;
   rows.Open(sql, db, 1, 1);

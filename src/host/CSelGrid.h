@@ -11,9 +11,10 @@ namespace quillon {
 class CDbLink;
 
 /// A drop-down selection grid attached to a field: the first column is what the user sees and searches by.
-class CSelGrid : public Control {
+class CSelGrid : public Control, private ITextCompanion {
  public:
   CSelGrid(Control& parent, std::string name, int index = kNoIndex);
+  ~CSelGrid() override;
 
   const char* Kind() const override { return "CSelGrid"; }
 
@@ -27,7 +28,7 @@ class CSelGrid : public Control {
   void Load(const std::string& sql, CDbLink& db, bool captionFlag, int width);
 
   /// The text box that the list serves; nothing unties it.
-  void SetBoundText(TextBox* box) { bound_ = box; }
+  void SetBoundText(TextBox* box);
   TextBox* BoundText() const { return bound_; }
 
   /// Rows count from 1, columns from 0.
@@ -47,6 +48,9 @@ class CSelGrid : public Control {
   State Describe() const override;
 
  private:
+  bool CompanionKey(const KeyEvent& key) override;
+  void CompanionTyped(const std::string& text) override;
+
   TextBox* bound_ = nullptr;
   bool loaded_ = false;
 };

@@ -37,6 +37,16 @@ class IControlListener {
 /// A headless control: properties, events for its form, and user verbs for the adapters and the driver.
 /// Places and sizes are twips in its container; colours are 0xBBGGRR.
 class Control : public Object {
+  // Stands before the properties, which enter themselves here while the control is made.
+  std::string name_;
+  int index_ = -1;
+  Control* parent_ = nullptr;
+  Form* form_ = nullptr;
+  bool listed_ = true;
+  std::vector<Control*> children_;
+  std::vector<PropertyBase*> properties_;
+  std::vector<IControlListener*> listeners_;
+
  public:
   static constexpr long kDefaultColor = -1;
   static constexpr int kNoIndex = -1;
@@ -136,15 +146,6 @@ class Control : public Object {
 
  private:
   void Tell(const PropertyBase* property);
-
-  std::string name_;
-  int index_ = kNoIndex;
-  Control* parent_ = nullptr;
-  Form* form_ = nullptr;
-  bool listed_ = true;
-  std::vector<Control*> children_;
-  std::vector<PropertyBase*> properties_;
-  std::vector<IControlListener*> listeners_;
 };
 
 }  // namespace quillon

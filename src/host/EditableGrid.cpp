@@ -167,7 +167,7 @@ bool EditableGrid::HandleEditKey(const KeyEvent& key) {
     case keys::kDown: {
       const int direction = offered.KeyCode == keys::kUp ? -1 : 1;
       const int row = VisibleRowFrom(editRow_ + direction, direction);
-      if (row > 0 && EndEdit()) GridModel::UserMoveTo(row, Col);
+      if (row > 0 && EndEdit()) KeyMoveTo(row, Col);
       return true;
     }
     default:

@@ -236,7 +236,7 @@ bool GridModel::HandleKey(const KeyEvent& key) {
     default:
       return false;
   }
-  if (row > 0) UserMoveTo(row, col);
+  if (row > 0) KeyMoveTo(row, col);
   return true;
 }
 
@@ -252,8 +252,12 @@ void GridModel::RequireUserCell(int row, int col) const {
 void GridModel::UserMoveTo(int row, int col) {
   RequireUserCell(row, col);
   if (!OwnerForm().UserFocus(*this)) return;
+  KeyMoveTo(row, col);
+}
+
+void GridModel::KeyMoveTo(int row, int col) {
   Row.PutSilently(row);
-  Col = col;
+  Col.PutSilently(col);
   CursorMoved();
 }
 

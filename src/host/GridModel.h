@@ -114,6 +114,9 @@ class GridModel : public Control {
   void RequireRow(int row) const;
   void RequireCol(int col) const;
 
+  /// The cursor moves by a key of the grid itself.
+  void KeyMoveTo(int row, int col);
+
   /// Throws Refused for a cell that a person cannot go to.
   void RequireUserCell(int row, int col) const;
 

@@ -25,6 +25,7 @@ void TextBox::UserType(const std::string& text) {
   Text = Accepted(text);
   SelStart = static_cast<int>(text::Length(Text()));
   SelLength = 0;
+  if (Companion != nullptr) Companion->CompanionTyped(Text);
 }
 
 void TextBox::SelectAll() {
@@ -45,9 +46,11 @@ void TextBox::Replace(int start, int length, const std::string& with) {
   Text = taken;
   SelStart = std::min(start + static_cast<int>(text::Length(with)), static_cast<int>(text::Length(taken)));
   SelLength = 0;
+  if (Companion != nullptr) Companion->CompanionTyped(Text);
 }
 
 bool TextBox::HandleKey(const KeyEvent& key) {
+  if (Companion != nullptr && Companion->CompanionKey(key)) return true;
   const int end = static_cast<int>(text::Length(Text()));
   SelStart = std::clamp(SelStart, 0, end);
   SelLength = std::clamp(SelLength, 0, end - SelStart);

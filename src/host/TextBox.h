@@ -6,6 +6,18 @@
 
 namespace quillon {
 
+/// A list that goes with a text box: it takes the keys that move in it, and follows what is typed.
+class ITextCompanion {
+ public:
+  ITextCompanion() = default;
+  ITextCompanion(const ITextCompanion&) = delete;
+  ITextCompanion& operator=(const ITextCompanion&) = delete;
+  virtual ~ITextCompanion() = default;
+
+  virtual bool CompanionKey(const KeyEvent& key) = 0;
+  virtual void CompanionTyped(const std::string& text) = 0;
+};
+
 /// A field of text. Every single-line editor is one of these: the plain box, the box of a labelled field, the
 /// editor of a grid's cell.
 class TextBox : public Control {
@@ -28,6 +40,9 @@ class TextBox : public Control {
   int SelLength = 0;
 
   Event<> Change;
+
+  /// The list that is open on the box, or nothing.
+  ITextCompanion* Companion = nullptr;
 
   bool CanTakeFocus() const override { return true; }
   bool KeepsEnter() const override { return MultiLine; }

@@ -201,10 +201,7 @@ void frmAcReconciliation::Print(bool print) {
   options.SetOption("SubHeadForm1", "AcSubHead1");
   options.SetOption("SubHeadForm2", "AcSubHead2");
   std::optional<FooterAsLastRow> closing;
-  if (grid == &GridStatement) {
-    options.SetOption("Footer", false);
-    closing.emplace(GridStatement);
-  }
+  if (grid == &GridStatement) closing.emplace(GridStatement);
   if (grid == &GridStatement || grid == &GridPBook) options.SetOption("BalColID", "6");
   gReports->ShowGrid(*grid, &options, grid->Title, lblTitle1(2).Caption, 3, print);
 }

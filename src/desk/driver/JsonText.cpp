@@ -1,0 +1,57 @@
+#include "desk/driver/JsonText.h"
+
+#include <cstdio>
+
+#include "host/Errors.h"
+
+namespace quillon {
+
+namespace {
+
+std::string FourDecimals(Amount amount) {
+  const std::int64_t units = amount.Units();
+  const std::uint64_t magnitude =
+      units < 0 ? 0 - static_cast<std::uint64_t>(units) : static_cast<std::uint64_t>(units);
+  char text[40];
+  std::snprintf(text, sizeof text, "%s%llu.%04llu", units < 0 ? "-" : "",
+                static_cast<unsigned long long>(magnitude / 10000),
+                static_cast<unsigned long long>(magnitude % 10000));
+  return text;
+}
+
+}  // namespace
+
+Json ToJson(const Variant& value) {
+  if (value.IsEmpty() || value.IsNull() || value.Is<std::shared_ptr<Object>>()) return nullptr;
+  if (value.Is<bool>()) return value.As<bool>();
+  if (value.Is<std::int64_t>()) return value.As<std::int64_t>();
+  if (value.Is<double>()) return value.As<double>();
+  if (value.Is<std::shared_ptr<Array>>()) {
+    Json list = Json::array();
+    for (const Variant& item : value.ToArray()) list.push_back(ToJson(item));
+    return list;
+  }
+  return value.ToText();
+}
+
+Json ToDatabaseJson(const Variant& value) {
+  if (value.Is<Amount>()) return FourDecimals(value.As<Amount>());
+  if (value.Is<Date>()) return value.As<Date>().Format("yyyy-MM-dd");
+  return ToJson(value);
+}
+
+Variant FromJson(const Json& value) {
+  if (value.is_null()) return {};
+  if (value.is_boolean()) return value.get<bool>();
+  if (value.is_number_integer()) return value.get<std::int64_t>();
+  if (value.is_number()) return value.get<double>();
+  if (value.is_string()) return value.get<std::string>();
+  if (!value.is_array()) throw HostError("This value is not understood: " + Line(value));
+  Array items;
+  for (const Json& item : value) items.push_back(FromJson(item));
+  return items;
+}
+
+std::string Line(const Json& value) { return value.dump(-1, ' ', false, Json::error_handler_t::replace); }
+
+}  // namespace quillon

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "desk/print/ReportFirm.h"
+#include "desk/print/ReportPages.h"
+#include "host/GridModel.h"
+#include "host/IReports.h"
+
+namespace quillon {
+
+/// A report that was made; grid and sheets live only while the observer is told.
+struct ReportShown {
+  std::string Title;
+  std::string Subtitle;
+  bool Print = false;
+  std::string File;
+  int Pages = 0;
+  const GridModel& Grid;      ///< as it was handed over
+  const ReportPages& Sheets;  ///< for the preview; no pages when the printer prints characters
+};
+
+class ReportObserver {
+ public:
+  ReportObserver() = default;
+  ReportObserver(const ReportObserver&) = delete;
+  ReportObserver& operator=(const ReportObserver&) = delete;
+  virtual ~ReportObserver() = default;
+
+  virtual void OnReport(const ReportShown& report) = 0;
+};
+
+/// The report engine of the desk. Each report is a file in the output folder, report-1.pdf or report-1.txt
+/// and so on; one that was asked for in print goes to the chosen printer too.
+class DeskReports : public IReports {
+ public:
+  struct Surroundings {
+    std::string OutputFolder;
+    std::function<ReportFirm()> Firm = ReportFirm::Current;
+    std::function<std::string()> Device = {};  ///< the chosen printer; empty, or nothing, leaves the file
+    ReportObserver* Observer = nullptr;   ///< hears of each report, and opens the preview
+  };
+
+  explicit DeskReports(Surroundings surroundings) : desk_(std::move(surroundings)) {}
+
+  /// Below 2 graphic pages, 2 and above plain lines.
+  void SetPrinterMode(int mode) { mode_ = mode; }
+
+  void ShowGrid(GridModel& grid, CReportOptions* options, const std::string& title,
+                const std::string& subtitle, int value, bool print, const std::string& heading = "",
+                const std::string& optionText = "") override;
+  PrintSetup Print(const std::string& what) override;
+  int PrinterMode() const override { return mode_; }
+
+ private:
+  Surroundings desk_;
+  int mode_ = 0;
+};
+
+}  // namespace quillon

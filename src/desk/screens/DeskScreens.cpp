@@ -1,0 +1,41 @@
+#include "desk/screens/DeskScreens.h"
+
+#include "desk/screens/frmAccount.h"
+#include "desk/screens/frmAccountView.h"
+#include "desk/screens/frmAlertLog.h"
+#include "desk/screens/frmMain.h"
+#include "desk/screens/frmSelectAc.h"
+#include "desk/screens/frmVoucher.h"
+#include "host/Text.h"
+
+namespace quillon {
+
+FormPtr DeskScreens::NewForm(const std::string& key) {
+  const std::string wanted = text::Lower(key);
+  if (wanted == "account") return std::make_shared<frmAccount>();
+  if (wanted == "selectac") return std::make_shared<frmSelectAc>();
+  return nullptr;
+}
+
+FormPtr DeskScreens::MainForm() {
+  if (!main_) main_ = std::make_shared<frmMain>();
+  return main_;
+}
+
+std::shared_ptr<CAlertLog> DeskScreens::NewAlertLog() { return frmAlertLog::New(); }
+
+FormPtr DeskScreens::NewVoucherView(std::int64_t voucherId, int startYear, std::int64_t accountCode) {
+  auto view = std::make_shared<frmVoucher>();
+  view->VoucherID = voucherId;
+  view->StartYear = startYear;
+  view->AccountCode = accountCode;
+  return view;
+}
+
+FormPtr DeskScreens::NewAccountView(std::int64_t accountCode) {
+  auto view = std::make_shared<frmAccountView>();
+  view->AccountCode = accountCode;
+  return view;
+}
+
+}  // namespace quillon

@@ -1,0 +1,302 @@
+#include "desk/screens/frmAccount.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "host/RedrawHold.h"
+#include "host/Text.h"
+#include "host/host_services.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr ScreenSpec kScreen = {
+    .className = "frmAccount",
+    .caption = "   Statement of Account",
+    .titleSuffix = " -> Statement of Account",
+    .rightKey = "",
+    .registerTitle = "A/c Statement",
+    .iconKey = "AcStatement",
+    .firstKey = keys::kF2,
+    .lastKey = keys::kF2 + 7,
+    .initForm = true,
+};
+
+/// The row layout that the screens opened on the statement read.
+namespace col {
+
+constexpr int kVoucherId = 0;
+constexpr int kBookCode = 1;
+constexpr int kNature = 3;
+constexpr int kClearedOn = 4;
+constexpr int kVchSubNo = 5;
+constexpr int kSerial = 6;
+constexpr int kVchNo = 7;
+constexpr int kDate = 8;
+constexpr int kBook = 9;
+constexpr int kNarration = 11;
+constexpr int kDebit = 24;
+constexpr int kCredit = 25;
+constexpr int kBalance = 26;
+constexpr int kReturned = 28;
+constexpr int kCount = 29;
+
+}  // namespace col
+
+constexpr const char* kOpeningBook = "0B";
+
+std::string BalanceText(Amount balance) {
+  return gStd->FormatAmount(balance.Abs(), "C2") + (balance < Amount() ? " Cr." : " Dr.");
+}
+
+}  // namespace
+
+struct frmAccount::Sums {
+  Amount debits;
+  Amount credits;
+  Amount balance;
+
+  void Add(Amount amount) {
+    (amount < Amount() ? credits : debits) += amount.Abs();
+    balance += amount;
+  }
+};
+
+Variant frmAccount::Master::Get(const std::string& member) {
+  const std::string name = text::Lower(member);
+  if (name == "achead") return AcHead;
+  if (name == "station") return Station;
+  return Object::Get(member);
+}
+
+frmAccount::frmAccount()
+    : ScreenForm(kScreen, Origin::Desk),
+      lblTitle1(*this, "lblTitle1", {0, 1, 2}),
+      lblTitle2(*this, "lblTitle2"),
+      Grid(*this, "Grid") {
+  Member("AccountCode", AccountCode);
+  Member("Date1", Date1);
+  Member("Date2", Date2);
+  Member("WithOpening", WithOpening);
+  Member("FAMaster", FAMaster);
+  Grid.KeyDown = [this](KeyEvent& key) { Grid_KeyDown(key); };
+  Grid.DblClick = [this] { OpenVoucher(); };
+}
+
+void frmAccount::BuildBar() {
+  BtnBar1.AddButtons({"Account,F2: Account,Customers", "Period,F3: Period,Date", "F4",
+                      "Interest,F5: Interest,Interest", "Reconciliation,F6: Reconciliation,Report", "F7",
+                      "Preview,F8: Preview,Preview", "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
+  BtnBar1.HideButtons({"F4", "F7"});
+  BtnBar1.Buttons("Interest").SetEnabled(false);  // opens the workbench's interest, which is not built yet
+}
+
+void frmAccount::PlaceControls() {
+  constexpr long kLine = 360;
+  const long top = lblTitle.Top + lblTitle.Height;
+  const long third = Width / 3;
+  for (const int item : {0, 1, 2}) lblTitle1(item).Move(item * third, top, third, kLine);
+  MStrip1.Move(0, top + kLine, Width / 2, kLine);
+  lblTitle2.Move(Width / 2, top + kLine, Width / 2, kLine);
+  Grid.Move(0, top + 2 * kLine, Width, BtnBar1.Top - top - 2 * kLine);
+  Grid.Font = quillon::Font{"Tahoma", 9.75, false, false, false};
+}
+
+void frmAccount::LoadScreen() {
+  PlaceControls();
+  if (Date1.IsEmpty()) Date1 = gSession->Year().StartDate();
+  if (Date2.IsEmpty()) Date2 = gSession->Year().EndDate();
+  lblTitle1(0).Caption = "   Statement of Account";
+  SetColumns();
+  if (AccountCode != 0) FillGrid();
+}
+
+void frmAccount::FirstShow() {
+  if (AccountCode != 0) return;
+  if (AskAccount()) {
+    FillGrid();
+  } else {
+    gRuntime->Unload(*this);
+  }
+}
+
+bool frmAccount::AskAccount() {
+  const FormPtr picker = gApp->MainModule().GetForm("SelectAc");
+  picker->Set("SelectAc", true);
+  gStd->ShowDialog(picker, Self());
+  const bool picked = picker->Get("Modify").ToFlag();
+  if (picked) AccountCode = static_cast<long>(picker->Get("ModifyCode").ToInteger());
+  gRuntime->Unload(*picker);
+  return picked;
+}
+
+void frmAccount::AskPeriod() {
+  CDateDialog dialog;
+  dialog.Title("Period of the Statement");
+  dialog.DateCaption("From");
+  dialog.SetDate1(Date1);
+  dialog.SetDate2(Date2);
+  if (!dialog.Show()) return;
+  Date1 = dialog.Date1();
+  Date2 = dialog.Date2();
+  FillGrid();
+}
+
+void frmAccount::ShowTitles() {
+  CDataSet account;
+  account.Open("Select mhd,mst from FAMaster where mcd=" + std::to_string(AccountCode), gSession->MainDb());
+  if (account.Eof()) throw HostError("There is no account with the code " + std::to_string(AccountCode));
+  FAMaster->AcHead = account.Field("mhd").ToText();
+  FAMaster->Station = account.Field("mst").ToText();
+  const int start = gSession->Year().StartYear();
+  MStrip1.Code = AccountCode;
+  lblTitle1(1).Caption = "F.Y. " + std::to_string(start) + "-" + std::to_string(start + 1).substr(2);
+  lblTitle1(2).Caption = "Period: " + Date1.Format("dd/MM/yyyy") + " to " + Date2.Format("dd/MM/yyyy");
+  lblTitle2.Caption = WithOpening ? "With Opening Balance" : "Without Opening Balance";
+  Grid.Title = FAMaster->Station.empty() ? FAMaster->AcHead : FAMaster->AcHead + ", " + FAMaster->Station;
+}
+
+void frmAccount::SetColumns() {
+  Grid.Rows = 1;
+  Grid.Cols = col::kCount;
+  gStd->SetupGrid(Grid);
+  Grid.HideAllColumns();
+  const auto unit = static_cast<double>(CharWidth(Grid));
+  const auto set = [&](int column, const char* title, int chars, int alignment) {
+    gStd->SetGridColumn(Grid, column, title, chars * unit, alignment);
+  };
+  set(col::kSerial, "S.No.", 7, kAlignRight);
+  set(col::kDate, "Date", 13, kAlignLeft);
+  set(col::kBook, "Book", 6, kAlignCentre);
+  set(col::kVchNo, "Vch. No.", 10, kAlignLeft);
+  set(col::kNarration, "Narration", 56, kAlignLeft);
+  set(col::kDebit, "Debit", 17, kAlignRight);
+  set(col::kCredit, "Credit", 17, kAlignRight);
+  set(col::kBalance, "Balance", 20, kAlignRight);
+}
+
+void frmAccount::FillGrid() {
+  ShowTitles();
+  const RedrawHold hold(Grid);
+  Grid.Clear();
+  Grid.Rows = 1;
+  Sums sums;
+  int row = 0;
+  if (WithOpening) AddOpening(row, sums);
+  AddEntries(row, sums);
+  Grid.Rows = std::max(row + 1, 2);
+  Grid.Footer.Clear();
+  Grid.Footer.SetRows(1);
+  Grid.Footer.SetTextMatrix(0, col::kNarration, "Totals");
+  Grid.Footer.SetTextMatrix(0, col::kDebit, gStd->FormatAmount(sums.debits, "C2"));
+  Grid.Footer.SetTextMatrix(0, col::kCredit, gStd->FormatAmount(sums.credits, "C2"));
+  Grid.Footer.SetTextMatrix(0, col::kBalance, BalanceText(sums.balance));
+  Grid.Row = 1;
+}
+
+void frmAccount::AddOpening(int& row, Sums& sums) {
+  const Amount opening = gSession->MainDb()
+                             .Lookup("FADATA", "Sum(dAmt)",
+                                     "dcd=" + std::to_string(AccountCode) + " and (dVchDate<" +
+                                         gStd->SqlDate(Date1) + " or dBook='0B') and dBook<>'MEM'")
+                             .ToAmount();
+  if (opening.IsZero()) return;
+  Grid.Rows = ++row + 1;
+  sums.Add(opening);
+  Grid.SetTextMatrix(row, col::kBookCode, kOpeningBook);
+  Grid.SetTextMatrix(row, col::kSerial, std::to_string(row));
+  Grid.SetTextMatrix(row, col::kDate, Date1.Text());
+  Grid.SetTextMatrix(row, col::kBook, kOpeningBook);
+  Grid.SetTextMatrix(row, col::kNarration, "Opening Balance");
+  Grid.SetTextMatrix(row, opening < Amount() ? col::kCredit : col::kDebit,
+                     gStd->FormatAmount(opening.Abs(), "c2"));
+  Grid.SetTextMatrix(row, col::kBalance, BalanceText(sums.balance));
+}
+
+void frmAccount::AddEntries(int& row, Sums& sums) {
+  std::unordered_set<std::int64_t> returned;
+  CDataSet docs;
+  for (docs.Open("Select VoucherID from FADocs where ChqReturn='Y'", gSession->MainDb()); !docs.Eof();
+       docs.MoveNext()) {
+    returned.insert(docs.Field(std::size_t{0}).ToInteger());
+  }
+  CDataSet entries;
+  entries.Open(
+      "Select "
+      "a.VoucherID,a.dVchSubNo,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dTrnNature,a.dBankDate,n.Narration "
+      "from FAData a left join FANar n on a.NarrationID=n.NarrationID where a.dcd=" +
+          std::to_string(AccountCode) + " and a.dVchDate between " + gStd->SqlDate(Date1, Date2) +
+          " and a.dBook<>'MEM' and a.dBook<>'0B' order by a.dVchDate,a.dSrNo,a.VoucherID,a.dVchSubNo",
+      gSession->MainDb());
+  constexpr int kMoreRows = 1000;
+  for (; !entries.Eof(); entries.MoveNext()) {
+    if (++row >= Grid.Rows) Grid.Rows = row + kMoreRows;
+    AddEntry(entries, row, returned.contains(entries.Field(std::size_t{0}).ToInteger()), sums);
+  }
+}
+
+void frmAccount::AddEntry(CDataSet& entry, int row, bool returned, Sums& sums) {
+  const Amount amount = entry.Field("dAmt").ToAmount();
+  const std::string book = entry.Field("dBook").ToText();
+  sums.Add(amount);
+  Grid.SetTextMatrix(row, col::kVoucherId, entry.Field("VoucherID").ToText());
+  Grid.SetTextMatrix(row, col::kBookCode, book);
+  Grid.SetTextMatrix(row, col::kNature, entry.Field("dTrnNature").ToText());
+  Grid.SetTextMatrix(row, col::kClearedOn, entry.Field("dBankDate").ToDate().Text());
+  Grid.SetTextMatrix(row, col::kVchSubNo, entry.Field("dVchSubNo").ToText());
+  Grid.SetTextMatrix(row, col::kSerial, std::to_string(row));
+  Grid.SetTextMatrix(row, col::kVchNo, entry.Field("dVchNo").ToText());
+  Grid.SetTextMatrix(row, col::kDate, entry.Field("dVchDate").ToDate().Text());
+  Grid.SetTextMatrix(row, col::kBook, book);
+  Grid.SetTextMatrix(row, col::kNarration, entry.Field("Narration").ToText());
+  Grid.SetTextMatrix(row, amount < Amount() ? col::kCredit : col::kDebit,
+                     gStd->FormatAmount(amount.Abs(), "c2"));
+  Grid.SetTextMatrix(row, col::kBalance, BalanceText(sums.balance));
+  if (returned) Grid.SetTextMatrix(row, col::kReturned, "Y");
+}
+
+void frmAccount::ButtonPressed(int index) {
+  const std::string key = BtnBar1.Buttons(index).Key();
+  if (key == "Account") {
+    if (AskAccount()) FillGrid();
+  } else if (key == "Period") {
+    AskPeriod();
+  } else if (key == "Interest" || key == "Reconciliation") {
+    OpenWorkbench(key == "Interest");
+  } else if (key == "Preview" || key == "Print") {
+    CReportOptions options;
+    options.SetOption("MainHeadForm1", "AcMain1");
+    options.SetOption("MainHeadForm2", "AcMain2");
+    gReports->ShowGrid(Grid, &options, "Statement of Account: " + Grid.Title, lblTitle1(2).Caption, 3,
+                       key == "Print");
+  } else if (key == "Exit") {
+    PressExit();
+  }
+}
+
+void frmAccount::OpenWorkbench(bool interest) {
+  IModule* const module = gSession->Modules().Item("DutyworksModule");
+  const FormPtr workbench = module != nullptr ? module->GetForm("acreconciliation") : nullptr;
+  if (!workbench) {
+    gStd->MsgBox("The reconciliation module is not loaded.", "", "W");
+    return;
+  }
+  workbench->CallingForm = Self();
+  workbench->Set("bCalcInt", interest);
+  gApp->ShowForm(workbench);
+}
+
+void frmAccount::Grid_KeyDown(KeyEvent& key) {
+  if (key.KeyCode != keys::kEnter || key.Shift != 0) return;
+  key.KeyCode = 0;
+  OpenVoucher();
+}
+
+void frmAccount::OpenVoucher() {
+  if (Grid.Row < 1) return;
+  gApp->OpenVoucher(*this, ValInteger(Grid.Cell(Grid.Row, col::kVoucherId)), gSession->Year().StartYear(),
+                    AccountCode);
+}
+
+}  // namespace quillon

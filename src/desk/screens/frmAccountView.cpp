@@ -1,0 +1,70 @@
+#include "desk/screens/frmAccountView.h"
+
+#include "host/CDataSet.h"
+#include "host/ISession.h"
+#include "host/IStd.h"
+#include "host/Runtime.h"
+
+namespace quillon {
+
+namespace {
+
+struct FieldSpec {
+  const char* title;
+  const char* field;
+};
+
+constexpr FieldSpec kFields[] = {
+    {"A/c Head", "mhd"},
+    {"Station", "mst"},
+    {"Group", "CtgName"},
+    {"Alias", "malias1"},
+    {"Contact", "mName"},
+    {"Address", "mhda1"},
+    {"", "mhda2"},
+    {"", "mhda3"},
+    {"Pin", "mPin"},
+    {"State", "mState"},
+    {"Phone (Off.)", "mPhoneOff"},
+    {"Mobile", "mCellNo"},
+    {"Bank", "mBankName"},
+    {"Branch", "mBankBranch"},
+    {"IFSC", "mIFSCCode"},
+    {"Bank A/c No.", "mBankAcNo"},
+};
+
+}  // namespace
+
+frmAccountView::frmAccountView()
+    : Form("frmAccountView", Origin::Desk), Grid(*this, "Grid"), btnOKCancel(*this, "btnOKCancel", {1}) {
+  Caption = "Account";
+  Width = 8400;
+  Height = 7200;
+  Left = (gRuntime->ScreenWidth() - Width) / 2;
+  Top = (gRuntime->ScreenHeight() - Height) / 2;
+  Grid.Move(0, 0, Width, Height - 720);
+  btnOKCancel(1).Caption = "Esc: Close";
+  btnOKCancel(1).Move(Width - 1650, Height - 570, 1500, 420);
+  btnOKCancel(1).Click = [this] { gRuntime->Unload(*this); };
+  Member("AccountCode", AccountCode);
+}
+
+void frmAccountView::OnLoad() {
+  Grid.Cols = 2;
+  gStd->SetupGrid(Grid);
+  gStd->SetGridColumn(Grid, 0, "", 0.25, kAlignLeft);
+  gStd->SetGridColumn(Grid, 1, "", 0.7, kAlignLeft);
+  Grid.Rows = static_cast<int>(std::size(kFields)) + 1;
+  CDataSet account;
+  account.Open("Select a.*,c.CtgName from FAMaster a left join CtgMaster c on a.mbshno=c.CtgNo where a.mcd=" +
+                   std::to_string(AccountCode),
+               gSession->MainDb());
+  int row = 0;
+  for (const FieldSpec& field : kFields) {
+    ++row;
+    Grid.SetTextMatrix(row, 0, field.title);
+    if (!account.Eof()) Grid.SetTextMatrix(row, 1, account.Field(field.field).ToText());
+  }
+}
+
+}  // namespace quillon

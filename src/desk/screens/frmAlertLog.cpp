@@ -1,0 +1,73 @@
+#include "desk/screens/frmAlertLog.h"
+
+#include "host/IStd.h"
+#include "host/Runtime.h"
+#include "host/Text.h"
+
+namespace quillon {
+
+namespace {
+
+class AlertLog : public CAlertLog {
+ public:
+  AlertLog() {
+    form_->Grid.DblClick = [this] { GridRowDblClick.Raise(form_->Grid.Row); };
+  }
+
+  void Heading(const std::string& text) override { form_->lblHeading.Caption = text; }
+  void Title(const std::string& text) override {
+    form_->Caption = text;
+    form_->Grid.Title = text;
+  }
+  void SetColumns(const std::vector<std::string>& columns) override;
+  void AddRow(const std::vector<std::string>& cells) override;
+  GridModel& Grid() override { return form_->Grid; }
+  std::shared_ptr<quillon::Form> Form() override { return form_; }
+  void Show(const std::shared_ptr<quillon::Form>& owner) override { gRuntime->Show(form_, false, owner); }
+
+ private:
+  std::shared_ptr<frmAlertLog> form_ = std::make_shared<frmAlertLog>();
+};
+
+void AlertLog::SetColumns(const std::vector<std::string>& columns) {
+  CGridPlus& grid = form_->Grid;
+  const long unit = gRuntime->TextWidth(grid.Font, "9");
+  grid.Cols = static_cast<int>(columns.size());
+  for (int col = 0; col < grid.Cols; ++col) {
+    const std::vector<std::string> parts = text::Split(columns[static_cast<std::size_t>(col)], ",");
+    const long width = parts.size() > 1 ? unit * static_cast<long>(ValInteger(parts[1])) : 0;
+    const bool figure = parts[0] == "Debit" || parts[0] == "Credit" || parts[0] == "Amount";
+    gStd->SetGridColumn(grid, col, parts[0], static_cast<double>(width), figure ? kAlignRight : kAlignLeft);
+  }
+}
+
+void AlertLog::AddRow(const std::vector<std::string>& cells) { form_->Grid.AddItem(text::Join(cells, "\t")); }
+
+}  // namespace
+
+std::shared_ptr<CAlertLog> frmAlertLog::New() { return std::make_shared<AlertLog>(); }
+
+frmAlertLog::frmAlertLog()
+    : quillon::Form("frmAlertLog", Origin::Desk),
+      lblHeading(*this, "lblHeading"),
+      Grid(*this, "Grid"),
+      btnOKCancel(*this, "btnOKCancel", {1}) {
+  Width = 12000;
+  Height = 6600;
+  Left = (gRuntime->ScreenWidth() - Width) / 2;
+  Top = (gRuntime->ScreenHeight() - Height) / 2;
+  lblHeading.Move(120, 90, Width - 240, 360);
+  Grid.Move(0, 510, Width, Height - 510 - 630);
+  Grid.Rows = 1;
+  btnOKCancel(1).Caption = "Esc: Close";
+  btnOKCancel(1).Move(Width - 1650, Height - 540, 1500, 420);
+  btnOKCancel(1).Click = [this] { gRuntime->Unload(*this); };
+}
+
+void frmAlertLog::OnKeyDown(KeyEvent& key) {
+  if (key.KeyCode != keys::kEnter || key.Shift != 0 || !Grid.HasFocus()) return;
+  key.KeyCode = 0;
+  Grid.DblClick.Raise();
+}
+
+}  // namespace quillon

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "host/Form.h"
+#include "host/Label.h"
+
+namespace quillon {
+
+/// The host's main form: what a screen from the main menu has as its caller.
+class frmMain : public Form {
+ public:
+  frmMain() : Form("frmMain", Origin::Desk), lblTitle(*this, "lblTitle") {
+    Caption = "Quillon";
+    lblTitle.Caption = "   Quillon";
+  }
+
+  Label lblTitle;
+};
+
+}  // namespace quillon

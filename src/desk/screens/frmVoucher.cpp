@@ -1,0 +1,134 @@
+#include "desk/screens/frmVoucher.h"
+
+#include "host/Text.h"
+#include "host/host_services.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr ScreenSpec kScreen = {
+    .className = "frmVoucher",
+    .caption = "   Voucher",
+    .titleSuffix = " -> Voucher",
+    .rightKey = "",
+    .registerTitle = "Voucher",
+    .iconKey = "Voucher",
+};
+
+namespace col {
+
+constexpr int kCode = 0;
+constexpr int kHead = 1;
+constexpr int kStation = 2;
+constexpr int kNarration = 3;
+constexpr int kDebit = 4;
+constexpr int kCredit = 5;
+constexpr int kClearedOn = 6;
+constexpr int kCount = 7;
+
+}  // namespace col
+
+}  // namespace
+
+frmVoucher::frmVoucher()
+    : ScreenForm(kScreen, Origin::Desk),
+      lblDocument(*this, "lblDocument"),
+      lblLeaf(*this, "lblLeaf"),
+      Grid(*this, "Grid") {
+  Member("VoucherID", VoucherID);
+  Member("StartYear", StartYear);
+  Member("AccountCode", AccountCode);
+  Grid.RowChange = [this](int row) { MStrip1.Code = ValInteger(Grid.Cell(row, col::kCode)); };
+}
+
+void frmVoucher::BuildBar() { BtnBar1.AddButtons({"Exit,Esc : Exit,Close"}); }
+
+void frmVoucher::PlaceControls() {
+  constexpr long kLine = 390;
+  lblDocument.Move(0, BtnBar1.Top - 2 * kLine, Width, kLine);
+  lblLeaf.Move(0, BtnBar1.Top - kLine, Width, kLine);
+  Grid.Move(0, ContentTop(), Width, lblDocument.Top - ContentTop());
+  gStd->SetupGrid(Grid);
+  Grid.Cols = col::kCount;
+  gStd->SetGridColumn(Grid, col::kCode, "", 0, kAlignLeft);
+  gStd->SetGridColumn(Grid, col::kHead, "A/c Head", 0.22, kAlignLeft);
+  gStd->SetGridColumn(Grid, col::kStation, "Station", 0.1, kAlignLeft);
+  gStd->SetGridColumn(Grid, col::kNarration, "Narration", 0.34, kAlignLeft);
+  gStd->SetGridColumn(Grid, col::kDebit, "Debit", 0.11, kAlignRight);
+  gStd->SetGridColumn(Grid, col::kCredit, "Credit", 0.11, kAlignRight);
+  gStd->SetGridColumn(Grid, col::kClearedOn, "Cleared On", 0.1, kAlignLeft);
+}
+
+void frmVoucher::LoadScreen() {
+  PlaceControls();
+  const std::shared_ptr<FinYear> year = gSession->NewYear();
+  bool ok = false;
+  year->Init(true);
+  year->OpenYear(StartYear, ok);
+  if (!ok) throw HostError("The firm has no financial year " + std::to_string(StartYear));
+  FillLines(year->Db());
+  ShowDocument(year->Db());
+  ShowLeaf(year->Db());
+}
+
+void frmVoucher::FillLines(CDbLink& db) {
+  CDataSet lines;
+  lines.Open(
+      "Select a.dcd,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dBankDate,b.mhd,b.mst,n.Narration from (FAData a "
+      "left "
+      "join FAMaster b on a.dcd=b.mcd) left join FANar n on a.NarrationID=n.NarrationID where a.VoucherID=" +
+          std::to_string(VoucherID) + " order by a.dVchSubNo",
+      db);
+  Grid.Rows = static_cast<int>(lines.RecordCount()) + 1;
+  Amount debits;
+  Amount credits;
+  for (int row = 1; !lines.Eof(); lines.MoveNext(), ++row) {
+    const Amount amount = lines.Field("dAmt").ToAmount();
+    if (row == 1) {
+      Grid.Title = "Voucher No. " + lines.Field("dVchNo").ToText() + "   Date " +
+                   lines.Field("dVchDate").ToDate().Text() + "   Book " + lines.Field("dBook").ToText();
+    }
+    (amount < Amount() ? credits : debits) += amount.Abs();
+    Grid.SetTextMatrix(row, col::kCode, lines.Field("dcd").ToText());
+    Grid.SetTextMatrix(row, col::kHead, lines.Field("mhd").ToText());
+    Grid.SetTextMatrix(row, col::kStation, lines.Field("mst").ToText());
+    Grid.SetTextMatrix(row, col::kNarration, lines.Field("Narration").ToText());
+    Grid.SetTextMatrix(row, amount < Amount() ? col::kCredit : col::kDebit,
+                       gStd->FormatAmount(amount.Abs(), "c2"));
+    Grid.SetTextMatrix(row, col::kClearedOn, lines.Field("dBankDate").ToDate().Text());
+  }
+  Grid.Footer.SetTextMatrix(0, col::kNarration, "Totals");
+  Grid.Footer.SetTextMatrix(0, col::kDebit, gStd->FormatAmount(debits, "C2"));
+  Grid.Footer.SetTextMatrix(0, col::kCredit, gStd->FormatAmount(credits, "C2"));
+}
+
+void frmVoucher::ShowDocument(CDbLink& db) {
+  CDataSet document;
+  document.Open(
+      "Select First 1 DocumentID,DocSeries from DocMain where DocVoucherID=" + std::to_string(VoucherID), db);
+  std::string text = "   No document";
+  if (!document.Eof()) {
+    text = "   Document " + document.Field("DocumentID").ToText() + "   Series " +
+           document.Field("DocSeries").ToText();
+  }
+  if (db.RowExists("Select * from FADocs where VoucherID=" + std::to_string(VoucherID) +
+                   " and ChqReturn='Y'")) {
+    text += "   Chq. Returned";
+  }
+  lblDocument.Caption = text;
+}
+
+void frmVoucher::ShowLeaf(CDbLink& db) {
+  CDataSet leaf;
+  leaf.Open("Select First 1 ChqNo,IsuDate,Amount from ChqLeaves where VoucherID=" + std::to_string(VoucherID),
+            db);
+  lblLeaf.Caption = leaf.Eof() ? std::string("   No cheque leaf")
+                               : "   Cheque No. " + leaf.Field("ChqNo").ToText() + "   Issued on " +
+                                     leaf.Field("IsuDate").ToDate().Text() + "   Amount " +
+                                     gStd->FormatAmount(leaf.Field("Amount").ToAmount(), "C2");
+}
+
+void frmVoucher::ButtonPressed(int /*index*/) { PressExit(); }
+
+}  // namespace quillon

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "host/CDbLink.h"
+#include "host/CGridPlus.h"
+#include "host/ScreenForm.h"
+
+namespace quillon {
+
+/// A voucher, to read: its lines, and the document and the cheque leaf that go with it.
+class frmVoucher : public ScreenForm {
+ public:
+  frmVoucher();
+
+  std::int64_t VoucherID = 0;
+  int StartYear = 0;
+
+  /// The account from whose statement the voucher was opened.
+  std::int64_t AccountCode = 0;
+
+  Label lblDocument;
+  Label lblLeaf;
+  CGridPlus Grid;
+
+ protected:
+  void BuildBar() override;
+  void LoadScreen() override;
+  void ButtonPressed(int index) override;
+  GridModel* MainGrid() override { return &Grid; }
+
+ private:
+  void PlaceControls();
+  void FillLines(CDbLink& db);
+  void ShowDocument(CDbLink& db);
+  void ShowLeaf(CDbLink& db);
+};
+
+}  // namespace quillon

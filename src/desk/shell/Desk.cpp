@@ -1,0 +1,45 @@
+#include "desk/shell/Desk.h"
+
+#include "desk/shell/ModuleLibrary.h"
+#include "host/Runtime.h"
+
+namespace quillon {
+
+Desk::Desk(Options options)
+    : options_(std::move(options)),
+      reports_({.OutputFolder = options_.OutputFolder, .Observer = options_.Reports}),
+      module_(ModuleLibrary::Create(options_.ModulePath)) {
+  gReports = &reports_;
+}
+
+Desk::~Desk() {
+  CloseFirm();
+  gReports = nullptr;
+}
+
+void Desk::OpenFirm(const std::string& folder, const std::string& user, int startYear) {
+  CloseFirm();
+  session_ = std::make_unique<DeskSession>(folder, user, startYear, options_.Sql);
+  session_->SetArea(options_.Area);
+  screens_ = std::make_unique<DeskScreens>();
+  app_ = std::make_unique<DeskApp>(*session_, *screens_);
+  session_->AddModule(module_->ID(), *module_);
+  module_->Init(app_->MainWindow());
+}
+
+void Desk::CloseFirm() {
+  if (!session_) return;
+  module_->Terminate();
+  for (const FormPtr& form : gRuntime->AllForms()) {
+    try {
+      gRuntime->Unload(*form);
+    } catch (const std::exception& error) {
+      gRuntime->TellError("", form.get(), error.what());
+    }
+  }
+  app_.reset();
+  screens_.reset();
+  session_.reset();
+}
+
+}  // namespace quillon

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "desk/print/DeskReports.h"
+#include "desk/screens/DeskScreens.h"
+#include "desk/services/DeskApp.h"
+#include "desk/services/DeskSession.h"
+#include "desk/services/DeskStd.h"
+#include "host/IModule.h"
+
+namespace quillon {
+
+/// The desk: the services wired together over an open firm, with the module loaded. One at a time in a
+/// process; the runtime must live longer.
+class Desk {
+ public:
+  struct Options {
+    std::string ModulePath;  ///< empty: beside the program
+    std::string OutputFolder = ".";
+    ScreenArea Area;
+    SqlObserver* Sql = nullptr;
+    ReportObserver* Reports = nullptr;
+  };
+
+  /// Throws HostError when the module cannot be loaded.
+  explicit Desk(Options options);
+  ~Desk();
+
+  /// Closes an open firm first. Throws HostError in plain words; no firm is open then.
+  void OpenFirm(const std::string& folder, const std::string& user = "", int startYear = 0);
+
+  /// Ends the module's forms and the desk's own, then the session.
+  void CloseFirm();
+  bool HasFirm() const { return session_ != nullptr; }
+
+  IModule& Module() { return *module_; }
+  DeskSession& Session() { return *session_; }
+  DeskApp& App() { return *app_; }
+
+ private:
+  Options options_;
+  DeskStd std_;
+  DeskReports reports_;
+  std::unique_ptr<IModule> module_;
+  std::unique_ptr<DeskScreens> screens_;
+  std::unique_ptr<DeskSession> session_;
+  std::unique_ptr<DeskApp> app_;
+};
+
+}  // namespace quillon
