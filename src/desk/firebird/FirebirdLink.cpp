@@ -123,7 +123,9 @@ std::int64_t FirebirdLink::ExecutePlain(const std::string& sql) {
     prepared_.clear();
     keys_.clear();
   }
-  return statement.Execute(Writing());
+  if (!statement.GivesRows()) return statement.Execute(Writing());
+  statement.Open(Reading());
+  return 0;
 }
 
 std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<const Variant> values) {
@@ -131,6 +133,18 @@ std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<c
   const std::int64_t rows = Send(shown, [&] { return Prepared(statement).Execute(Writing(), values); });
   Tell(shown, rows, {});
   return rows;
+}
+
+std::vector<Variant> FirebirdLink::InsertWith(const std::string& statement, std::span<const Variant> values) {
+  const std::string shown = observer_ ? WithLiterals(statement, values) : statement;
+  std::vector<Variant> returned;
+  Send(shown, [&] {
+    FirebirdStatement& prepared = Prepared(statement);
+    prepared.Execute(Writing(), values);
+    for (std::size_t i = 0; i < prepared.Outputs().size(); ++i) returned.push_back(prepared.Value(i));
+  });
+  Tell(shown, 1, {});
+  return returned;
 }
 
 Variant FirebirdLink::FirstValue(const std::string& sql) {

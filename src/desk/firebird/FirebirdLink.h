@@ -45,6 +45,9 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   /// the number of rows changed.
   std::int64_t ExecuteWith(const std::string& statement, std::span<const Variant> values);
 
+  /// The same for an insert that ends in RETURNING: answers what it returns.
+  std::vector<Variant> InsertWith(const std::string& statement, std::span<const Variant> values);
+
   const std::string& Label() const { return label_; }
   bool InTransaction() const { return inTransaction_; }
 
