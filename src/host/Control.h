@@ -37,6 +37,9 @@ class IControlListener {
 /// A headless control: properties, events for its form, and user verbs for the adapters and the driver.
 /// Places and sizes are twips in its container; colours are 0xBBGGRR.
 class Control : public Object {
+  // Stands before the properties, which enter themselves while they are made.
+  std::vector<PropertyBase*> properties_;
+
  public:
   static constexpr long kDefaultColor = -1;
   static constexpr int kNoIndex = -1;
@@ -143,7 +146,6 @@ class Control : public Object {
   Form* form_ = nullptr;
   bool listed_ = true;
   std::vector<Control*> children_;
-  std::vector<PropertyBase*> properties_;
   std::vector<IControlListener*> listeners_;
 };
 
