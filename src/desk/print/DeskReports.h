@@ -39,7 +39,7 @@ class DeskReports : public IReports {
     std::string OutputFolder;
     std::function<ReportFirm()> Firm = ReportFirm::Current;
     std::function<std::string()> Device = {};  ///< the chosen printer; empty, or nothing, leaves the file
-    ReportObserver* Observer = nullptr;   ///< hears of each report, and opens the preview
+    ReportObserver* Observer = nullptr;        ///< hears of each report, and opens the preview
   };
 
   explicit DeskReports(Surroundings surroundings) : desk_(std::move(surroundings)) {}
