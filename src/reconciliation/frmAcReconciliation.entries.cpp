@@ -152,6 +152,9 @@ void frmAcReconciliation::UpdateMarkedTotals() {
 void frmAcReconciliation::cmbFilter_Click() {
   if (!cmbFilter.Visible || !Grid.EndEdit()) return;
   UpdateGrid();
+  // The rows are others now, so the strip and the returned mark must follow the cursor.
+  Grid.Row = 1;
+  Grid.Col = kClearedEdit;
 }
 
 void frmAcReconciliation::PutCursorOnLastRow() {
@@ -160,7 +163,6 @@ void frmAcReconciliation::PutCursorOnLastRow() {
   if (openingOnly) return;
   Grid.Row = Grid.Rows - 1;
   Grid.Col = kClearedEdit;
-  Grid_RowChange(Grid.Row);
 }
 
 void frmAcReconciliation::Grid_BeforeEdit(int row, int col, bool& cancel, std::string& action) {

@@ -73,8 +73,9 @@ int main(int count, char** words) {
     std::cerr << kUsage;
     return Script::kUnusable;
   }
-  // Pages and widths need Qt's fonts, but no screen.
+  // Pages and widths need Qt's fonts, but no screen and no folder of a desktop session.
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  setenv("XDG_RUNTIME_DIR", std::filesystem::temp_directory_path().c_str(), 0);
   const QGuiApplication application(count, words);
   try {
     if (arguments.script.empty()) return Drive(arguments, std::cin);

@@ -174,6 +174,21 @@ bool FirebirdLink::TableExists(const std::string& name) {
 
 bool FirebirdLink::RowExists(const std::string& sql) { return !FirstValue(sql).IsEmpty(); }
 
+std::vector<Variant> FirebirdLink::FirstRowWith(const std::string& query, std::span<const Variant> values) {
+  const std::string shown = observer_ ? WithLiterals(query, values) : query;
+  std::vector<Variant> row;
+  Send(shown, [&] {
+    FirebirdStatement& statement = Prepared(query);
+    statement.Open(Reading(), values);
+    if (statement.Fetch()) {
+      for (std::size_t i = 0; i < statement.Outputs().size(); ++i) row.push_back(statement.Value(i));
+    }
+    statement.Close();
+  });
+  Tell(shown, 0, {});
+  return row;
+}
+
 void FirebirdLink::BeginTrans() {
   if (inTransaction_) throw HostError("A transaction is open already");
   Send("",

@@ -36,6 +36,7 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   Variant Lookup(const std::string& table, const std::string& expression, const std::string& where) override;
   bool TableExists(const std::string& name) override;
   bool RowExists(const std::string& sql) override;
+  std::vector<Variant> FirstRowWith(const std::string& query, std::span<const Variant> values) override;
   void BeginTrans() override;
   void CommitTrans() override;
   void RollbackTrans() override;
