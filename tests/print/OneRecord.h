@@ -26,6 +26,10 @@ class OneRecord : public CDbLink {
   }
   bool TableExists(const std::string&) override { return false; }
   bool RowExists(const std::string&) override { return true; }
+  std::vector<Variant> FirstRowWith(const std::string& query, std::span<const Variant>) override {
+    Refuse(query);
+    return {};
+  }
   void BeginTrans() override { Refuse("begin"); }
   void CommitTrans() override { Refuse("commit"); }
   void RollbackTrans() override { Refuse("rollback"); }
