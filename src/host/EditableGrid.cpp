@@ -127,7 +127,8 @@ void EditableGrid::UserMoveTo(int row, int col) {
 bool EditableGrid::MayLeave() { return EndEdit() && GridModel::MayLeave(); }
 
 void EditableGrid::LeaveFocus() {
-  CancelEdit();
+  // Nobody is asked when code moves the focus, but what was typed is not lost while it is valid.
+  if (!EndEdit()) CancelEdit();
   GridModel::LeaveFocus();
 }
 
