@@ -151,7 +151,7 @@ Variant FirebirdLink::FirstValue(const std::string& sql) {
   Variant value = Send(sql, [&] {
     FirebirdStatement statement(*Reading(), sql);
     statement.Open(Reading());
-    const Variant first = statement.Fetch() ? statement.Value(0) : Variant();
+    Variant first = statement.Fetch() ? statement.Value(0) : Variant();
     // What LIST makes lives as long as its transaction.
     if (statement.Outputs()[0].Holds == FirebirdField::Kind::kBlob) read_.reset();
     return first;
