@@ -49,6 +49,11 @@ void CButtonBar::AddButtons(std::initializer_list<const char*> specs) {
   ContentChanged();
 }
 
+void CButtonBar::RemoveButtons() {
+  buttons_.clear();
+  ContentChanged();
+}
+
 void CButtonBar::HideButtons(std::initializer_list<const char*> names) {
   for (const char* name : names) {
     if (const int index = IndexOf(name); index >= 0) Buttons(index).visible_ = false;

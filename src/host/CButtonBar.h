@@ -55,6 +55,8 @@ class CButtonBar : public Control {
   /// "name,caption,icon,tool tip": the name alone leaves a free place.
   void AddButtons(std::initializer_list<const char*> specs);
 
+  void RemoveButtons();
+
   /// The named buttons keep their place; names that no button has are passed over.
   void HideButtons(std::initializer_list<const char*> names);
   void DisableButtons(std::initializer_list<int> indexes);

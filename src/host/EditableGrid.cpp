@@ -104,11 +104,17 @@ bool EditableGrid::EndEdit() {
 }
 
 void EditableGrid::CancelEdit() {
-  if (editing_) Close();
+  if (!editing_) return;
+  if (validating_) {
+    HideEditor();  // the end of the edit at hand tells the leaving
+  } else {
+    Close();
+  }
 }
 
 bool EditableGrid::UserEnterCell(int row, int col) {
   RequireUserCell(row, col);
+  if (!BeforeEdit) return false;  // nobody edits this grid
   if (!OwnerForm().UserFocus(*this)) return false;
   return SetCell(row, col);
 }

@@ -183,8 +183,7 @@ bool Form::RunQueryUnload(UnloadMode mode) {
   return !cancel;
 }
 
-void Form::RunUnload() {
-  OnUnload();
+void Form::EndLife() {
   CallingForm.reset();
   loaded_ = false;
   active_ = nullptr;

@@ -78,7 +78,8 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
   void RunLoad();
   void RunActivate() { OnActivate(); }
   bool RunQueryUnload(UnloadMode mode);
-  void RunUnload();
+  void RunUnload() { OnUnload(); }
+  void EndLife();
   void SetShown(bool shown, bool modal);
 
   // For the controls.

@@ -285,11 +285,23 @@ void GridModel::ClampCursor() {
   Col.PutSilently(std::min(Col(), Cols - 1));
   ColSel.PutSilently(std::min(ColSel(), Cols - 1));
   toldRow_ = std::min(toldRow_, Rows - 1);
+  toldCol_ = Col;
+}
+
+/// A cursor outside the cells goes back to where it was.
+void GridModel::RequireCursor() {
+  const int row = Row;
+  const int col = Col;
+  if (row < 0 || row >= Rows) Row.PutSilently(toldRow_);
+  if (col < 0 || col >= Cols) Col.PutSilently(toldCol_);
+  RequireRow(row);
+  RequireCol(col);
 }
 
 void GridModel::CursorMoved() {
   RowSel.PutSilently(Row);
   ColSel.PutSilently(Col);
+  toldCol_ = Col;
   Touched();
   RowColChange.Raise();
   if (toldRow_ == Row) return;
@@ -299,19 +311,24 @@ void GridModel::CursorMoved() {
 
 void GridModel::PropertyChanged(const PropertyBase& property) {
   if (&property == &Rows) {
-    if (Rows < 0) throw SubscriptError(Name() + " Rows " + std::to_string(Rows));
+    if (const int asked = Rows; asked < 0) {
+      Rows.PutSilently(static_cast<int>(rows_.size()));
+      throw SubscriptError(Name() + " Rows " + std::to_string(asked));
+    }
     rows_.resize(static_cast<std::size_t>(Rows()));
     ClampCursor();
   } else if (&property == &Cols) {
-    if (Cols < 0) throw SubscriptError(Name() + " Cols " + std::to_string(Cols));
+    if (const int asked = Cols; asked < 0) {
+      Cols.PutSilently(static_cast<int>(columns_.size()));
+      throw SubscriptError(Name() + " Cols " + std::to_string(asked));
+    }
     columns_.resize(static_cast<std::size_t>(Cols()));
     for (RowData& row : rows_) {
       if (row.cells.size() > columns_.size()) row.cells.resize(columns_.size());
     }
     ClampCursor();
   } else if (&property == &Row || &property == &Col) {
-    RequireRow(Row);
-    RequireCol(Col);
+    RequireCursor();
     CursorMoved();
   }
   if (&property == &Redraw || Redraw) Control::PropertyChanged(property);

@@ -142,11 +142,13 @@ class GridModel : public Control {
   RowData& Data(int row);
   RowExtra& Extra(int row);
   void ClampCursor();
+  void RequireCursor();
   void CursorMoved();
 
   std::vector<RowData> rows_;
   std::vector<ColumnData> columns_;
   int toldRow_ = 1;
+  int toldCol_ = 0;
 };
 
 }  // namespace quillon

@@ -29,7 +29,13 @@ void Runtime::Load(const FormPtr& form) {
   if (form->IsLoaded()) return;
   loaded_.push_back(form);
   FormHappened(Happening::Load, *form);
-  form->RunLoad();
+  try {
+    form->RunLoad();
+  } catch (...) {
+    // Half a form is none: the next attempt loads it again.
+    End(*form);
+    throw;
+  }
 }
 
 void Runtime::Show(const FormPtr& form, bool modal, const FormPtr&) {
@@ -68,13 +74,25 @@ bool Runtime::Unload(Form& form, UnloadMode mode) {
   const FormPtr alive = form.Self();
   if (!form.RunQueryUnload(mode)) return false;
   if (!form.IsLoaded()) return true;
-  form.RunUnload();
+  try {
+    form.RunUnload();
+  } catch (...) {
+    // A form that fails to clean up goes all the same; the services behind it may be gone next.
+    End(form);
+    throw;
+  }
+  End(form);
+  return true;
+}
+
+void Runtime::End(Form& form) {
+  const FormPtr alive = form.Self();
+  form.EndLife();
   std::erase(loaded_, alive);
   std::erase(shown_, alive);
   form.SetShown(false, false);
   FormHappened(Happening::Unload, form);
   UpdateActive();
-  return true;
 }
 
 std::vector<FormPtr> Runtime::Forms(Form::Origin origin) const {

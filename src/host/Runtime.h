@@ -169,6 +169,7 @@ class Runtime {
   virtual void Wait(const std::function<bool()>& done) = 0;
 
  private:
+  void End(Form& form);
   void UpdateActive();
   void RunModal(const FormPtr& form);
   void Press(const std::string& name);

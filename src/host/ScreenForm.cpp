@@ -1,5 +1,7 @@
 #include "host/ScreenForm.h"
 
+#include <utility>
+
 #include "host/IApp.h"
 #include "host/ISession.h"
 #include "host/IStd.h"
@@ -58,6 +60,7 @@ void ScreenForm::OnLoad() {
   if (CallingForm && *spec_.titleSuffix != '\0') {
     lblTitle.Caption = dynamic_cast<Label&>(CallingForm->ControlAt("lblTitle")).Caption + spec_.titleSuffix;
   }
+  BtnBar1.RemoveButtons();
   BuildBar();
   LoadScreen();
 }
@@ -80,7 +83,8 @@ void ScreenForm::OnActivate() {
 }
 
 void ScreenForm::OnUnload() {
-  if (registered_) gApp->UnregisterForm(*this);
+  firstShowing_ = true;
+  if (std::exchange(registered_, false)) gApp->UnregisterForm(*this);
   UnloadScreen();
 }
 

@@ -84,10 +84,13 @@ void frmAcReconciliation::TakeCaller() {
 
 void frmAcReconciliation::LoadScreen() {
   DesignControls();
+  showReference_ = true;
+  cellEdited_ = false;
   lblTitle1(0).Caption = "   Reconciliation";
   TakeCaller();
   MStrip1.Code = AccountCode;
   if (!bCalcInt) {
+    cmbFilter.Clear();
     for (const char* filter : {"All Entries", "Marked only", "Unmarked only"}) cmbFilter.AddItem(filter);
     cmbFilter.SetListIndex(0);
     UpdateGrid();
@@ -229,11 +232,14 @@ bool frmAcReconciliation::CopyDateAbove(CGridPlus& grid, int row, int col, std::
   return true;
 }
 
-void frmAcReconciliation::FillDown(CGridPlus& grid, int row, int col, Save save) {
+void frmAcReconciliation::FillDown(CGridPlus& grid, int row, int col, std::string& text, Save save) {
   const BusyPointer pointer;
   int from = row - 1;
   while (from > 0 && (!grid.IsRowVisible(from) || grid.Cell(from, col).empty())) --from;
-  if (from == 0) return;
+  if (from == 0) {
+    text = grid.TextMatrix(row, col);
+    return;
+  }
   grid.EndEdit();
   const BusyJob job;
   const std::string date = grid.TextMatrix(from, col);

@@ -180,7 +180,7 @@ void frmAcReconciliation::Grid_BeforeEdit(int row, int col, bool& cancel, std::s
 void frmAcReconciliation::Grid_ValidateCell(int row, int col, std::string& text, bool& cancel) {
   if (col != kClearedEdit || !cellEdited_) return;
   if (text == "00" && row > 1) {
-    FillDown(Grid, row, col, &frmAcReconciliation::SaveRowAndCell);
+    FillDown(Grid, row, col, text, &frmAcReconciliation::SaveRowAndCell);
     return;
   }
   if (text == "=") {
@@ -201,10 +201,19 @@ void frmAcReconciliation::SaveRow(int row, const std::string& dateText) {
   gSession->Year().Db().Execute("Update FAData set dBankDate=" + books::SqlDateOrNull(date) +
                                 " where VoucherID=" + books::SqlNumber(Grid.Cell(row, kVoucherId)) +
                                 " and dVchSubNo=" + books::SqlNumber(Grid.Cell(row, kVchSubNo)));
-  if (statement_ == nullptr) return;
+  if (const int source = SourceRow(row); source > 0) {
+    statement_->SetTextMatrix(source, kClearedOn, date.IsEmpty() ? dateText : date.Text());
+  }
+}
+
+/// The row of the calling statement that a row of Grid was copied from; 0 when that statement has turned to
+/// other rows meanwhile.
+int frmAcReconciliation::SourceRow(int row) const {
   const auto source = static_cast<int>(ValInteger(Grid.Cell(row, Grid.Cols - 1)));
-  if (source < 1) return;
-  statement_->SetTextMatrix(source, kClearedOn, date.IsEmpty() ? dateText : date.Text());
+  if (statement_ == nullptr || source < 1 || source >= statement_->Rows) return 0;
+  const bool same = statement_->Cell(source, kVoucherId) == Grid.Cell(row, kVoucherId) &&
+                    statement_->Cell(source, kVchSubNo) == Grid.Cell(row, kVchSubNo);
+  return same ? source : 0;
 }
 
 void frmAcReconciliation::SaveRowAndCell(int row, const std::string& dateText) {

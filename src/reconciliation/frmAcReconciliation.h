@@ -72,6 +72,7 @@ class frmAcReconciliation : public ScreenForm {
   // The entries.
   void SetGridColumns();
   void CopyStatementRows();
+  int SourceRow(int row) const;
   void SaveRowAndCell(int row, const std::string& dateText);
   void ShowFilterTitle();
   void Grid_BeforeEdit(int row, int col, bool& cancel, std::string& action);
@@ -105,7 +106,7 @@ class frmAcReconciliation : public ScreenForm {
   using Save = void (frmAcReconciliation::*)(int, const std::string&);
   bool InvalidDate(bool& cancel);
   bool CopyDateAbove(CGridPlus& grid, int row, int col, std::string& text, bool& cancel);
-  void FillDown(CGridPlus& grid, int row, int col, Save save);
+  void FillDown(CGridPlus& grid, int row, int col, std::string& text, Save save);
   std::string NarrationWithReference(class CDataSet& line);
   long CounterAccount(std::int64_t voucherId, Amount amount);
   void OpenVoucherOf(const CGridPlus& grid, int voucherColumn);

@@ -229,7 +229,7 @@ void frmAcReconciliation::GridStatement_BeforeEdit(int row, int column, bool& ca
 void frmAcReconciliation::GridStatement_ValidateCell(int row, int column, std::string& text, bool& cancel) {
   if (column != col::kClearedOn || !cellEdited_) return;
   if (text == "00" && row > 1) {
-    FillDown(GridStatement, row, column, &frmAcReconciliation::SaveStatementRow);
+    FillDown(GridStatement, row, column, text, &frmAcReconciliation::SaveStatementRow);
     return;
   }
   if (text == "=") {
@@ -267,8 +267,9 @@ void frmAcReconciliation::EchoIntoEntries(long long voucher, long long subNo, co
   for (auto entry = first; entry != last; ++entry) {
     Grid.SetTextMatrix(entry->second, kClearedEdit, dateText);
     marked_.Recount(Grid, entry->second);
-    const auto source = static_cast<int>(ValInteger(Grid.Cell(entry->second, Grid.Cols - 1)));
-    if (statement_ != nullptr && source > 0) statement_->SetTextMatrix(source, kClearedOn, dateText);
+    if (const int source = SourceRow(entry->second); source > 0) {
+      statement_->SetTextMatrix(source, kClearedOn, dateText);
+    }
   }
 }
 

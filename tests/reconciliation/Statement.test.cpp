@@ -1,0 +1,316 @@
+#include <random>
+
+#include "host/CDataSet.h"
+#include "host/Text.h"
+#include "tests/support/DeskFixture.h"
+
+namespace quillon {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+constexpr int kClearedOn = 6;
+constexpr int kCleared = 27;
+
+/// The reconciliation statement of bank 101, reached by F6 from the workbench.
+class Statement : public DeskTest {
+ protected:
+  void SetUp() override {
+    OpenNewFirm();
+    AddAccount(101, "Sahyadri Bank", 47, "Pune");
+    AddAccount(201, "Asha Traders");
+    AddAccount(202, "Bharat Mills");
+  }
+
+  void Open(const std::string& asOn) {
+    statement_ = ShowStatement();
+    bench_ = ShowWorkbench(statement_);
+    Statements();
+    AnswerDate(asOn);
+    Do([&] { At<CButtonBar>(bench_, "BtnBar1").UserPress("Statement"); });
+    ASSERT_TRUE(View().Visible);
+  }
+
+  CGridPlus& Entries() { return At<CGridPlus>(bench_, "Grid"); }
+  CGridPlus& View() { return At<CGridPlus>(bench_, "GridStatement"); }
+
+  /// The visible columns and the hidden sign of a row, joined by bars.
+  std::string Row(int row) {
+    std::string text;
+    for (const int col : {0, 1, 3, 4, 5, 6, 7}) text += (col == 0 ? "" : "|") + View().TextMatrix(row, col);
+    return text;
+  }
+  Texts Rows() {
+    Texts rows;
+    for (int row = 1; row < View().Rows; ++row) rows.push_back(Row(row));
+    return rows;
+  }
+
+  FormPtr statement_;
+  FormPtr bench_;
+};
+
+TEST_F(Statement, EachEntryStandsWhereBooksAndBankDisagree) {
+  AddVoucher({.id = 1, .date = "2024-04-01", .amount = "50000", .book = "0B"});
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5", .narration = "Deposit"});
+  AddVoucher({.id = 3, .date = "2024-04-20", .amount = "800", .cleared = "2024-05-03", .other = 202});
+  AddVoucher({.id = 4, .date = "2024-04-30", .amount = "-3000", .narration = "Cheque 7"});
+  AddVoucher({.id = 5, .date = "2024-05-02", .amount = "410", .cleared = "2024-04-29"});
+  AddVoucher({.id = 6, .date = "2024-05-04", .amount = "-95.25", .cleared = "2024-04-30", .other = 202});
+  // These stand nowhere: cleared on the day, later and uncleared, cleared later, nothing, and memorandum.
+  AddVoucher({.id = 7, .date = "2024-04-30", .amount = "70", .cleared = "2024-04-30"});
+  AddVoucher({.id = 8, .date = "2024-05-01", .amount = "71"});
+  AddVoucher({.id = 9, .date = "2024-05-01", .amount = "72", .cleared = "2024-05-01"});
+  AddVoucher({.id = 10, .date = "2024-04-15", .amount = "0"});
+  AddVoucher({.id = 11, .date = "2024-04-15", .amount = "999", .book = "MEM"});
+  Open("30-Apr-2024");
+  EXPECT_EQ(Rows(), (Texts{
+                        "30-Apr-2024||Balance as per Our Books||49,070.50 Dr.||",
+                        "||Amounts Debited by us only:-||||",
+                        "10-Apr-2024|BNK|Deposit : Asha Traders|1,200.50|||1",
+                        "20-Apr-2024|BNK| : Bharat Mills|800.00|2,000.50 Cr.|03-May-2024|1",
+                        "||Amounts Credited by us only:-||||",
+                        "30-Apr-2024|BNK|Cheque 7 : Asha Traders|3,000.00|3,000.00 Dr.||-1",
+                        "||Amounts Not Debited by us:-||||",
+                        "02-May-2024|BNK| : Asha Traders|410.00|410.00 Dr.|29-Apr-2024|",
+                        "||Amounts Not Credited by us:-||||",
+                        "04-May-2024|BNK| : Bharat Mills|95.25|95.25 Cr.|30-Apr-2024|",
+                        "||Adjusted Balance||50,384.75 Dr.||",
+                    }));
+  std::string ruled;
+  for (int row = 1; row < View().Rows; ++row) ruled += View().TextMatrix(row, 11) == "*hline1*" ? "x" : "-";
+  EXPECT_EQ(ruled, "x--x-x-x-x-") << "above each heading and above the last balance";
+  EXPECT_EQ(View().TextMatrix(3, 9) + "/" + View().TextMatrix(3, 10), "1/2");
+  EXPECT_EQ(View().Paints(1).at(0).backColor, 0xFFFFFF);
+  EXPECT_EQ(View().Paints(2).at(0).backColor, 0xC0FFFF);
+  EXPECT_EQ(View().Paints(2).at(0).lastCol, 6);
+  EXPECT_EQ(View().Paints(11).at(0).backColor, 0xFFFFFF);
+  EXPECT_EQ(View().Cols(), 12);
+  EXPECT_EQ(View().Footer.Rows(), 1);
+  EXPECT_EQ(View().Footer.TextMatrix(0, 3), "Bal. per Sahyadri Bank");
+  EXPECT_EQ(View().Footer.TextMatrix(0, 5), "-50,384.75");
+  EXPECT_EQ(View().Title(), "Reconciliation Statement as on 30/04/2024");
+  const std::vector<Json> asked = Events("date");
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0]["title"], "Reconciliation Statement as on");
+  EXPECT_EQ(asked[0]["caption"], "As on");
+  EXPECT_EQ(asked[0]["single"], true);
+  EXPECT_EQ(asked[0]["date1"], "31-Mar-2025");
+}
+
+TEST_F(Statement, ItsStatementsAreTheseTexts) {
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5"});
+  Open("30-Apr-2024");
+  const std::string lines =
+      "Select a.*,n.Narration from FAData a,FANar n where a.NarrationID=n.NarrationID and a.dcd=101 and "
+      "a.dBook<>'MEM' and a.dBook<>'0B' and ";
+  Texts sent;
+  for (const std::string& sql : Statements()) {
+    if (sql.find("FADATA") != std::string::npos || sql.starts_with("Select a.*")) sent.push_back(sql);
+  }
+  ASSERT_EQ(sent.size(), 3U);
+  EXPECT_NE(sent[0].find("Sum(dAmt)"), std::string::npos);
+  EXPECT_TRUE(sent[0].ends_with("FADATA where dcd=101 and dvchdate<='2024-04-30' and dBook<>'MEM'"))
+      << sent[0];
+  EXPECT_EQ(sent[1], lines +
+                         "a.dvchdate<='2024-04-30' and (a.dBankDate is null OR a.dBankDate>'2024-04-30') "
+                         "order by a.dvchdate,a.dbook");
+  EXPECT_EQ(sent[2],
+            lines + "a.dvchdate>'2024-04-30' and a.dBankDate<='2024-04-30' order by a.dvchdate,a.dbook");
+}
+
+TEST_F(Statement, NothingOutstandingAndNothingAtAll) {
+  AddVoucher({.id = 1, .date = "2024-04-01", .amount = "-500", .book = "0B"});
+  AddVoucher({.id = 2, .date = "2024-05-10", .amount = "500", .cleared = "2024-05-10"});
+  Open("30-Apr-2024");
+  EXPECT_EQ(Rows(), (Texts{"30-Apr-2024||Balance as per Our Books||500.00 Cr.||",
+                           "||Adjusted Balance||500.00 Cr.||"}));
+  EXPECT_EQ(View().Footer.TextMatrix(0, 5), "500.00");
+  Key(*bench_, keys::kEscape);
+  AnswerDate("10/5/2024");
+  Key(*bench_, keys::kF3 + 3);
+  EXPECT_EQ(Rows(),
+            (Texts{"10-May-2024||Balance as per Our Books||N I L  ||", "||Adjusted Balance||  N I L  ||"}));
+  EXPECT_EQ(View().Footer.TextMatrix(0, 5), "");
+  EXPECT_EQ(Events("date").back()["date1"], "30-Apr-2024") << "the last date is offered again";
+  Key(*bench_, keys::kEscape);
+  runtime_.Laid.Add({{"to", "date"}, {"cancel", true}});
+  Key(*bench_, keys::kF3 + 3);
+  EXPECT_TRUE(Entries().Visible) << "a cancelled date changes nothing";
+}
+
+TEST_F(Statement, AgreesWithTheBooksHoweverTheyAre) {
+  std::mt19937 random(3);
+  const auto pick = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
+  const char* dates[] = {"2024-04-28", "2024-04-29", "2024-04-30", "2024-05-01", "2024-05-02"};
+  const char* cleared[] = {"", "2024-04-29", "2024-04-30", "2024-05-01", ""};
+  const char* amounts[] = {"100.25", "-77.5", "0", "1234567.01", "-0.0001"};
+  const char* books[] = {"BNK", "C", "MEM", "0B", "JV"};
+  Db().BeginTrans();
+  for (int id = 1; id <= 150; ++id) {
+    AddVoucher({.id = id,
+                .date = dates[pick(5)],
+                .amount = amounts[pick(5)],
+                .book = books[pick(5)],
+                .cleared = cleared[pick(5)]});
+  }
+  Db().CommitTrans();
+  Open("30-Apr-2024");
+  const auto sum = [&](const std::string& where) {
+    return Db().Lookup("FADATA", "Sum(dAmt)", "dcd=101 and dBook<>'MEM'" + where).ToAmount();
+  };
+  const std::string setA =
+      " and dBook<>'0B' and dVchDate<='2024-04-30' and coalesce(dBankDate,date '2999-01-01')>'2024-04-30'";
+  const std::string setB = " and dBook<>'0B' and dVchDate>'2024-04-30' and dBankDate<='2024-04-30'";
+  const std::map<std::string, std::pair<std::string, std::string>> sections = {
+      {"Amounts Debited by us only:-", {setA + " and dAmt>0", " Cr."}},
+      {"Amounts Credited by us only:-", {setA + " and dAmt<0", " Dr."}},
+      {"Amounts Not Debited by us:-", {setB + " and dAmt>0", " Dr."}},
+      {"Amounts Not Credited by us:-", {setB + " and dAmt<0", " Cr."}}};
+  std::string heading;
+  std::map<std::string, int> lines;
+  for (int row = 2; row < View().Rows - 1; ++row) {
+    if (View().TextMatrix(row, 0).empty()) {
+      heading = View().TextMatrix(row, 3);
+      continue;
+    }
+    ++lines[heading];
+    const bool last = View().TextMatrix(row, 11) == "*hline1*";
+    const auto& [where, side] = sections.at(heading);
+    EXPECT_EQ(View().TextMatrix(row, 5), last ? gStd->FormatAmount(sum(where).Abs(), "c2") + side : "")
+        << row;
+  }
+  for (const auto& [name, section] : sections) {
+    EXPECT_EQ(lines[name],
+              Db().Lookup("FADATA", "count(*)", "dcd=101 and dBook<>'MEM'" + section.first).ToInteger())
+        << name;
+  }
+  // The other way round: what the bank has seen by the day is its balance.
+  const Amount atBank =
+      sum(" and ((dBook='0B' and dVchDate<='2024-04-30') or (dBook<>'0B' and "
+          "dBankDate<='2024-04-30'))");
+  EXPECT_EQ(View().TextMatrix(View().Rows - 1, 5),
+            gStd->FormatAmount(atBank.Abs(), "C2") + (atBank < Amount() ? " Cr." : " Dr."));
+  EXPECT_EQ(View().Footer.TextMatrix(0, 5), gStd->FormatAmount(-atBank, "c2"));
+}
+
+TEST_F(Statement, ReferencesComeAndGo) {
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5", .narration = "Deposit"});
+  AddVoucher({.id = 3, .date = "2024-04-11", .amount = "10", .other = 202});
+  Open("30-Apr-2024");
+  EXPECT_EQ(View().TextMatrix(3, 3), "Deposit : Asha Traders");
+  Key(*bench_, keys::kF4);
+  EXPECT_EQ(View().TextMatrix(3, 3), "Deposit");
+  EXPECT_EQ(View().TextMatrix(4, 3), "");
+  EXPECT_EQ(At<CButtonBar>(bench_, "BtnBar1").Buttons(1).Caption(), "F4: Show Ref.");
+  EXPECT_TRUE(View().Visible);
+  Key(*bench_, keys::kF4);
+  EXPECT_EQ(View().TextMatrix(4, 3), " : Bharat Mills");
+  EXPECT_EQ(Events("date").size(), 1U);
+}
+
+TEST_F(Statement, AnEditedDateReachesTheBooksTheEntriesAndTheStatementOfAccount) {
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5"});
+  AddVoucher({.id = 3, .date = "2024-04-11", .amount = "-40", .line = 7});
+  AddVoucher({.id = 4, .date = "2024-04-12", .amount = "-41"});
+  Open("30-Apr-2024");
+  ASSERT_EQ(View().TextMatrix(5, 10), "3");
+  Statements();
+  EXPECT_TRUE(EditCell(View(), 5, kClearedOn, "25"));
+  EXPECT_EQ(Statements().back(),
+            "Update FAData set dBankDate='2024-04-25' where VoucherID=3 and dVchSubNo=7");
+  EXPECT_EQ(View().TextMatrix(5, kClearedOn), "25-Apr-2024");
+  EXPECT_EQ(Entries().TextMatrix(2, kCleared), "25-Apr-2024");
+  EXPECT_EQ(At<CGridPlus>(statement_, "Grid").TextMatrix(2, 4), "25-Apr-2024");
+  EXPECT_EQ(Row(1), "30-Apr-2024||Balance as per Our Books||1,119.50 Dr.||") << "nothing is built anew";
+  EXPECT_EQ(View().TextMatrix(6, 5), "81.00 Dr.");
+  // No lower bound, and no warning about the year.
+  EXPECT_TRUE(EditCell(View(), 5, kClearedOn, "1/1/2020"));
+  EXPECT_TRUE(EditCell(View(), 6, kClearedOn, "00"));
+  EXPECT_EQ(Db().Lookup("FAData", "dBankDate", "VoucherID=4 and dVchSubNo=1").ToDate().Text(), "01-Jan-2020");
+  EXPECT_TRUE(EditCell(View(), 5, kClearedOn, ""));
+  EXPECT_EQ(Statements().back(), "Update FAData set dBankDate=Null where VoucherID=3 and dVchSubNo=7");
+  EXPECT_TRUE(EditCell(View(), 6, kClearedOn, "="));
+  EXPECT_EQ(Entries().TextMatrix(3, kCleared), "");
+  AnswerMessage();
+  EXPECT_FALSE(EditCell(View(), 6, kClearedOn, "31/2"));
+  EXPECT_EQ(Messages(), Texts{"Invalid Date"});
+  EXPECT_TRUE(EditCell(View(), 6, kClearedOn, "29"));
+  // Headings, balances and other columns are not edited.
+  for (const int row : {1, 2, 4, 7}) EXPECT_FALSE(EditCell(View(), row, kClearedOn, "5")) << row;
+  EXPECT_FALSE(EditCell(View(), 5, 3, "x"));
+  // Back among the entries the totals count what was marked here.
+  Key(*bench_, keys::kEscape);
+  EXPECT_TRUE(EditCell(Entries(), 1, kCleared, "12"));
+  EXPECT_EQ(Entries().Footer.TextMatrix(1, 24), "1,200.50");
+  EXPECT_EQ(Entries().Footer.TextMatrix(1, 25), "41.00");
+}
+
+TEST_F(Statement, KeysOfTheStatement) {
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5"});
+  AddVoucher({.id = 3, .date = "2024-04-11", .amount = "-40", .other = 202});
+  AddVoucher({.id = 4, .date = "2024-05-11", .amount = "-41", .cleared = "2024-04-20", .other = 202});
+  Open("30-Apr-2024");
+  CMStrip& strip = At<CMStrip>(bench_, "MStrip2");
+  Do([&] { View().UserMoveTo(2, kClearedOn); });
+  Key(*bench_, keys::kEnter);
+  EXPECT_FALSE(View().EditMode()) << "a heading has no voucher";
+  Do([&] { View().UserDoubleClickRow(3); });
+  EXPECT_TRUE(View().EditMode());
+  EXPECT_EQ(View().EditCol(), kClearedOn);
+  EXPECT_EQ(strip.Code(), 201);
+  TypeKeys(*bench_, "15");
+  Key(*bench_, keys::kEnter);
+  EXPECT_EQ(View().TextMatrix(3, kClearedOn), "15-Apr-2024");
+  EXPECT_EQ(View().EditRow(), 5) << "the automatic move passes over the heading";
+  EXPECT_EQ(strip.Code(), 202);
+  Key(*bench_, keys::kEnter, keys::kCtrl);
+  ASSERT_EQ(runtime_.ActiveForm()->Name(), "frmVoucher");
+  EXPECT_EQ(runtime_.ActiveForm()->Get("VoucherID").ToInteger(), 3);
+  Key(*runtime_.ActiveForm(), keys::kEscape);
+  Key(*bench_, keys::kEscape);
+  Do([&] { View().UserMoveTo(7, kClearedOn); });
+  EXPECT_EQ(View().TextMatrix(7, 10), "4");
+  EXPECT_EQ(strip.Code(), 0) << "in the last two sections the amount reads as 0";
+}
+
+TEST_F(Statement, PrintsWithItsFooterAsTheLastRow) {
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5", .narration = "Deposit"});
+  Open("30-Apr-2024");
+  const int rows = View().Rows;
+  Do([&] { At<CButtonBar>(bench_, "BtnBar1").UserPress("Print"); });
+  EXPECT_EQ(View().Rows(), rows);
+  EXPECT_TRUE(View().Redraw());
+  const std::vector<Json> reports = Events("report");
+  ASSERT_EQ(reports.size(), 1U);
+  EXPECT_EQ(reports[0]["title"], "Reconciliation Statement as on 30/04/2024");
+  EXPECT_EQ(reports[0]["subtitle"], At<Label>(statement_, "lblTitle1", 2).Caption());
+  EXPECT_EQ(reports[0]["print"], true);
+  EXPECT_EQ(reports[0]["grid"].back()[3], "Bal. per Sahyadri Bank");
+  EXPECT_EQ(static_cast<int>(reports[0]["grid"].size()), rows + 1);
+  EXPECT_TRUE(std::filesystem::exists(reports[0]["file"].get<std::string>())) << Line(reports[0]["file"]);
+  Key(*bench_, keys::kEscape);
+  Do([&] { At<CButtonBar>(bench_, "BtnBar1").UserPress("Preview"); });
+  const std::vector<Json> entries = Events("report");
+  EXPECT_EQ(entries.at(0)["title"], "Reconciliation Workings");
+  EXPECT_EQ(entries.at(0)["print"], false);
+}
+
+TEST_F(Statement, AFailureIsReportedWithItsStatement) {
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5"});
+  Open("30-Apr-2024");
+  // The balance now leaves the range of the column.
+  for (const int id : {3, 4}) AddVoucher({.id = id, .date = "2024-04-10", .amount = "900000000000000"});
+  Key(*bench_, keys::kF4);
+  const std::vector<Json> errors = Events("error");
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0]["routine"], "UpdateGridStatement");
+  EXPECT_NE(errors[0]["text"].get<std::string>().find("from FADATA where dcd=101"), std::string::npos);
+  EXPECT_TRUE(View().Visible);
+  EXPECT_TRUE(View().Redraw());
+  Key(*bench_, keys::kEscape);
+  EXPECT_TRUE(EditCell(Entries(), 1, kCleared, "11")) << "the entries go on";
+}
+
+}  // namespace
+}  // namespace quillon

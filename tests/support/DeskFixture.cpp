@@ -1,0 +1,162 @@
+#include "tests/support/DeskFixture.h"
+
+#include <set>
+
+#include "desk/firm/Firm.h"
+#include "desk/services/SqlText.h"
+#include "host/Text.h"
+
+namespace quillon {
+
+namespace {
+
+/// Made once; each test copies it.
+const std::filesystem::path& Template() {
+  static const TempFolder folder;
+  static const std::filesystem::path firm = [] {
+    const std::filesystem::path path = folder.Path() / "firm";
+    FirmDetails details;
+    details.FirmName = "Sharda Trading Co.";
+    CreateFirm(path, details, {2023, 2024});
+    // No test pulls the plug: without forced writes a test takes a third of the time.
+    for (const char* file : {"common.fdb", "2023.fdb", "2024.fdb"}) {
+      if (std::system(("gfix -write async " + (path / file).string()).c_str()) != 0) break;
+    }
+    return path;
+  }();
+  return firm;
+}
+
+Desk::Options OptionsOf(EventLog& log, const TempFolder& folder) {
+  Desk::Options options;
+  options.OutputFolder = folder.Path().string();
+  options.Area = {0, 0, 20490, 10500};
+  options.Sql = &log;
+  options.Reports = &log;
+  return options;
+}
+
+std::string DateOrNull(const std::string& date) { return date.empty() ? "null" : "'" + date + "'"; }
+
+}  // namespace
+
+DeskTest::DeskTest() : desk_(OptionsOf(log_, folder_)) { log_.TraceSql = true; }
+
+DeskTest::~DeskTest() {
+  desk_.CloseFirm();
+  static const std::set<std::string> kQuestions = {"message", "input", "file",    "font",
+                                                   "date",    "pick",  "parties", "printdialog"};
+  ReadLog();
+  for (const Json& event : events_) {
+    const std::string kind = event.value("event", "");
+    const bool unanswered = kQuestions.contains(kind) && event.value("answered", Json()) == "default";
+    if (unanswered || kind == "error") ADD_FAILURE() << "not expected: " << Line(event);
+  }
+  if (const Json left = runtime_.Laid.LeftOver(); !left.empty()) ADD_FAILURE() << "left over: " << Line(left);
+}
+
+std::string DeskTest::MakeFirm(const std::string& name) {
+  const std::filesystem::path made = folder_.Path() / name;
+  std::filesystem::copy(Template(), made, std::filesystem::copy_options::recursive);
+  return made.string();
+}
+
+void DeskTest::OpenNewFirm() {
+  desk_.OpenFirm(MakeFirm());
+  runtime_.Ignore(desk_.App().MainWindow().MainForm().get());
+}
+
+void DeskTest::AddAccount(int code, const std::string& head, int group, const std::string& station) {
+  Db().Execute("insert into FAMaster (mcd,mhd,mst,mbshno) values (" + std::to_string(code) + "," +
+               SqlString(head) + "," + SqlString(station) + "," + std::to_string(group) + ")");
+}
+
+void DeskTest::AddVoucher(const Voucher& voucher) {
+  const std::string id = std::to_string(voucher.id);
+  const auto line = [&](int subNo, int account, int other, const std::string& amount,
+                        const std::string& cleared) {
+    Db().Execute(
+        "insert into FAData (VoucherID,dVchSubNo,dSrNo,dVchNo,dVchDate,dcd,dcd2,dAmt,dBook,"
+        "dBankDate,NarrationID) values (" +
+        id + "," + std::to_string(subNo) + "," + id + ",'" + id + "','" + voucher.date + "'," +
+        std::to_string(account) + "," + std::to_string(other) + "," + amount + ",'" + voucher.book + "'," +
+        DateOrNull(cleared) + "," + id + ")");
+  };
+  Db().Execute("insert into FANar (NarrationID,Narration) values (" + id + "," +
+               SqlString(voucher.narration) + ")");
+  line(voucher.line, voucher.account, voucher.other, voucher.amount, voucher.cleared);
+  line(voucher.line + 1, voucher.other, voucher.account, "-(" + std::string(voucher.amount) + ")", "");
+  Db().Execute("insert into FADocs (VoucherID) values (" + id + ")");
+}
+
+void DeskTest::Do(const std::function<void()>& act) {
+  runtime_.Act(act);
+  runtime_.DeliverKeys();
+}
+
+void DeskTest::Key(Form& form, int code, int shift) {
+  const bool types = code == keys::kEnter && shift == 0;
+  Do([&] { form.UserKey(code, shift, types ? code : 0); });
+}
+
+void DeskTest::TypeKeys(Form& form, const std::string& text) {
+  for (const char c : text) {
+    Do([&] { form.UserKey(CodeOfCharacter(c), 0, c); });
+  }
+}
+
+void DeskTest::Refuses(const std::function<void()>& act, const std::string& why) {
+  try {
+    runtime_.Act(act);
+    ADD_FAILURE() << "not refused: " << why;
+  } catch (const Refused& refused) {
+    EXPECT_EQ(std::string(refused.what()), why);
+  }
+}
+
+FormPtr DeskTest::ShowStatement(int account) {
+  const FormPtr statement = gApp->GetForm("Account");
+  statement->Set("AccountCode", account);
+  Do([&] { gApp->ShowForm(statement); });
+  return statement;
+}
+
+FormPtr DeskTest::ShowWorkbench(const FormPtr& statement) {
+  Do([&] { At<CButtonBar>(statement, "BtnBar1").UserPress("Reconciliation"); });
+  return runtime_.ActiveForm();
+}
+
+void DeskTest::ReadLog() {
+  std::istringstream lines(lines_.str());
+  lines_.str("");
+  for (std::string line; std::getline(lines, line);) events_.push_back(Json::parse(line));
+}
+
+std::vector<Json> DeskTest::Events(const std::string& kind) {
+  ReadLog();
+  std::vector<Json> taken;
+  for (const Json& event : events_) {
+    if (event.value("event", "") == kind) taken.push_back(event);
+  }
+  std::erase_if(events_, [&](const Json& event) { return event.value("event", "") == kind; });
+  return taken;
+}
+
+std::vector<std::string> DeskTest::Take(const std::string& kind, const char* member) {
+  std::vector<std::string> texts;
+  for (const Json& event : Events(kind)) texts.push_back(event.at(member).get<std::string>());
+  return texts;
+}
+
+bool EditCell(EditableGrid& grid, int row, int col, const std::string& text) {
+  bool left = false;
+  gRuntime->Act([&] {
+    if (!grid.UserEnterCell(row, col)) return;
+    grid.UserType(text);
+    left = grid.UserLeaveCell();
+  });
+  gRuntime->DeliverKeys();
+  return left;
+}
+
+}  // namespace quillon

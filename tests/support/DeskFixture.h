@@ -1,0 +1,88 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "desk/driver/DriverRuntime.h"
+#include "desk/shell/Desk.h"
+#include "host/host_controls.h"
+#include "tests/support/TempFolder.h"
+
+namespace quillon {
+
+/// A desk without a window on a firm of the test's own, played by the driver's runtime. A question that no
+/// answer was laid for, an answer that nobody asked for and an error that the test did not take fail the
+/// test.
+class DeskTest : public testing::Test {
+ protected:
+  DeskTest();
+  ~DeskTest() override;
+
+  /// A firm without accounts and with the years 2023 and 2024.
+  std::string MakeFirm(const std::string& name = "firm");
+
+  /// The firm of MakeFirm, the year 2024, with the session open.
+  void OpenNewFirm();
+  CDbLink& Db() const { return gSession->MainDb(); }
+
+  void AddAccount(int code, const std::string& head, int group = 140, const std::string& station = "");
+
+  /// A voucher of two lines: line 1 of the account, line 2 of the other side. An amount above 0 is a debit of
+  /// the account; empty dates are null.
+  struct Voucher {
+    int id = 0;
+    const char* date = "";
+    const char* amount = "0";
+    const char* book = "BNK";
+    const char* cleared = "";
+    const char* narration = "";
+    int other = 201;
+    int account = 101;
+    int line = 1;
+  };
+  void AddVoucher(const Voucher& voucher);
+
+  /// What a person does: errors come to the log, queued keys arrive afterwards.
+  void Do(const std::function<void()>& act);
+  void Key(Form& form, int code, int shift = 0);
+  void TypeKeys(Form& form, const std::string& text);
+  void Refuses(const std::function<void()>& act, const std::string& why);
+
+  FormPtr ShowStatement(int account = 101);
+  FormPtr ShowWorkbench(const FormPtr& statement);
+
+  void AnswerMessage(int button = 1) { runtime_.Laid.Add({{"to", "message"}, {"button", button}}); }
+  void AnswerDate(const std::string& date) { runtime_.Laid.Add({{"to", "date"}, {"date1", date}}); }
+
+  /// The texts of the messages, the errors, the statements sent since the last time they were asked for.
+  std::vector<std::string> Messages() { return Take("message", "text"); }
+  std::vector<std::string> Errors() { return Take("error", "text"); }
+  std::vector<std::string> Statements() { return Take("sql", "text"); }
+  std::vector<Json> Events(const std::string& kind);
+
+  TempFolder folder_;
+  std::ostringstream lines_;
+  EventLog log_{lines_};
+  DriverRuntime runtime_{log_, folder_.Path().string()};
+  Desk desk_;
+
+ private:
+  std::vector<std::string> Take(const std::string& kind, const char* member);
+  void ReadLog();
+
+  std::vector<Json> events_;
+};
+
+/// A control of a form by its name, as what it is.
+template <class T>
+T& At(const FormPtr& form, const std::string& name, int index = Control::kNoIndex) {
+  return dynamic_cast<T&>(form->ControlAt(name, index));
+}
+
+/// A cell from the person's first key to leaving it; whether it was left.
+bool EditCell(EditableGrid& grid, int row, int col, const std::string& text);
+
+}  // namespace quillon
