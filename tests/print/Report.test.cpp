@@ -62,16 +62,17 @@ class ReportTest : public testing::Test {
   }
 
   std::string ShowPlain(GridModel& grid, CReportOptions& options, const std::string& optionText = "") {
-    reports.SetPrinterMode(2);
+    mode = 2;
     reports.ShowGrid(grid, &options, "Pass Book", "Period: 01/04/2024 to 30/04/2024", 3, false, "",
                      optionText);
-    reports.SetPrinterMode(0);
+    mode = 0;
     std::ostringstream text;
     text << std::ifstream(preview.file).rdbuf();
     return text.str();
   }
 
   TempFolder folder;
+  int mode = 0;
   Preview preview;
   PdfPrinter printer{folder.Path().string()};
   TestRuntime runtime{printer};
@@ -80,6 +81,7 @@ class ReportTest : public testing::Test {
                          return ReportFirm{"Saraswati Traders", {"Plot 14, Bhosari", "Pune - 411026"}};
                        },
                        {},
+                       [this] { return mode; },
                        &preview}};
   std::shared_ptr<ReportForm> form = std::make_shared<ReportForm>();
   CReportOptions options;
