@@ -451,7 +451,7 @@ TEST_F(ReportTest, ARowOfTheWholeReportGoesIntoASpreadsheetFileExactly) {
 }
 
 TEST_F(ReportTest, AFolderThatTakesNoFilesIsToldAndAnEmptyGridStillPrints) {
-  DeskReports nowhere({"/proc/none", {}, {}, &preview});
+  DeskReports nowhere({"/proc/none", {}, {}, {}, &preview});
   EXPECT_THROW(nowhere.ShowGrid(form->Statement, nullptr, "x", "", -1, false), HostError);
   EXPECT_EQ(preview.pages, 0);
   form->Statement.HideAllColumns();
