@@ -64,6 +64,7 @@ class frmAcReconciliation : public ScreenForm {
   GridModel* MainGrid() override { return &Grid; }
 
  private:
+  void RegisterRoutines();
   void DesignControls();
   void ConnectGrid();
   void ConnectStatement();
