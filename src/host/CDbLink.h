@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "host/Variant.h"
 
@@ -36,6 +38,10 @@ class CDbLink {
   /// `name` in capitals.
   virtual bool TableExists(const std::string& name) = 0;
   virtual bool RowExists(const std::string& sql) = 0;
+
+  /// The fields of the first row of a query with values for its question marks; none without a row. The query
+  /// is prepared once and kept: for what is asked anew for each row of a long list.
+  virtual std::vector<Variant> FirstRowWith(const std::string& query, std::span<const Variant> values) = 0;
 
   /// One transaction at a time: beginning a second one throws HostError, and so do the other two without one.
   virtual void BeginTrans() = 0;

@@ -15,7 +15,7 @@ class CReportOptions {
   struct SettingsRecord {
     bool ChkUnderline = false;  ///< cells marked underlined in the grid print underlined
     double LineHeight = 0;      ///< twips; 0 is the height of the text
-    double LineTopMargin = 0;   ///< inches above the text of a line
+    double LineTopMargin = 0;   ///< above the text of a line: inches up to 20, a larger value is twips
   };
 
   SettingsRecord Settings;

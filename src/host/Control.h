@@ -97,6 +97,10 @@ class Control : public Object {
   /// True when Enter and Tab belong to the control itself.
   virtual bool KeepsEnter() const { return false; }
 
+  /// The key is offered to the form under the control's name, before the form hears of the character that it
+  /// makes.
+  virtual void OfferKey(KeyEvent& key) { KeyDown.Raise(key); }
+
   /// What a key does that the form let pass; false when it means nothing to the control.
   virtual bool HandleKey(const KeyEvent& key);
   virtual void HandleChar(int character);

@@ -133,7 +133,8 @@ void EditableGrid::UserMoveTo(int row, int col) {
 bool EditableGrid::MayLeave() { return EndEdit() && GridModel::MayLeave(); }
 
 void EditableGrid::LeaveFocus() {
-  CancelEdit();
+  // Nobody is asked when code moves the focus, but what was typed is not lost while it is valid.
+  if (!EndEdit()) CancelEdit();
   GridModel::LeaveFocus();
 }
 
@@ -159,25 +160,32 @@ void EditableGrid::MoveOn() {
   if (EndEdit() && OwnerForm().IsShownToUser()) OpenFrom(row, col + 1);
 }
 
+void EditableGrid::OfferKey(KeyEvent& key) {
+  if (editing_) {
+    EditKeyDown.Raise(editRow_, editCol_, key);
+  } else {
+    GridModel::OfferKey(key);
+  }
+}
+
 bool EditableGrid::HandleEditKey(const KeyEvent& key) {
-  KeyEvent offered = key;
-  EditKeyDown.Raise(editRow_, editCol_, offered);
-  if (offered.KeyCode == 0 || !editing_) return true;
-  switch (offered.KeyCode) {
+  // A list that is open on the cell takes the keys that move in it, and Enter as its pick.
+  if (EditBox.Companion != nullptr && EditBox.Companion->CompanionKey(key)) return true;
+  switch (key.KeyCode) {
     case keys::kEnter:
     case keys::kTab:
-      if (offered.Shift != 0) return false;
+      if (key.Shift != 0) return false;
       if (!SuppressEnter) MoveOn();
       return true;
     case keys::kUp:
     case keys::kDown: {
-      const int direction = offered.KeyCode == keys::kUp ? -1 : 1;
+      const int direction = key.KeyCode == keys::kUp ? -1 : 1;
       const int row = VisibleRowFrom(editRow_ + direction, direction);
       if (row > 0 && EndEdit()) KeyMoveTo(row, Col);
       return true;
     }
     default:
-      return EditBox.HandleKey(offered);
+      return EditBox.HandleKey(key);
   }
 }
 

@@ -63,6 +63,7 @@ class EditableGrid : public GridModel {
   void UserMoveTo(int row, int col) override;
   bool MayLeave() override;
   void LeaveFocus() override;
+  void OfferKey(KeyEvent& key) override;
   bool HandleKey(const KeyEvent& key) override;
   void HandleChar(int character) override;
 

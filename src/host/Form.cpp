@@ -148,7 +148,7 @@ void Form::UserKey(int keyCode, int shift, int character) {
 
 void Form::DispatchKey(KeyEvent& key, int character) {
   Control* const focused = active_ != nullptr && active_->IsReachable() ? active_ : nullptr;
-  if (focused != nullptr) focused->KeyDown.Raise(key);
+  if (focused != nullptr) focused->OfferKey(key);
   if (key.KeyCode == 0 || !StillAlive()) return;
   if (character != 0 && (key.Shift & (keys::kCtrl | keys::kAlt)) == 0) {
     OnKeyPress(character);

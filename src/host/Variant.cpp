@@ -83,10 +83,14 @@ const Array& Variant::ToArray() const {
   return *As<std::shared_ptr<Array>>();
 }
 
-Variant Object::Get(const std::string& member) { throw SubscriptError(member); }
+Variant Object::Get(const std::string& member) { throw HostError("There is no member " + member); }
 
-void Object::Set(const std::string& member, const Variant&) { throw SubscriptError(member); }
+void Object::Set(const std::string& member, const Variant&) {
+  throw HostError("There is no member " + member);
+}
 
-Variant Object::Call(const std::string& method, const Array&) { throw SubscriptError(method); }
+Variant Object::Call(const std::string& method, const Array&) {
+  throw HostError("There is no method " + method);
+}
 
 }  // namespace quillon

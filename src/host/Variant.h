@@ -81,7 +81,7 @@ class Object {
   Object& operator=(const Object&) = delete;
   virtual ~Object() = default;
 
-  /// Throws SubscriptError for a name that the object does not carry.
+  /// Throws HostError for a name that the object does not carry.
   virtual Variant Get(const std::string& member);
   virtual void Set(const std::string& member, const Variant& value);
   virtual Variant Call(const std::string& method, const Array& arguments);

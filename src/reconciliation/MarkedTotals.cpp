@@ -3,7 +3,7 @@
 #include "books/BooksNames.h"
 #include "host/GridModel.h"
 #include "host/IStd.h"
-#include "reconciliation/StatementColumns.h"
+#include "host/StatementColumns.h"
 
 namespace quillon {
 

@@ -140,6 +140,9 @@ void frmAcReconciliation::FirstShow() {
 
 void frmAcReconciliation::ButtonPressed(int index) {
   const std::string key = BtnBar1.Buttons(index).Key();
+  CGridPlus* const grid = VisibleGrid();
+  // A date that is being typed is stored first, so that the view that is asked for has it.
+  if (key != "Exit" && grid != nullptr && !grid->EndEdit()) return;
   if (key == "ShowRef") {
     showReference_ = !showReference_;
     if (GridStatement.Visible) UpdateGridStatement();

@@ -152,7 +152,9 @@ void frmAcReconciliation::UpdateMarkedTotals() {
 void frmAcReconciliation::cmbFilter_Click() {
   if (!cmbFilter.Visible || !Grid.EndEdit()) return;
   UpdateGrid();
-  Grid.Row = 1;  // the rows are others now, and so is what belongs to the one under the cursor
+  // The rows are others now, so the strip and the returned mark must follow the cursor.
+  Grid.Row = 1;
+  Grid.Col = kClearedEdit;
 }
 
 void frmAcReconciliation::PutCursorOnLastRow() {

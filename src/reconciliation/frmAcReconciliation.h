@@ -12,7 +12,7 @@
 #include "host/Menu.h"
 #include "host/ScreenForm.h"
 #include "reconciliation/MarkedTotals.h"
-#include "reconciliation/StatementColumns.h"
+#include "host/StatementColumns.h"
 
 namespace quillon {
 

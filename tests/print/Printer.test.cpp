@@ -2,6 +2,7 @@
 #include <QFontMetricsF>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 
 #include "desk/print/Fonts.h"
@@ -142,6 +143,46 @@ TEST_F(PrinterTest, AJobThatDiesLeavesNothing) {
   EXPECT_EQ(FilesLeft(), 0u);
   PdfPrinter nowhere("/proc/none");
   EXPECT_THROW(nowhere.Print("x"), HostError);
+}
+
+/// A spooler of the test's own stands first in the search path while it lives.
+class SpoolerPath {
+ public:
+  SpoolerPath(const TempFolder& folder, const std::string& script) : path_(getenv("PATH")) {
+    const std::string program = folder.File("lp");
+    std::ofstream(program) << "#!/bin/sh\n" << script;
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    setenv("PATH", (folder.Path().string() + ":" + path_).c_str(), 1);
+  }
+  SpoolerPath(const SpoolerPath&) = delete;
+  SpoolerPath& operator=(const SpoolerPath&) = delete;
+  ~SpoolerPath() { setenv("PATH", path_.c_str(), 1); }
+
+ private:
+  std::string path_;
+};
+
+TEST_F(PrinterTest, AJobForADeviceGoesToTheSpoolerAndAFileStays) {
+  TempFolder tools;
+  printer.DeviceName = "Canteen LaserJet";
+  {
+    const SpoolerPath spooler(tools, "echo \"$2 $4\" > " + tools.File("sent"));
+    PrintAt(0, 0, "Harbour");
+    printer.EndDoc();
+  }
+  std::string sent;
+  std::getline(std::ifstream(tools.File("sent")), sent);
+  EXPECT_EQ(sent, "Canteen LaserJet " + folder.File("print-1.pdf"));
+
+  const SpoolerPath refusing(tools, "echo 'no such printer'; exit 1");
+  PrintAt(0, 0, "Harbour");
+  try {
+    printer.EndDoc();
+    ADD_FAILURE() << "a refused job was not told";
+  } catch (const HostError& error) {
+    EXPECT_NE(std::string(error.what()).find("no such printer"), std::string::npos) << error.what();
+  }
+  EXPECT_TRUE(std::filesystem::exists(folder.File("print-2.pdf")));
 }
 
 TEST_F(PrinterTest, DevanagariPrintsShaped) {

@@ -83,9 +83,10 @@ class FirebirdServer {
     const int socket = ::socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in place = Place(0);
     socklen_t size = sizeof place;
-    bind(socket, reinterpret_cast<sockaddr*>(&place), size);
-    getsockname(socket, reinterpret_cast<sockaddr*>(&place), &size);
+    const bool isBound = bind(socket, reinterpret_cast<sockaddr*>(&place), size) == 0 &&
+                         getsockname(socket, reinterpret_cast<sockaddr*>(&place), &size) == 0;
     close(socket);
+    if (!isBound) throw std::runtime_error("There is no free port");
     return ntohs(place.sin_port);
   }
 

@@ -11,7 +11,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent.parent
 
 SUBSYSTEMS = ["reconciliation", "cheques", "envelopes", "correspondence", "graph", "maintenance", "entry"]
-DESK = ["desk/firebird", "desk/firm", "desk/services", "desk/print", "desk/screens", "desk/sample", "desk/qt"]
+DESK = ["desk/shell", "desk/firebird", "desk/firm", "desk/services", "desk/print", "desk/screens", "desk/sample", "desk/qt"]
 
 # What each folder of src may include beside itself.
 MAY_SEE = {
@@ -25,7 +25,8 @@ MAY_SEE = {
     "desk/print": ["host"],
     "desk/screens": ["host", "desk/services"],
     "desk/sample": ["host", "desk/firebird", "desk/firm", "desk/services"],
-    "desk/qt": ["host", "desk/screens", "desk/print", "desk/services", "desk/firebird", "desk/sample"],
+    "desk/shell": ["host", "desk/screens", "desk/print", "desk/services", "desk/firm", "desk/firebird"],
+    "desk/qt": ["host", "desk/shell", "desk/screens", "desk/print", "desk/services", "desk/firebird", "desk/sample"],
     "desk/driver": ["host", *DESK],
 }
 # Screens that really open one another.

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <unistd.h>
 
 #include "desk/driver/Script.h"
 
@@ -46,6 +47,17 @@ bool Read(int count, char** words, Arguments& arguments) {
   return true;
 }
 
+/// Qt asks for a folder of the user's own, which only a desktop session makes.
+void SetRuntimeFolder() {
+  if (std::getenv("XDG_RUNTIME_DIR") != nullptr) return;
+  const std::filesystem::path folder =
+      std::filesystem::temp_directory_path() / ("quillon-" + std::to_string(getuid()));
+  std::error_code ignored;
+  std::filesystem::create_directory(folder, ignored);
+  std::filesystem::permissions(folder, std::filesystem::perms::owner_all, ignored);
+  setenv("XDG_RUNTIME_DIR", folder.c_str(), 0);
+}
+
 int Drive(const Arguments& arguments, std::istream& in) {
   std::filesystem::create_directories(arguments.out);
   EventLog log(std::cout);
@@ -75,6 +87,7 @@ int main(int count, char** words) {
   }
   // Pages and widths need Qt's fonts, but no screen.
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  SetRuntimeFolder();
   const QGuiApplication application(count, words);
   try {
     if (arguments.script.empty()) return Drive(arguments, std::cin);

@@ -38,7 +38,7 @@ fs::path PackageFolder() {
   if (!dladdr(reinterpret_cast<void*>(&Firebird::fb_get_master_interface), &info) || !info.dli_fname) {
     throw HostError("The Firebird client library cannot be found");
   }
-  const fs::path folder = fs::canonical(info.dli_fname).parent_path() / "firebird" / "3.0";
+  fs::path folder = fs::canonical(info.dli_fname).parent_path() / "firebird" / "3.0";
   if (!fs::exists(folder / "plugins")) {
     throw HostError("The Firebird engine is not installed: there is no folder " + folder.string());
   }

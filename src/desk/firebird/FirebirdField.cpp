@@ -1,5 +1,6 @@
 #include "desk/firebird/FirebirdField.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstring>
@@ -102,7 +103,7 @@ void PutText(const FirebirdField& field, unsigned char* at, const std::string& v
   } else {
     std::memset(at, field.CharSet == kOctets ? 0 : ' ', field.Length);
   }
-  std::memcpy(at, value.data(), value.size());
+  std::copy(value.begin(), value.end(), at);
 }
 
 std::int32_t EngineDay(const Variant& value) {

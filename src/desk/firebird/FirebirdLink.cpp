@@ -123,7 +123,9 @@ std::int64_t FirebirdLink::ExecutePlain(const std::string& sql) {
     prepared_.clear();
     keys_.clear();
   }
-  return statement.Execute(Writing());
+  if (!statement.GivesRows()) return statement.Execute(Writing());
+  statement.Open(Reading());
+  return 0;
 }
 
 std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<const Variant> values) {
@@ -133,11 +135,23 @@ std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<c
   return rows;
 }
 
+std::vector<Variant> FirebirdLink::InsertWith(const std::string& statement, std::span<const Variant> values) {
+  const std::string shown = observer_ ? WithLiterals(statement, values) : statement;
+  std::vector<Variant> returned;
+  Send(shown, [&] {
+    FirebirdStatement& prepared = Prepared(statement);
+    prepared.Execute(Writing(), values);
+    for (std::size_t i = 0; i < prepared.Outputs().size(); ++i) returned.push_back(prepared.Value(i));
+  });
+  Tell(shown, 1, {});
+  return returned;
+}
+
 Variant FirebirdLink::FirstValue(const std::string& sql) {
   Variant value = Send(sql, [&] {
     FirebirdStatement statement(*Reading(), sql);
     statement.Open(Reading());
-    const Variant first = statement.Fetch() ? statement.Value(0) : Variant();
+    Variant first = statement.Fetch() ? statement.Value(0) : Variant();
     // What LIST makes lives as long as its transaction.
     if (statement.Outputs()[0].Holds == FirebirdField::Kind::kBlob) read_.reset();
     return first;
@@ -159,6 +173,21 @@ bool FirebirdLink::TableExists(const std::string& name) {
 }
 
 bool FirebirdLink::RowExists(const std::string& sql) { return !FirstValue(sql).IsEmpty(); }
+
+std::vector<Variant> FirebirdLink::FirstRowWith(const std::string& query, std::span<const Variant> values) {
+  const std::string shown = observer_ ? WithLiterals(query, values) : query;
+  std::vector<Variant> row;
+  Send(shown, [&] {
+    FirebirdStatement& statement = Prepared(query);
+    statement.Open(Reading(), values);
+    if (statement.Fetch()) {
+      for (std::size_t i = 0; i < statement.Outputs().size(); ++i) row.push_back(statement.Value(i));
+    }
+    statement.Close();
+  });
+  Tell(shown, 0, {});
+  return row;
+}
 
 void FirebirdLink::BeginTrans() {
   if (inTransaction_) throw HostError("A transaction is open already");

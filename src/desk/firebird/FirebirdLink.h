@@ -36,6 +36,7 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   Variant Lookup(const std::string& table, const std::string& expression, const std::string& where) override;
   bool TableExists(const std::string& name) override;
   bool RowExists(const std::string& sql) override;
+  std::vector<Variant> FirstRowWith(const std::string& query, std::span<const Variant> values) override;
   void BeginTrans() override;
   void CommitTrans() override;
   void RollbackTrans() override;
@@ -44,6 +45,9 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   /// Runs a statement that changes rows, with values for its question marks, prepared once and kept. Answers
   /// the number of rows changed.
   std::int64_t ExecuteWith(const std::string& statement, std::span<const Variant> values);
+
+  /// The same for an insert that ends in RETURNING: answers what it returns.
+  std::vector<Variant> InsertWith(const std::string& statement, std::span<const Variant> values);
 
   const std::string& Label() const { return label_; }
   bool InTransaction() const { return inTransaction_; }

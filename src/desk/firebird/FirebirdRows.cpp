@@ -181,9 +181,14 @@ void FirebirdRows::Append(const Changes& fields) {
     inserted.push_back(value);
     values[field] = value;
   }
-  link.ExecuteWith("insert into " + table.Name + " (" + text::Join(columns, ",") + ") values (" +
-                       text::Join(marks, ",") + ")",
-                   inserted);
+  // The database may give the key itself; the row is known by it from now on.
+  std::vector<std::string> keys;
+  for (const auto& [column, field] : table.Key) keys.push_back(column);
+  const std::vector<Variant> key =
+      link.InsertWith("insert into " + table.Name + " (" + text::Join(columns, ",") + ") values (" +
+                          text::Join(marks, ",") + ") returning " + text::Join(keys, ","),
+                      inserted);
+  for (std::size_t i = 0; i < key.size(); ++i) values[table.Key[i].second] = key[i];
   store_->Add(values);
 }
 

@@ -141,8 +141,10 @@ void FirebirdStatement::Bind(FirebirdTransaction& transaction, std::span<const V
 
 std::int64_t FirebirdStatement::Execute(FirebirdTransaction& transaction, std::span<const Variant> values) {
   if (!values.empty()) Bind(transaction, values);
+  const bool answers = !Outputs().empty();
   FirebirdStatus status(sql_);
-  statement_->execute(&status, transaction.Handle(), inMetadata_, parameters_.data(), nullptr, nullptr);
+  statement_->execute(&status, transaction.Handle(), inMetadata_, parameters_.data(),
+                      answers ? outMetadata_ : nullptr, answers ? row_.data() : nullptr);
   return static_cast<std::int64_t>(statement_->getAffectedRecords(&status));
 }
 

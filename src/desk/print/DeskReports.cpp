@@ -34,7 +34,7 @@ void DeskReports::ShowGrid(GridModel& grid, CReportOptions* options, const std::
   ReportPages sheets;
   std::string file;
   int count = 0;
-  if (mode_ >= kFirstTextMode) {
+  if (PrinterMode() >= kFirstTextMode) {
     const PlainReport plain = PlainReport::Make(request);
     file = WriteText(plain.Text, desk_.OutputFolder);
     count = plain.Pages;

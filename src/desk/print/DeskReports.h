@@ -39,23 +39,20 @@ class DeskReports : public IReports {
     std::string OutputFolder;
     std::function<ReportFirm()> Firm = ReportFirm::Current;
     std::function<std::string()> Device = {};  ///< the chosen printer; empty, or nothing, leaves the file
-    ReportObserver* Observer = nullptr;   ///< hears of each report, and opens the preview
+    std::function<int()> Mode = {};            ///< the printer mode; nothing prints graphic pages
+    ReportObserver* Observer = nullptr;        ///< hears of each report, and opens the preview
   };
 
   explicit DeskReports(Surroundings surroundings) : desk_(std::move(surroundings)) {}
-
-  /// Below 2 graphic pages, 2 and above plain lines.
-  void SetPrinterMode(int mode) { mode_ = mode; }
 
   void ShowGrid(GridModel& grid, CReportOptions* options, const std::string& title,
                 const std::string& subtitle, int value, bool print, const std::string& heading = "",
                 const std::string& optionText = "") override;
   PrintSetup Print(const std::string& what) override;
-  int PrinterMode() const override { return mode_; }
+  int PrinterMode() const override { return desk_.Mode ? desk_.Mode() : 0; }
 
  private:
   Surroundings desk_;
-  int mode_ = 0;
 };
 
 }  // namespace quillon

@@ -54,7 +54,7 @@ std::string Justified(std::string_view line, double width) {
     at = text.find(' ', at);
     if (at == std::string::npos) at = text.find(' ', indent);
     if (at == std::string::npos) break;
-    text.insert(at, " ");
+    text.insert(at, 1, ' ');
     at = text.find_first_not_of(' ', at);
   }
   return text;

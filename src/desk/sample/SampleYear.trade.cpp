@@ -23,7 +23,9 @@ const Amount kMostCash = Amount::OfInteger(90000);
 constexpr const char* kTheirBanks[] = {"Sahyadri Bank", "Konkan Co-op. Bank", "Narmada Bank",
                                        "City Merchants Bank"};
 
-Amount Share(Amount value, int percent) { return (value * Amount::OfUnits(percent * 100)).Rounded(2); }
+Amount Share(Amount value, int percent) {
+  return (value * Amount::OfInteger(percent) * Amount::OfText("0.01")).Rounded(2);
+}
 
 }  // namespace
 
@@ -121,10 +123,10 @@ void SampleYear::CashEntry(Date day) {
   if (random_.InThousand(600) || CashInHand() < kLeastCash) {
     const SampleAccount& party = PickDebtor();
     Post(Voucher(day, "C", "RC1", "Cash received from " + party.Station, SampleCode::kCash, party.Code,
-                 Amount::OfInteger(random_.Between(5, 190) * 100)));
+                 Amount::OfInteger(100) * random_.Between(5, 190)));
   } else {
     Post(Voucher(day, "C", "PC1", "Telephone and sundries paid", SampleCode::kTelephone, SampleCode::kCash,
-                 Amount::OfInteger(random_.Between(1, 45) * 50)));
+                 Amount::OfInteger(50) * random_.Between(1, 45)));
   }
 }
 
@@ -165,7 +167,7 @@ void SampleYear::Purchase(Date day) {
 
 void SampleYear::BankCash(Date day) {
   const int bank = PickBank();
-  const Amount value = Amount::OfInteger(random_.Between(5, 50) * 1000);
+  const Amount value = Amount::OfInteger(1000) * random_.Between(5, 50);
   const bool isDeposit = CashInHand() > kMostCash;
   SampleVoucher voucher =
       isDeposit ? Voucher(day, SampleVoucher::BankBook(bank), SampleVoucher::ReceiptType(bank),

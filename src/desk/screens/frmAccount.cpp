@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "host/RedrawHold.h"
+#include "host/StatementColumns.h"
 #include "host/Text.h"
 #include "host/host_services.h"
 
@@ -23,26 +24,7 @@ constexpr ScreenSpec kScreen = {
     .initForm = true,
 };
 
-/// The row layout that the screens opened on the statement read.
-namespace col {
-
-constexpr int kVoucherId = 0;
-constexpr int kBookCode = 1;
-constexpr int kNature = 3;
-constexpr int kClearedOn = 4;
-constexpr int kVchSubNo = 5;
-constexpr int kSerial = 6;
-constexpr int kVchNo = 7;
-constexpr int kDate = 8;
-constexpr int kBook = 9;
-constexpr int kNarration = 11;
-constexpr int kDebit = 24;
-constexpr int kCredit = 25;
-constexpr int kBalance = 26;
-constexpr int kReturned = 28;
-constexpr int kCount = 29;
-
-}  // namespace col
+namespace col = statement_col;
 
 constexpr const char* kOpeningBook = "0B";
 

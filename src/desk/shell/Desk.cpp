@@ -2,12 +2,15 @@
 
 #include "desk/shell/ModuleLibrary.h"
 #include "host/Runtime.h"
+#include "host/Text.h"
 
 namespace quillon {
 
 Desk::Desk(Options options)
     : options_(std::move(options)),
-      reports_({.OutputFolder = options_.OutputFolder, .Observer = options_.Reports}),
+      reports_({.OutputFolder = options_.OutputFolder,
+                .Mode = [this] { return PrinterMode(); },
+                .Observer = options_.Reports}),
       module_(ModuleLibrary::Create(options_.ModulePath)) {
   gReports = &reports_;
 }
@@ -15,6 +18,10 @@ Desk::Desk(Options options)
 Desk::~Desk() {
   CloseFirm();
   gReports = nullptr;
+}
+
+int Desk::PrinterMode() const {
+  return app_ ? static_cast<int>(ValInteger(app_->GetUserSetting("PrinterMode"))) : 0;
 }
 
 void Desk::OpenFirm(const std::string& folder, const std::string& user, int startYear) {

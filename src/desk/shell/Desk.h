@@ -40,6 +40,8 @@ class Desk {
   DeskApp& App() { return *app_; }
 
  private:
+  int PrinterMode() const;
+
   Options options_;
   DeskStd std_;
   DeskReports reports_;

@@ -1,0 +1,38 @@
+# Installs what is missing of the Debian packages that the project is built and run with. Sourced by ./run and ./test.
+
+quillon_packages=(
+  g++ cmake ninja-build ccache pkg-config git python3 clang-format
+  qt6-base-dev libgl-dev libicu-dev libpugixml-dev nlohmann-json3-dev
+  firebird-dev firebird3.0-server firebird3.0-server-core firebird3.0-utils
+  libgtest-dev libbenchmark-dev poppler-utils binutils
+  fonts-dejavu-core fonts-liberation fonts-lohit-deva fonts-wine
+)
+
+install_packages() {
+  local missing=()
+  local package
+  for package in "${quillon_packages[@]}"; do
+    if [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
+      missing+=("$package")
+    fi
+  done
+  if [ ${#missing[@]} -eq 0 ]; then
+    echo "All packages are here."
+    return
+  fi
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then as_root=(sudo); fi
+  echo "Installing ${missing[*]} ..."
+  "${as_root[@]}" apt-get update -qq
+  # No service is started and no question asked: the desk brings its own engine.
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive RUNLEVEL=1 \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures and builds a preset.
+build_preset() {
+  echo "Building ($1) ..."
+  cmake --preset "$1" >"build-$1.log" 2>&1 || { cat "build-$1.log"; return 1; }
+  cmake --build --preset "$1" >>"build-$1.log" 2>&1 || { tail -n 60 "build-$1.log"; return 1; }
+  rm -f "build-$1.log"
+}
