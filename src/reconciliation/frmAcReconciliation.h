@@ -11,8 +11,8 @@
 #include "host/ControlArray.h"
 #include "host/Menu.h"
 #include "host/ScreenForm.h"
-#include "reconciliation/MarkedTotals.h"
 #include "host/StatementColumns.h"
+#include "reconciliation/MarkedTotals.h"
 
 namespace quillon {
 
