@@ -65,10 +65,35 @@ frmAcReconciliation::frmAcReconciliation()
   Member("Date1", Date1);
   Member("Date2", Date2);
   Member("bCalcInt", bCalcInt);
+  RegisterRoutines();
   ConnectGrid();
   ConnectStatement();
   chkReturned.Click = [this] { chkReturned_Click(); };
   cmbFilter.Click = [this] { cmbFilter_Click(); };
+}
+
+/// The routines that a host may call late.
+void frmAcReconciliation::RegisterRoutines() {
+  const auto routine = [this](const char* name, void (frmAcReconciliation::*body)()) {
+    Method(name, [this, body](const Array&) {
+      (this->*body)();
+      return Variant();
+    });
+  };
+  routine("UpdateGrid", &frmAcReconciliation::UpdateGrid);
+  routine("UpdateMarkedTotals", &frmAcReconciliation::UpdateMarkedTotals);
+  routine("UpdateGridStatement", &frmAcReconciliation::UpdateGridStatement);
+  routine("HideGrids", &frmAcReconciliation::HideGrids);
+  routine("UpdateRefButton", &frmAcReconciliation::UpdateRefButton);
+  routine("ZoomRow", &frmAcReconciliation::ZoomRow);
+  const auto save = [this](const char* name, Save body) {
+    Method(name, [this, body](const Array& arguments) {
+      (this->*body)(static_cast<int>(arguments.at(0).ToInteger()), arguments.at(1).ToText());
+      return Variant();
+    });
+  };
+  save("SaveRow", &frmAcReconciliation::SaveRow);
+  save("SaveStatementRow", &frmAcReconciliation::SaveStatementRow);
 }
 
 void frmAcReconciliation::TakeCaller() {

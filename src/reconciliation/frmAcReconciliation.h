@@ -11,8 +11,8 @@
 #include "host/ControlArray.h"
 #include "host/Menu.h"
 #include "host/ScreenForm.h"
-#include "reconciliation/MarkedTotals.h"
 #include "host/StatementColumns.h"
+#include "reconciliation/MarkedTotals.h"
 
 namespace quillon {
 
@@ -64,6 +64,7 @@ class frmAcReconciliation : public ScreenForm {
   GridModel* MainGrid() override { return &Grid; }
 
  private:
+  void RegisterRoutines();
   void DesignControls();
   void ConnectGrid();
   void ConnectStatement();

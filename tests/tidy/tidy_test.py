@@ -191,8 +191,8 @@ def check_reached(texts):
             continue
         own = lists.get(f"{path.parent}/CMakeLists.txt", "")
         above = lists.get(f"{path.parent.parent}/CMakeLists.txt", top)
-        globbed = re.search(r"^\s*quillon_(?:folder|test)\(|GLOB", own, re.MULTILINE) and path.name != "main.cpp"
-        if not globbed and path.name not in own:
+        globbed = re.search(r"^\s*quillon_(?:folder|(?:desk_)?test)\(|GLOB", own, re.MULTILINE) and path.name != "main.cpp"
+        if not globbed and path.name not in own + above:
             fault(name, 1, "no target compiles this source", "name it in its CMakeLists.txt or remove it")
         elif not re.search(rf"\b{re.escape(path.parent.name)}\b|GLOB", above):
             fault(name, 1, "its folder is not built", "add the folder to the CMakeLists.txt above it")

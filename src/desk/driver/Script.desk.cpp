@@ -79,7 +79,7 @@ Json Script::DoClose(const Json& command) {
 Json Script::DoForms(const Json& /*command*/) {
   Json forms = Json::array();
   for (const FormPtr& form : runtime_.AllForms()) {
-    forms.push_back({{"form", log_.IdOf(*form)},
+    forms.push_back({{"id", log_.IdOf(*form)},
                      {"name", form->Name()},
                      {"title", form->Caption()},
                      {"visible", form->IsShownToUser()},

@@ -30,10 +30,11 @@ Json Script::DoFocus(const Json& command) {
 
 bool Script::TypeInto(Control& control, const std::string& text, bool leave) {
   const FormPtr form = control.OwnerForm().Self();
-  if (!form->UserFocus(control)) return false;
   auto* field = dynamic_cast<CTextPlus*>(&control);
   TextBox& box = field != nullptr ? field->TextBox : dynamic_cast<TextBox&>(control);
+  control.RequireReachable();
   if (box.Locked) throw Refused(control.Name() + " is locked");
+  if (!form->UserFocus(control)) return false;
   box.SelectAll();
   if (text.empty()) form->UserKey(keys::kDelete, 0, 0);
   for (std::size_t at = 0; at < text.size() && control.HasFocus();) {

@@ -1,0 +1,213 @@
+#!/usr/bin/env python3
+"""Runs the scripts of this folder through the built driver, each as a whole process on a firm of its own.
+
+A script says itself what must come: below a command "#= {...}" is what its answer must hold, "#! text" a refusal that
+holds the text, "#~ {...}" an event that must have come since the answer before it. A command without any of them must
+be carried out. FIRM stands for the firm's folder."""
+
+import json
+import os
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+DRIVE, SAMPLE = sys.argv[1:3]
+HERE = Path(__file__).resolve().parent
+COMMANDS = set(
+    "firm form menu set get call show close forms key focus type click dblclick bar choose check row cell range "
+    "gridrow scroll pickbutton picked popup answer state tree query execute setting picture trace".split()
+)
+
+
+def holds(found, wanted):
+    """Whether all that is wanted stands in what was found; lists are compared item by item."""
+    if isinstance(wanted, dict):
+        return isinstance(found, dict) and all(k in found and holds(found[k], v) for k, v in wanted.items())
+    if isinstance(wanted, list):
+        return isinstance(found, list) and len(found) == len(wanted) and all(map(holds, found, wanted))
+    return found == wanted
+
+
+class Driver(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = tempfile.TemporaryDirectory()
+        cls.sample = Path(cls.folder.name) / "sample"
+        made = subprocess.run([SAMPLE, cls.sample, "--vouchers", "150", "--years", "2023,2024"], capture_output=True)
+        assert made.returncode == 0, made.stderr
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.folder.cleanup()
+
+    def setUp(self):
+        self.own = tempfile.TemporaryDirectory()
+        self.addCleanup(self.own.cleanup)
+        self.firm = str(Path(self.own.name) / "firm")
+        shutil.copytree(self.sample, self.firm)
+
+    def drive(self, text, *options):
+        """Exit status, lines and what went to the error output."""
+        run = subprocess.run(
+            [DRIVE, "--out", self.own.name, *options], input=text, capture_output=True, text=True, timeout=60
+        )
+        return run.returncode, [json.loads(line) for line in run.stdout.splitlines()], run.stderr
+
+    def run_script(self, name, status):
+        text = (HERE / "scripts" / name).read_text().replace("FIRM", self.firm)
+        code, lines, errors = self.drive(text, "--firm", self.firm)
+        answers = {line["done"]: at for at, line in enumerate(lines) if "done" in line}
+        number = 0
+        expected = {}
+        for at, line in enumerate(text.splitlines(), 1):
+            if line.startswith("#="):
+                expected.setdefault(number, []).append((at, "answer", json.loads(line[2:])))
+            elif line.startswith("#!"):
+                expected.setdefault(number, []).append((at, "refused", line[2:].strip()))
+            elif line.startswith("#~"):
+                expected.setdefault(number, []).append((at, "event", json.loads(line[2:])))
+            elif line.strip() and not line.startswith("#"):
+                number += 1
+                expected.setdefault(number, [])
+        self.assertEqual(sorted(answers), list(range(1, number + 1)), errors)
+        for command, wants in expected.items():
+            place = answers[command]
+            answer = lines[place]
+            refusals = [want for _, kind, want in wants if kind == "refused"]
+            self.assertEqual(answer["ok"], not refusals, f"{name}, command {command}: {answer}")
+            before = max([at for at in answers.values() if at < place], default=-1)
+            for at, kind, want in wants:
+                where = f"{name}:{at}: {want}\nfound: {lines[before + 1 : place + 1]}"
+                if kind == "refused":
+                    self.assertIn(want, answer["error"], where)
+                elif kind == "answer":
+                    self.assertTrue(holds(answer, want), where)
+                else:
+                    self.assertTrue(any(holds(line, want) for line in lines[before + 1 : place]), where)
+        self.assertEqual(code, status, lines[-3:])
+        return lines, answers
+
+    def test_every_command_is_in_some_script(self):
+        used = set()
+        for script in (HERE / "scripts").glob("*.jsonl"):
+            used |= set(re.findall(r'^\{"cmd":"(\w+)"', script.read_text(), re.MULTILINE))
+        self.assertEqual(COMMANDS - used, set())
+
+    def test_reconcile(self):
+        self.run_script("reconcile.jsonl", 0)
+
+    def test_refusals(self):
+        lines, _ = self.run_script("refusals.jsonl", 1)
+        self.assertEqual(lines[-1], {"left_over": [{"to": "input", "text": "Nigdi Branch"}]})
+
+    def test_modal_forms_answer_from_the_inside(self):
+        _, answers = self.run_script("modal.jsonl", 0)
+        order = [number for number, _ in sorted(answers.items(), key=lambda item: item[1])]
+        self.assertEqual(order[3:], [5, 6, 7, 8, 4, 9, 10, 12, 11, 13])
+
+    def test_what_still_waits_at_the_end_is_closed(self):
+        code, lines, _ = self.drive('{"cmd":"form","key":"inttmethod"}\n{"cmd":"show","form":"f1","modal":true}\n',
+                                    "--firm", self.firm)
+        self.assertEqual((code, [line["done"] for line in lines if "done" in line]), (0, [1, 2]))
+        self.assertTrue(any(holds(line, {"event": "form", "what": "unload", "form": "f1"}) for line in lines))
+
+    def test_a_firm_may_be_changed_inside_a_modal_form(self):
+        script = [{"cmd": "form", "key": "SelectAc", "host": True, "id": "s"}, {"cmd": "show", "form": "s", "modal": True},
+                  {"cmd": "firm", "folder": self.firm, "year": 2023}, {"cmd": "query", "sql": "select 1 from rdb$database"}]
+        code, lines, errors = self.drive("\n".join(map(json.dumps, script)), "--firm", self.firm)
+        self.assertEqual(code, 0, (lines, errors))
+        self.assertEqual(lines[-1]["rows"], [[1]])
+
+    def test_input_that_is_no_json(self):
+        for text in ("hello", "[1]", '{"cmd":"forms"', '"forms"'):
+            code, lines, _ = self.drive(f'{{"cmd":"forms"}}\n\n# a remark\n{text}\n', "--firm", self.firm)
+            self.assertEqual(code, 2, text)
+            self.assertEqual([(line["done"], line["ok"]) for line in lines], [(1, True), (2, False)])
+
+    def test_firms_that_do_not_open(self):
+        def changed(name, change):
+            folder = Path(self.own.name) / name
+            shutil.copytree(self.firm, folder)
+            change(folder)
+            return str(folder)
+
+        def rewrite(folder, **values):
+            file = folder / "firm.json"
+            file.write_text(json.dumps(json.loads(file.read_text()) | values))
+
+        cases = {
+            "There is no folder": str(Path(self.own.name) / "nowhere"),
+            "is damaged": changed("json", lambda f: (f / "firm.json").write_text("{oops")),
+            "newer version": changed("newer", lambda f: rewrite(f, schema=99)),
+            "is damaged or in use": changed("cut", lambda f: os.truncate(f / "2024.fdb", 5000)),
+            "2024.fdb of the firm is missing": changed("gone", lambda f: (f / "2024.fdb").unlink()),
+        }
+        for why, folder in cases.items():
+            code, lines, errors = self.drive('{"cmd":"forms"}\n', "--firm", folder)
+            self.assertEqual((code, lines), (2, []), why)
+            self.assertIn(why, errors)
+            command = json.dumps({"cmd": "firm", "folder": folder})
+            code, lines, _ = self.drive(command + '\n{"cmd":"forms"}\n')
+            self.assertEqual((code, [line["ok"] for line in lines]), (2, [False, True]), why)
+            self.assertIn(why, lines[0]["error"])
+        command = json.dumps({"cmd": "firm", "folder": self.firm, "year": 1999})
+        code, lines, _ = self.drive(command)
+        self.assertEqual(code, 2)
+        self.assertIn("no financial year 1999-00", lines[0]["error"])
+        code, lines, errors = self.drive("", "--firm", self.firm, "--user", "Nobody")
+        self.assertEqual((code, lines), (2, []))
+        self.assertIn("no user Nobody", errors)
+
+    def test_a_user_without_rights(self):
+        self.drive(json.dumps({"cmd": "execute", "db": "common", "sql": "delete from UserRights"}), "--firm", self.firm)
+        script = [{"cmd": "form", "key": "acreconciliation", "id": "b"}, {"cmd": "show", "form": "b"},
+                  {"cmd": "forms"}]
+        code, lines, _ = self.drive("\n".join(map(json.dumps, script)), "--firm", self.firm, "--user", "Clerk")
+        self.assertEqual(code, 0)
+        self.assertTrue(any(line.get("event") == "message" and "no right" in line["text"] for line in lines))
+        self.assertEqual(lines[-1]["forms"], [])
+
+    def test_killed_between_two_dates_keeps_every_date(self):
+        drive = subprocess.Popen([DRIVE, "--firm", self.firm, "--out", self.own.name], stdin=subprocess.PIPE,
+                                 stdout=subprocess.PIPE, text=True)
+
+        def send(**command):
+            drive.stdin.write(json.dumps(command) + "\n")
+            drive.stdin.flush()
+            while "done" not in (line := json.loads(drive.stdout.readline())):
+                pass
+            return line
+
+        send(cmd="form", key="Account", host=True, id="st")
+        send(cmd="set", form="st", member="AccountCode", value=101)
+        send(cmd="show", form="st")
+        send(cmd="bar", control="BtnBar1", button="Reconciliation")
+        cells = send(cmd="state", control="Grid", cols=[0, 5, 9])["cells"]
+        marked = []
+        for row, (voucher, line, book) in enumerate(cells):
+            if row and voucher not in ("", "0") and book != "0B" and len(marked) < 12:
+                answer = send(cmd="cell", control="Grid", row=row, col=27, text="31/3/2025")
+                self.assertEqual(answer["text"], "31-Mar-2025")
+                marked.append((voucher, line))
+        drive.send_signal(signal.SIGKILL)
+        drive.wait()
+        drive.stdin.close()
+        drive.stdout.close()
+        self.assertEqual(len(marked), 12)
+        script = [{"cmd": "query", "sql": f"select dBankDate from FAData where VoucherID={v} and dVchSubNo={s}"}
+                  for v, s in marked]
+        code, lines, _ = self.drive("\n".join(map(json.dumps, script)), "--firm", self.firm)
+        self.assertEqual([line["rows"] for line in lines], [[["2025-03-31"]]] * 12)
+        if not shutil.which("gfix"):
+            self.skipTest("gfix is not installed")
+        check = subprocess.run(["gfix", "-v", "-full", self.firm + "/2024.fdb"], capture_output=True, text=True)
+        self.assertEqual((check.returncode, check.stdout + check.stderr), (0, ""))
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

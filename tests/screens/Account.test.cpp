@@ -1,0 +1,93 @@
+#include "tests/support/DeskFixture.h"
+
+namespace quillon {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+/// The statement of account and the picker that it asks for an account.
+class Account : public DeskTest {
+ protected:
+  void SetUp() override {
+    OpenNewFirm();
+    Db().BeginTrans();
+    AddAccount(101, "Sahyadri Bank", 47, "Pune");
+    AddAccount(201, "Asha Traders");
+    AddVoucher({.id = 1, .date = "2024-04-01", .amount = "-1000", .book = "0B"});
+    AddVoucher(
+        {.id = 2, .date = "2024-04-20", .amount = "1500.25", .cleared = "2024-04-25", .narration = "In"});
+    AddVoucher({.id = 3, .date = "2024-05-03", .amount = "-200", .narration = "Out"});
+    AddVoucher({.id = 4, .date = "2024-05-03", .amount = "9", .book = "MEM"});
+    AddVoucher({.id = 5, .date = "2024-06-01", .amount = "40"});
+    Db().Execute("update FADocs set ChqReturn='Y' where VoucherID=3");
+    Db().CommitTrans();
+  }
+
+  static Texts Rows(const FormPtr& form) {
+    const auto& grid = At<CGridPlus>(form, "Grid");
+    Texts rows;
+    for (int row = 1; row < grid.Rows; ++row) {
+      std::string text;
+      for (const int col : {0, 1, 4, 5, 6, 8, 9, 11, 24, 25, 26, 28}) text += grid.TextMatrix(row, col) + "|";
+      rows.push_back(text);
+    }
+    return rows;
+  }
+};
+
+TEST_F(Account, RowsBalanceAndFooter) {
+  const FormPtr form = ShowStatement();
+  EXPECT_EQ(Rows(form), (Texts{"|0B|||1|01-Apr-2024|0B|Opening Balance||1,000.00|1,000.00 Cr.||",
+                               "2|BNK|25-Apr-2024|1|2|20-Apr-2024|BNK|In|1,500.25||500.25 Dr.||",
+                               "3|BNK||1|3|03-May-2024|BNK|Out||200.00|300.25 Dr.|Y|",
+                               "5|BNK||1|4|01-Jun-2024|BNK||40.00||340.25 Dr.||"}));
+  const auto& grid = At<CGridPlus>(form, "Grid");
+  EXPECT_EQ(grid.Cols(), 29);
+  EXPECT_EQ(grid.Footer.TextMatrix(0, 24), "1,540.25");
+  EXPECT_EQ(grid.Footer.TextMatrix(0, 25), "1,200.00");
+  EXPECT_EQ(grid.Footer.TextMatrix(0, 26), "340.25 Dr.");
+  EXPECT_EQ(At<Label>(form, "lblTitle1", 2).Caption(), "Period: 01/04/2024 to 31/03/2025");
+  EXPECT_EQ(form->Get("FAMaster").ToObject()->Get("AcHead").ToText(), "Sahyadri Bank");
+  EXPECT_FALSE(At<CButtonBar>(form, "BtnBar1").Buttons("Interest").Enabled());
+}
+
+TEST_F(Account, APeriodBeginsWithAllThatLiesBeforeIt) {
+  const FormPtr form = ShowStatement();
+  runtime_.Laid.Add({{"to", "date"}, {"date1", "1/5/2024"}, {"date2", "31/5/2024"}});
+  Key(*form, keys::kF3);
+  EXPECT_EQ(Rows(form), (Texts{"|0B|||1|01-May-2024|0B|Opening Balance|500.25||500.25 Dr.||",
+                               "3|BNK||1|2|03-May-2024|BNK|Out||200.00|300.25 Dr.|Y|"}));
+  const FormPtr bare = gApp->GetForm("account");
+  bare->Set("AccountCode", 101);
+  bare->Set("Date1", "01-May-2024");
+  bare->Set("WithOpening", false);
+  Do([&] { gApp->ShowForm(bare); });
+  EXPECT_EQ(Rows(bare).front(), "3|BNK||1|1|03-May-2024|BNK|Out||200.00|200.00 Cr.|Y|");
+}
+
+TEST_F(Account, WithoutAnAccountItAsksForOne) {
+  std::function<void()> act = [&] { Key(*runtime_.ActiveForm(), keys::kEscape); };
+  runtime_.NextCommand = [&] {
+    EXPECT_EQ(runtime_.ActiveForm()->Name(), "frmSelectAc");
+    Do(act);
+    return true;
+  };
+  const FormPtr left = ShowStatement(0);
+  EXPECT_FALSE(left->IsLoaded()) << "a person who picks none closes the screen";
+  act = [&] {
+    TypeKeys(*runtime_.ActiveForm(), "sah");
+    Key(*runtime_.ActiveForm(), keys::kEnter);
+  };
+  const FormPtr form = ShowStatement(0);
+  EXPECT_EQ(form->Get("AccountCode").ToInteger(), 101);
+  EXPECT_EQ(Rows(form).size(), 4U);
+}
+
+TEST_F(Account, AnAccountThatThereIsNotIsToldInPlainWords) {
+  const FormPtr form = ShowStatement(999);
+  EXPECT_EQ(Errors(), Texts{"There is no account with the code 999"});
+  EXPECT_FALSE(form->IsLoaded());
+}
+
+}  // namespace
+}  // namespace quillon
