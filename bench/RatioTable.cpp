@@ -1,0 +1,62 @@
+#include "bench/RatioTable.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace quillon::bench {
+
+namespace {
+
+/// A ratio, or a dash where there is nothing to divide by.
+std::string Ratio(double desk, double floor) {
+  if (floor <= 0) return "-";
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2f", desk / floor);
+  return text;
+}
+
+}  // namespace
+
+std::string RatioTable::NameOf(const char* title, int entries, const char* who) {
+  return std::string(title) + "/" + std::to_string(entries) + "/" + who;
+}
+
+void RatioTable::ReportRuns(const std::vector<Run>& runs) {
+  for (const Run& run : runs) {
+    if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
+    const double time = run.GetAdjustedRealTime();
+    const auto known = fastest_.emplace(run.run_name.function_name, time).first;
+    known->second = std::min(known->second, time);
+  }
+  ConsoleReporter::ReportRuns(runs);
+}
+
+void RatioTable::AddCounts(const char* title, int entries, const Counts& desk, const Counts& floor) {
+  lines_.push_back({title, entries, desk, floor});
+}
+
+double RatioTable::Fastest(const Line& line, const char* who) const {
+  const auto found = fastest_.find(NameOf(line.Title, line.Entries, who));
+  return found == fastest_.end() ? 0 : found->second;
+}
+
+void RatioTable::Print() const {
+  std::printf("\n%-32s %8s %10s | %10s %6s | %10s %6s\n", "milliseconds for one act, fastest", "entries",
+              "desk", "by text", "ratio", "prepared", "ratio");
+  for (const Line& line : lines_) {
+    const double desk = Fastest(line, kDesk);
+    const double text = Fastest(line, kFloorByText);
+    const double prepared = Fastest(line, kFloorPrepared);
+    std::printf("%-32s  %8d %10.3f | %10.3f %6s | %10.3f %6s\n", line.Title, line.Entries, desk, text,
+                Ratio(desk, text).c_str(), prepared, Ratio(desk, prepared).c_str());
+  }
+  std::printf("\n%-32s %8s | %19s | %19s | %19s\n", "counted for one act, desk and floor", "entries",
+              "page writes", "prepared", "rows read");
+  for (const Line& line : lines_) {
+    std::printf("%-32s     %8d | %9.2f %9.2f | %9.2f %9.2f | %9.0f %9.0f\n", line.Title, line.Entries,
+                line.Desk.PageWrites, line.Floor.PageWrites, line.Desk.Prepared, line.Floor.Prepared,
+                line.Desk.RowsRead, line.Floor.RowsRead);
+  }
+}
+
+}  // namespace quillon::bench

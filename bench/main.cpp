@@ -1,0 +1,155 @@
+#include <QGuiApplication>
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+
+#include "bench/BenchFirm.h"
+#include "bench/RatioTable.h"
+#include "bench/Stand.h"
+#include "tests/support/TempFolder.h"
+
+namespace {
+
+using namespace quillon;
+using namespace quillon::bench;
+
+constexpr int kRepetitions = 3;
+constexpr double kSeconds = 0.3;
+constexpr const char* kWalk = "--walk=";
+
+/// The firms, and the stand on the one that is measured now.
+class Grounds {
+ public:
+  explicit Grounds(RatioTable& table) : table_(table) {}
+
+  std::filesystem::path Firm(int entries) {
+    const std::filesystem::path folder = folder_.Path() / std::to_string(entries);
+    if (!std::filesystem::exists(folder)) MakeBenchFirm(folder, entries);
+    return folder;
+  }
+
+  /// The stand with the case recorded.
+  Stand& StandOf(int entries, const Case& measured) {
+    if (entries_ != entries) {
+      stand_.reset();
+      stand_ = std::make_unique<Stand>(Firm(entries));
+      entries_ = entries;
+      case_ = nullptr;
+    }
+    if (case_ != &measured) {
+      stand_->Record(measured);
+      case_ = &measured;
+      table_.AddCounts(measured.Title, entries, stand_->DeskCounts(), stand_->FloorCounts());
+    }
+    return *stand_;
+  }
+
+ private:
+  RatioTable& table_;
+  TempFolder folder_;
+  std::unique_ptr<Stand> stand_;
+  int entries_ = 0;
+  const Case* case_ = nullptr;
+};
+
+template <class Act>
+void Time(benchmark::State& state, Act act) {
+  const auto start = std::chrono::steady_clock::now();
+  act();
+  const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
+  state.SetIterationTime(passed.count());
+}
+
+void RunDesk(benchmark::State& state, Stand& stand, const Case& measured) {
+  for ([[maybe_unused]] auto iteration : state) {
+    measured.Ready(stand.Work);
+    Time(state, [&] { measured.Act(stand.Work); });
+    measured.Undo(stand.Work);
+  }
+}
+
+void RunFloor(benchmark::State& state, Stand& stand, bool prepared) {
+  for ([[maybe_unused]] auto iteration : state) Time(state, [&] { stand.RunFloor(prepared); });
+}
+
+void Register(Grounds& grounds, int entries, const Case& measured) {
+  for (const char* who : {kDesk, kFloorByText, kFloorPrepared}) {
+    const auto run = [&grounds, entries, &measured, who](benchmark::State& state) {
+      Stand& stand = grounds.StandOf(entries, measured);
+      if (who == kDesk) {
+        RunDesk(state, stand, measured);
+      } else {
+        RunFloor(state, stand, who == kFloorPrepared);
+      }
+    };
+    benchmark::RegisterBenchmark(RatioTable::NameOf(measured.Title, entries, who).c_str(), run)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->MinTime(kSeconds)
+        ->Repetitions(kRepetitions);
+  }
+}
+
+/// The most memory that this process has held, in megabytes.
+double PeakMegabytes() {
+  std::ifstream status("/proc/self/status");
+  for (std::string word; status >> word;) {
+    double kilobytes = 0;
+    if (word == "VmHWM:" && status >> kilobytes) return kilobytes / 1024;
+  }
+  return 0;
+}
+
+/// All that is measured once on a firm, by a desk that has a process for itself.
+void Walk(const std::filesystem::path& firm) {
+  DeskWork work(firm);
+  for (const Case& measured : Cases()) {
+    measured.Ready(work);
+    measured.Act(work);
+  }
+  std::printf("%.0f MB at most in a process that did each once, on %s entries\n", PeakMegabytes(),
+              firm.filename().c_str());
+}
+
+int Measure(bool quick, const char* program) {
+  RatioTable table;
+  Grounds grounds(table);
+  const std::vector<int> sizes = quick ? std::vector<int>{1000} : std::vector<int>{1000, 10000, 100000};
+  for (const int entries : sizes) {
+    for (const Case& measured : Cases()) Register(grounds, entries, measured);
+  }
+  benchmark::RunSpecifiedBenchmarks(&table);
+  table.Print();
+  std::fputs("\n", stdout);
+  std::fflush(stdout);
+  const std::string walk =
+      "'" + std::string(program) + "' '" + kWalk + grounds.Firm(sizes.back()).string() + "'";
+  return std::system(walk.c_str()) == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  setenv("XDG_RUNTIME_DIR", std::filesystem::temp_directory_path().c_str(), 0);
+  const QGuiApplication application(count, words);
+  benchmark::Initialize(&count, words);
+  bool quick = false;
+  try {
+    for (int i = 1; i < count; ++i) {
+      if (std::strncmp(words[i], kWalk, std::strlen(kWalk)) == 0) {
+        Walk(words[i] + std::strlen(kWalk));
+        return 0;
+      }
+      quick = quick || std::strcmp(words[i], "--quick") == 0;
+    }
+    return Measure(quick, words[0]);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "quillon_bench: %s\n", error.what());
+    return 1;
+  }
+}
