@@ -17,14 +17,13 @@ namespace {
 using namespace quillon;
 using namespace quillon::bench;
 
-constexpr int kRepetitions = 3;
-constexpr double kSeconds = 0.3;
+constexpr double kSeconds = 0.7;
 constexpr const char* kWalk = "--walk=";
 
 /// The firms, and the stand on the one that is measured now.
 class Grounds {
  public:
-  explicit Grounds(RatioTable& table) : table_(table) {}
+  Grounds(const TempFolder& folder, RatioTable& table) : folder_(folder), table_(table) {}
 
   std::filesystem::path Firm(int entries) {
     const std::filesystem::path folder = folder_.Path() / std::to_string(entries);
@@ -49,48 +48,32 @@ class Grounds {
   }
 
  private:
+  const TempFolder& folder_;
   RatioTable& table_;
-  TempFolder folder_;
   std::unique_ptr<Stand> stand_;
   int entries_ = 0;
   const Case* case_ = nullptr;
 };
 
-template <class Act>
-void Time(benchmark::State& state, Act act) {
-  const auto start = std::chrono::steady_clock::now();
-  act();
-  const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
-  state.SetIterationTime(passed.count());
-}
-
-void RunDesk(benchmark::State& state, Stand& stand, const Case& measured) {
-  for ([[maybe_unused]] auto iteration : state) {
-    measured.Ready(stand.Work);
-    Time(state, [&] { measured.Act(stand.Work); });
-    measured.Undo(stand.Work);
-  }
-}
-
-void RunFloor(benchmark::State& state, Stand& stand, bool prepared) {
-  for ([[maybe_unused]] auto iteration : state) Time(state, [&] { stand.RunFloor(prepared); });
-}
-
-void Register(Grounds& grounds, int entries, const Case& measured) {
+void Register(Grounds& grounds, RatioTable& table, int entries, const Case& measured) {
   for (const char* who : {kDesk, kFloorByText, kFloorPrepared}) {
-    const auto run = [&grounds, entries, &measured, who](benchmark::State& state) {
+    const std::string name = RatioTable::NameOf(measured.Title, entries, who);
+    const auto run = [&grounds, &table, &measured, entries, who, name](benchmark::State& state) {
       Stand& stand = grounds.StandOf(entries, measured);
-      if (who == kDesk) {
-        RunDesk(state, stand, measured);
-      } else {
-        RunFloor(state, stand, who == kFloorPrepared);
+      for ([[maybe_unused]] auto iteration : state) {
+        if (who == kDesk) measured.Ready(stand.Work);
+        const auto start = std::chrono::steady_clock::now();
+        who == kDesk ? measured.Act(stand.Work) : stand.RunFloor(who == kFloorPrepared);
+        const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
+        if (who == kDesk) measured.Undo(stand.Work);
+        state.SetIterationTime(passed.count());
+        table.AddTime(name, passed.count());
       }
     };
-    benchmark::RegisterBenchmark(RatioTable::NameOf(measured.Title, entries, who).c_str(), run)
+    benchmark::RegisterBenchmark(name.c_str(), run)
         ->UseManualTime()
         ->Unit(benchmark::kMillisecond)
-        ->MinTime(kSeconds)
-        ->Repetitions(kRepetitions);
+        ->MinTime(kSeconds);
   }
 }
 
@@ -115,14 +98,14 @@ void Walk(const std::filesystem::path& firm) {
               firm.filename().c_str());
 }
 
-int Measure(bool quick, const char* program) {
+int Measure(const TempFolder& folder, bool quick, const char* program) {
   RatioTable table;
-  Grounds grounds(table);
+  Grounds grounds(folder, table);
   const std::vector<int> sizes = quick ? std::vector<int>{1000} : std::vector<int>{1000, 10000, 100000};
   for (const int entries : sizes) {
-    for (const Case& measured : Cases()) Register(grounds, entries, measured);
+    for (const Case& measured : Cases()) Register(grounds, table, entries, measured);
   }
-  benchmark::RunSpecifiedBenchmarks(&table);
+  benchmark::RunSpecifiedBenchmarks();
   table.Print();
   std::fputs("\n", stdout);
   std::fflush(stdout);
@@ -135,7 +118,8 @@ int Measure(bool quick, const char* program) {
 
 int main(int count, char** words) {
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  setenv("XDG_RUNTIME_DIR", std::filesystem::temp_directory_path().c_str(), 0);
+  const TempFolder folder;
+  setenv("XDG_RUNTIME_DIR", folder.Path().c_str(), 0);
   const QGuiApplication application(count, words);
   benchmark::Initialize(&count, words);
   bool quick = false;
@@ -147,7 +131,7 @@ int main(int count, char** words) {
       }
       quick = quick || std::strcmp(words[i], "--quick") == 0;
     }
-    return Measure(quick, words[0]);
+    return Measure(folder, quick, words[0]);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "quillon_bench: %s\n", error.what());
     return 1;
