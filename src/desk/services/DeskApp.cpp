@@ -1,6 +1,7 @@
 #include "desk/services/DeskApp.h"
 
 #include <algorithm>
+#include <array>
 
 #include "desk/services/CrossReference.h"
 #include "desk/services/DateText.h"
@@ -149,16 +150,14 @@ bool DeskApp::InputBox(std::string& text, const std::string& prompt) {
 }
 
 std::string DeskApp::AccountDetails(std::int64_t code) {
-  CDataSet account;
-  account.Open(
-      "Select a.mhd,a.mst,c.CtgName from FAMaster a left join CtgMaster c on a.mbshno=c.CtgNo where a.mcd=" +
-          std::to_string(code),
-      session_.MainDb());
-  if (account.Eof()) return {};
-  std::string details = account.Field("mhd").ToText();
-  if (const std::string station = account.Field("mst").ToText(); !station.empty()) details += ", " + station;
-  if (const std::string group = account.Field("CtgName").ToText(); !group.empty())
-    details += "   (" + group + ")";
+  const std::array<Variant, 1> values = {Variant(code)};
+  const std::vector<Variant> account = session_.MainDb().FirstRowWith(
+      "Select a.mhd,a.mst,c.CtgName from FAMaster a left join CtgMaster c on a.mbshno=c.CtgNo where a.mcd=?",
+      values);
+  if (account.empty()) return {};
+  std::string details = account[0].ToText();
+  if (const std::string station = account[1].ToText(); !station.empty()) details += ", " + station;
+  if (const std::string group = account[2].ToText(); !group.empty()) details += "   (" + group + ")";
   return details;
 }
 

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <ostream>
+
+#include "desk/driver/DriverRuntime.h"
+#include "desk/shell/Desk.h"
+
+namespace quillon::bench {
+
+/// The desk on a firm, and the acts of a person whose time is taken. The acts that make something ready find
+/// the desk in any state.
+class DeskWork {
+ public:
+  /// Dates are stored on this many entries, again and again.
+  static constexpr int kRows = 256;
+
+  explicit DeskWork(const std::filesystem::path& firm);
+
+  FirebirdLink& Year();
+  FirebirdLink& Common();
+
+  void CloseForms();
+  void OpenStatement();
+
+  void ReadyStatement();
+  void OpenWorkbench();
+  void CloseWorkbench();
+
+  void ReadyEntries();
+
+  /// Enters the cell of the next entry, types a date and leaves.
+  void StoreDate();
+
+  /// Shows the reconciliation statement as on the end of the year, its references shown or hidden.
+  void ReadyView(bool references);
+
+  /// Builds that statement again, with references where there were none and the other way round.
+  void PressReferences();
+
+ private:
+  /// The driver's runtime where whatever was not expected is an error, and forms that are gone are let go.
+  class Runtime : public DriverRuntime {
+   public:
+    using DriverRuntime::DriverRuntime;
+    int AskMessage(const MessageRequest& request) override { throw HostError(request.Text); }
+    void TellError(const std::string& routine, Form* form, const std::string& text) override;
+
+   protected:
+    void FormHappened(Happening, Form&) override {}
+  };
+
+  void Press(Form& form, const char* button);
+
+  std::ostream nowhere_{nullptr};
+  EventLog log_{nowhere_};
+  Runtime runtime_;
+  Desk desk_;
+  FormPtr statement_;
+  FormPtr workbench_;
+  bool inView_ = false;
+  bool references_ = true;
+  int stored_ = 0;
+};
+
+}  // namespace quillon::bench

@@ -1,0 +1,139 @@
+#include <QGuiApplication>
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+
+#include "bench/BenchFirm.h"
+#include "bench/RatioTable.h"
+#include "bench/Stand.h"
+#include "tests/support/TempFolder.h"
+
+namespace {
+
+using namespace quillon;
+using namespace quillon::bench;
+
+constexpr double kSeconds = 0.7;
+constexpr const char* kWalk = "--walk=";
+
+/// The firms, and the stand on the one that is measured now.
+class Grounds {
+ public:
+  Grounds(const TempFolder& folder, RatioTable& table) : folder_(folder), table_(table) {}
+
+  std::filesystem::path Firm(int entries) {
+    const std::filesystem::path folder = folder_.Path() / std::to_string(entries);
+    if (!std::filesystem::exists(folder)) MakeBenchFirm(folder, entries);
+    return folder;
+  }
+
+  /// The stand with the case recorded.
+  Stand& StandOf(int entries, const Case& measured) {
+    if (entries_ != entries) {
+      stand_.reset();
+      stand_ = std::make_unique<Stand>(Firm(entries));
+      entries_ = entries;
+      case_ = nullptr;
+    }
+    if (case_ != &measured) {
+      stand_->Record(measured);
+      case_ = &measured;
+      table_.AddCounts(measured.Title, entries, stand_->DeskCounts(), stand_->FloorCounts());
+    }
+    return *stand_;
+  }
+
+ private:
+  const TempFolder& folder_;
+  RatioTable& table_;
+  std::unique_ptr<Stand> stand_;
+  int entries_ = 0;
+  const Case* case_ = nullptr;
+};
+
+void Register(Grounds& grounds, RatioTable& table, int entries, const Case& measured) {
+  for (const char* who : {kDesk, kFloorByText, kFloorPrepared}) {
+    const std::string name = RatioTable::NameOf(measured.Title, entries, who);
+    const auto run = [&grounds, &table, &measured, entries, who, name](benchmark::State& state) {
+      Stand& stand = grounds.StandOf(entries, measured);
+      for ([[maybe_unused]] auto iteration : state) {
+        if (who == kDesk) measured.Ready(stand.Work);
+        const auto start = std::chrono::steady_clock::now();
+        who == kDesk ? measured.Act(stand.Work) : stand.RunFloor(who == kFloorPrepared);
+        const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
+        if (who == kDesk) measured.Undo(stand.Work);
+        state.SetIterationTime(passed.count());
+        table.AddTime(name, passed.count());
+      }
+    };
+    benchmark::RegisterBenchmark(name.c_str(), run)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->MinTime(kSeconds);
+  }
+}
+
+/// The most memory that this process has held, in megabytes.
+double PeakMegabytes() {
+  std::ifstream status("/proc/self/status");
+  for (std::string word; status >> word;) {
+    double kilobytes = 0;
+    if (word == "VmHWM:" && status >> kilobytes) return kilobytes / 1024;
+  }
+  return 0;
+}
+
+/// All that is measured once on a firm, by a desk that has a process for itself.
+void Walk(const std::filesystem::path& firm) {
+  DeskWork work(firm);
+  for (const Case& measured : Cases()) {
+    measured.Ready(work);
+    measured.Act(work);
+  }
+  std::printf("%.0f MB at most in a process that did each once, on %s entries\n", PeakMegabytes(),
+              firm.filename().c_str());
+}
+
+int Measure(const TempFolder& folder, bool quick, const char* program) {
+  RatioTable table;
+  Grounds grounds(folder, table);
+  const std::vector<int> sizes = quick ? std::vector<int>{1000} : std::vector<int>{1000, 10000, 100000};
+  for (const int entries : sizes) {
+    for (const Case& measured : Cases()) Register(grounds, table, entries, measured);
+  }
+  benchmark::RunSpecifiedBenchmarks();
+  table.Print();
+  std::fputs("\n", stdout);
+  std::fflush(stdout);
+  const std::string walk =
+      "'" + std::string(program) + "' '" + kWalk + grounds.Firm(sizes.back()).string() + "'";
+  return std::system(walk.c_str()) == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  const TempFolder folder;
+  setenv("XDG_RUNTIME_DIR", folder.Path().c_str(), 0);
+  const QGuiApplication application(count, words);
+  benchmark::Initialize(&count, words);
+  bool quick = false;
+  try {
+    for (int i = 1; i < count; ++i) {
+      if (std::strncmp(words[i], kWalk, std::strlen(kWalk)) == 0) {
+        Walk(words[i] + std::strlen(kWalk));
+        return 0;
+      }
+      quick = quick || std::strcmp(words[i], "--quick") == 0;
+    }
+    return Measure(folder, quick, words[0]);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "quillon_bench: %s\n", error.what());
+    return 1;
+  }
+}
