@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "host/ErrorText.h"
 #include "host/Text.h"
 
 namespace quillon {
@@ -133,7 +134,7 @@ void Runtime::Act(const std::function<void()>& act) {
   } catch (const Refused&) {
     throw;
   } catch (const std::exception& error) {
-    TellError("", ActiveForm().get(), error.what());
+    TellError("", ActiveForm().get(), ErrorText(error));
   }
 }
 

@@ -23,6 +23,9 @@ void Answers::Add(const Json& command) {
   if (!cancel && !need->second.empty() && !command.contains(need->second)) {
     throw HostError("An answer to " + kind + " needs \"" + need->second + "\"");
   }
+  if (kind == "message" && !command.at("button").is_number_integer()) {
+    throw HostError("A message is answered by the number of a button");
+  }
   queues_[kind].push_back(command);
 }
 

@@ -8,6 +8,7 @@
 #include "desk/services/DeskStd.h"
 #include "desk/services/PartyAddress.h"
 #include "host/CMStrip.h"
+#include "host/ErrorText.h"
 #include "host/Runtime.h"
 
 namespace quillon {
@@ -100,9 +101,7 @@ void DeskApp::BeginBusy(const std::string& text) {
 void DeskApp::EndBusy() { gRuntime->ShowBusy(false, ""); }
 
 void DeskApp::ReportError(const std::exception& error, Form* form, const std::string& routine) {
-  const auto* failed = dynamic_cast<const DbError*>(&error);
-  const std::string statement = failed != nullptr ? failed->Statement() : "";
-  gRuntime->TellError(routine, form, error.what() + (statement.empty() ? "" : "\nStatement: " + statement));
+  gRuntime->TellError(routine, form, ErrorText(error));
 }
 
 void DeskApp::OpenVoucher(Form& form, std::int64_t voucherId, int startYear, std::int64_t accountCode) {

@@ -32,11 +32,11 @@ DeskSession::DeskSession(const std::string& folder, const std::string& user, int
     : firm_(OpenFirm(folder, observer)),
       year_(OpenYear(*firm_, startYear)),
       user_(FindUser(*firm_->Common(), user)),
-      parameters_(*firm_->Common()) {
-  gSession = this;
-}
+      parameters_(*firm_->Common()) {}
 
-DeskSession::~DeskSession() { gSession = nullptr; }
+DeskSession::~DeskSession() {
+  if (gSession == this) gSession = nullptr;
+}
 
 std::string DeskSession::Parameters::Parameter(int number) {
   return common.Lookup("FirmParameters", "ParameterText", "ParameterNo=" + std::to_string(number)).ToText();

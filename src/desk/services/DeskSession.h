@@ -26,6 +26,9 @@ class DeskSession : public ISession {
   DeskSession(const std::string& folder, const std::string& user, int startYear, SqlObserver* observer);
   ~DeskSession() override;
 
+  /// Makes this session gSession. Until then another one may stay open.
+  void Begin() { gSession = this; }
+
   long FormLeft() const override { return area_.left; }
   long FormTop() const override { return area_.top; }
   long FormWidth() const override { return area_.width; }

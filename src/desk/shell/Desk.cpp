@@ -25,8 +25,10 @@ int Desk::PrinterMode() const {
 }
 
 void Desk::OpenFirm(const std::string& folder, const std::string& user, int startYear) {
+  auto next = std::make_unique<DeskSession>(folder, user, startYear, options_.Sql);
   CloseFirm();
-  session_ = std::make_unique<DeskSession>(folder, user, startYear, options_.Sql);
+  session_ = std::move(next);
+  session_->Begin();
   session_->SetArea(options_.Area);
   screens_ = std::make_unique<DeskScreens>();
   app_ = std::make_unique<DeskApp>(*session_, *screens_);

@@ -28,7 +28,7 @@ class Desk {
   explicit Desk(Options options);
   ~Desk();
 
-  /// Closes an open firm first. Throws HostError in plain words; no firm is open then.
+  /// Closes an open firm when the new one is ready. Throws HostError in plain words; the open one then stays.
   void OpenFirm(const std::string& folder, const std::string& user = "", int startYear = 0);
 
   /// Ends the module's forms and the desk's own, then the session.
