@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPainter>
 
 #include "desk/qt/Acts.h"
 #include "desk/qt/Adapter.h"
@@ -164,6 +165,14 @@ bool FormView::event(QEvent* event) {
     Acts::Run([&] { gRuntime->BringToFront(*form); });
   }
   return QWidget::event(event);
+}
+
+void FormView::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (!isWindow()) return;
+  QPainter painter(this);
+  painter.setPen(Theme::Border());
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 }  // namespace quillon

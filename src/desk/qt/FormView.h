@@ -39,6 +39,7 @@ class FormView : public QWidget, private IControlListener {
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void ControlChanged(Control& control, const PropertyBase* property) override;

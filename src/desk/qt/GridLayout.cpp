@@ -1,6 +1,7 @@
 #include "desk/qt/GridLayout.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "desk/qt/Scale.h"
 
@@ -18,7 +19,7 @@ bool SaysSomething(const GridModel& grid, int row) {
 
 }  // namespace
 
-void GridLayout::Measure(const GridModel& grid) {
+void GridLayout::Measure(const GridModel& grid, int room) {
   modelRows_ = grid.Rows;
   rows_.clear();
   tops_.assign(1, 0);
@@ -38,10 +39,18 @@ void GridLayout::Measure(const GridModel& grid) {
     rows_.push_back(row);
     tops_.push_back(Scale::Px(twips += height));
   }
+  MeasureColumns(grid, room);
+}
+
+void GridLayout::MeasureColumns(const GridModel& grid, int room) {
+  long whole = 0;
+  for (int col = 0; col < grid.Cols; ++col) whole += std::max(grid.ColWidth(col), 0L);
+  const double stretch = whole > 0 ? std::max(1.0, static_cast<double>(room) / Scale::Px(whole)) : 1;
   lefts_.assign(1, 0);
-  twips = 0;
+  long twips = 0;
   for (int col = 0; col < grid.Cols; ++col) {
-    lefts_.push_back(Scale::Px(twips += std::max(grid.ColWidth(col), 0L)));
+    twips += std::max(grid.ColWidth(col), 0L);
+    lefts_.push_back(static_cast<int>(std::lround(Scale::Px(twips) * stretch)));
   }
 }
 

@@ -11,7 +11,8 @@ namespace quillon {
 /// columns are left out once, so that they cost nothing afterwards.
 class GridLayout {
  public:
-  void Measure(const GridModel& grid);
+  /// `room` is the width to fill, in pixels: what the columns leave of it is shared among them in proportion.
+  void Measure(const GridModel& grid, int room);
 
   /// False when rows or columns were added or taken since.
   bool Fits(const GridModel& grid) const;
@@ -43,6 +44,8 @@ class GridLayout {
   int ColAt(int x) const;
 
  private:
+  void MeasureColumns(const GridModel& grid, int room);
+
   int modelRows_ = 0;
   std::vector<int> rows_;
   std::vector<int> tops_{0};

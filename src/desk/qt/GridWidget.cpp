@@ -51,7 +51,7 @@ void GridWidget::Touch() {
 }
 
 void GridWidget::Measure() {
-  layout_.Measure(model_);
+  layout_.Measure(model_, viewport()->width());
   stale_ = false;
   UpdateBars();
 }
@@ -139,6 +139,8 @@ GridWidget::CellPlace GridWidget::CellAt(const QPoint& point) const {
   return {layout_.Rows()[place], col};
 }
 
+bool GridWidget::HasKeys() const { return leads_ || model_.HasFocus(); }
+
 QColor GridWidget::Back() const {
   return model_.BackColor == Control::kDefaultColor ? Theme::Surface() : Theme::ColorOf(model_.BackColor);
 }
@@ -167,9 +169,17 @@ void GridWidget::DrawText(QPainter& painter, QRect cell, std::string_view text, 
   cell.adjust(kPadding, 0, -kPadding, 0);
   QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   const QFontMetrics metrics(painter.font());
-  if (metrics.horizontalAdvance(shown) > cell.width()) {
-    shown = metrics.elidedText(shown, Qt::ElideRight, cell.width());
+  const int width = metrics.horizontalAdvance(shown);
+  if (width > cell.width() && alignment == kAlignRight && cell.width() > 0) {
+    // A figure that lost its end would be another figure: it is drawn narrower, but whole.
+    painter.save();
+    painter.translate(cell.left(), cell.top());
+    painter.scale(static_cast<double>(cell.width()) / width, 1);
+    painter.drawText(QRect(0, 0, width, cell.height()), Qt::AlignLeft | Qt::AlignVCenter, shown);
+    painter.restore();
+    return;
   }
+  if (width > cell.width()) shown = metrics.elidedText(shown, Qt::ElideRight, cell.width());
   painter.drawText(cell, static_cast<int>(AlignmentOf(alignment)) | Qt::TextSingleLine, shown);
 }
 
@@ -184,7 +194,7 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
   PaintCursor(painter);
   PaintTitles(painter);
   PaintFooter(painter);
-  painter.setPen(model_.HasFocus() ? Theme::Accent() : Theme::Border());
+  painter.setPen(HasKeys() ? Theme::Accent() : Theme::Border());
   painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
@@ -264,10 +274,10 @@ void GridWidget::PaintCursor(QPainter& painter) const {
   const QRect row(0, body.top() + layout_.RowTop(place) - verticalScrollBar()->value(),
                   std::min(body.width(), layout_.Width() - horizontalScrollBar()->value()),
                   layout_.RowHeight(place));
-  painter.fillRect(row, Translucent(Theme::Accent(), model_.HasFocus() ? 38 : 18));
+  painter.fillRect(row, Translucent(Theme::Accent(), HasKeys() ? 38 : 18));
   const QRect cell = CellRect(model_.Row, model_.Col);
   if (!cell.isEmpty()) {
-    painter.setPen(QPen(model_.HasFocus() ? Theme::Accent() : Theme::Border(), 2));
+    painter.setPen(QPen(HasKeys() ? Theme::Accent() : Theme::Border(), 2));
     painter.drawRect(cell.adjusted(1, 1, -1, -2));
   }
   painter.restore();
@@ -292,7 +302,7 @@ void GridWidget::PaintFooter(QPainter& painter) const {
 }
 
 void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
-  UpdateBars();
+  stale_ = true;
   cursor_ = {};
   Touch();
 }

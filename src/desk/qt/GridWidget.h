@@ -18,6 +18,9 @@ class GridWidget : public QAbstractScrollArea {
   std::function<void(int row, int col, int toRow, int toCol)> OnDrag;
   std::function<void(int row, int col)> OnDoubleClick;
 
+  /// The keys move in the grid although it has not the focus: the list of a field.
+  void LeadKeys() { leads_ = true; }
+
   /// Called when cells have moved on the screen.
   std::function<void()> OnMoved;
 
@@ -67,12 +70,14 @@ class GridWidget : public QAbstractScrollArea {
   void PaintFooter(QPainter& painter) const;
   void DrawText(QPainter& painter, QRect cell, std::string_view text, int alignment) const;
   QColor Back() const;
+  bool HasKeys() const;
 
   GridModel& model_;
   GridLayout layout_;
   CellPlace cursor_;
   CellPlace pressed_;
   CellPlace dragged_;
+  bool leads_ = false;
   bool stale_ = true;
   bool waiting_ = false;
 };

@@ -25,6 +25,7 @@ SelectionGridAdapter::SelectionGridAdapter(CSelGrid& model, QWidget* parent)
   title_->setPalette(palette);
   title_->setAutoFillBackground(true);
   title_->setContentsMargins(kIndent, 0, 0, 0);
+  grid_->LeadKeys();
   grid_->setFocusPolicy(Qt::NoFocus);
   grid_->OnPress = [this](int row, int) { Acts::Run([&] { list_.UserPick(row); }); };
   list_.Grid.AddListener(*this);
