@@ -17,6 +17,7 @@
 #include "desk/sample/SampleFirm.h"
 #include "host/CGridPlus.h"
 #include "host/ISession.h"
+#include "host/Text.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {

@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kPadding = 4;
+constexpr int kPadding = 6;
 constexpr long kTitleLine = 345;
 constexpr const char* kRuled = "*hline1*";
 
