@@ -1,6 +1,7 @@
 #include "desk/driver/Script.h"
 
 #include "desk/driver/ControlState.h"
+#include "desk/qt/FormPicture.h"
 #include "host/CDataSet.h"
 
 namespace quillon {
@@ -122,7 +123,12 @@ Json Script::DoSetting(const Json& command) {
   return {{"value", store == "firm" ? gApp->GetFirmSetting(key) : gApp->GetUserSetting(key)}};
 }
 
-Json Script::DoPicture(const Json& /*command*/) { throw Refused("Pictures need the desk's window"); }
+Json Script::DoPicture(const Json& command) {
+  const FormPtr form = Current(command);
+  if (!form->IsShownToUser()) throw Refused("The form " + form->Name() + " is not shown");
+  FormPicture::Save(form, command.at("file").get<std::string>());
+  return Json::object();
+}
 
 Json Script::DoTrace(const Json& command) {
   log_.TraceSql = command.value("sql", log_.TraceSql);

@@ -1,4 +1,4 @@
-#include <QGuiApplication>
+#include <QApplication>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "desk/driver/Script.h"
+#include "desk/qt/Theme.h"
 
 namespace {
 
@@ -85,10 +86,12 @@ int main(int count, char** words) {
     std::cerr << kUsage;
     return Script::kUnusable;
   }
-  // Pages and widths need Qt's fonts, but no screen.
+  // Pages, widths and pictures need Qt's fonts and widgets, but no screen.
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  setenv("QT_FONT_DPI", "96", 1);
   SetRuntimeFolder();
-  const QGuiApplication application(count, words);
+  QApplication application(count, words);
+  quillon::Theme::Apply(application);
   try {
     if (arguments.script.empty()) return Drive(arguments, std::cin);
     std::ifstream file(arguments.script);

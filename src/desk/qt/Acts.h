@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+
+namespace quillon {
+
+/// What a person did in a window, on its way to the model. Nothing that a form throws gets back into the
+/// toolkit's event loop.
+class Acts {
+ public:
+  /// Runs the act by the runtime, then the keys that it queued. What a person could not do is passed over.
+  static void Run(const std::function<void()>& act);
+
+  /// Called after each act, to bring the windows up to date.
+  static void SetAfterwards(std::function<void()> afterwards);
+};
+
+}  // namespace quillon

@@ -1,0 +1,44 @@
+#include "desk/qt/DeskArea.h"
+
+#include "desk/qt/FormView.h"
+
+namespace quillon {
+
+DeskArea::DeskArea(QWidget* parent) : QScrollArea(parent), ground_(new QWidget) {
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidget(ground_);
+}
+
+void DeskArea::Bring(FormView& view) {
+  views_.removeAll(&view);
+  views_.append(&view);
+  if (view.parentWidget() != ground_) view.setParent(ground_);
+  ShowTop();
+}
+
+void DeskArea::Remove(FormView& view) {
+  views_.removeAll(&view);
+  view.hide();
+  ShowTop();
+}
+
+FormView* DeskArea::Top() const { return views_.isEmpty() ? nullptr : views_.last(); }
+
+void DeskArea::ShowTop() {
+  FormView* const top = Top();
+  const QSize room = viewport()->size();
+  ground_->resize(top != nullptr ? top->size().expandedTo(room) : room);
+  if (top != nullptr) top->show();
+  for (FormView* view : views_) {
+    if (view != top) view->hide();
+  }
+}
+
+void DeskArea::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  ShowTop();
+  if (OnResized) OnResized();
+}
+
+}  // namespace quillon

@@ -1,0 +1,160 @@
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "desk/qt/Adapter.h"
+#include "desk/qt/DateDialog.h"
+#include "desk/qt/DeskArea.h"
+#include "desk/qt/DeskWindow.h"
+#include "desk/qt/FormView.h"
+#include "desk/qt/GridWidget.h"
+#include "desk/qt/MessageDialog.h"
+#include "desk/qt/PageView.h"
+#include "desk/qt/PreviewWindow.h"
+#include "desk/qt/QtRuntime.h"
+#include "desk/sample/SampleFirm.h"
+#include "host/CGridPlus.h"
+#include "host/ISession.h"
+#include "host/Text.h"
+#include "tests/support/TempFolder.h"
+
+namespace quillon {
+namespace {
+
+constexpr int kCurrentAccount = 101;
+constexpr int kCleared = 27;
+
+/// The whole desk on a firm of its own, worked with by keys.
+class DeskTest : public testing::Test {
+ protected:
+  DeskTest() : runtime_(folder_.Path().string()), window_(runtime_, "") {
+    MakeSampleFirm(folder_.Path() / "firm", {.Years = {2024}, .Vouchers = 120});
+    window_.show();
+    EXPECT_EQ(window_.OpenFirm(QString::fromStdString(folder_.File("firm"))), "");
+    QApplication::processEvents();
+  }
+
+  static void Soon(const std::function<void()>& act) { QTimer::singleShot(0, qApp, act); }
+
+  Form& Top() { return *runtime_.ActiveForm(); }
+
+  void Press(Qt::Key key) {
+    QWidget* const focused = runtime_.TopView()->focusWidget();
+    QTest::keyClick(focused != nullptr ? focused : runtime_.TopView(), key);
+  }
+  void Type(const char* text) {
+    for (const char* c = text; *c != '\0'; ++c) {
+      QWidget* const focused = runtime_.TopView()->focusWidget();
+      QTest::keyClick(focused != nullptr ? focused : runtime_.TopView(), *c);
+    }
+  }
+
+  /// The statement of the current account, and the reconciliation on it by its key.
+  CGridPlus& OpenWorkbench() {
+    const FormPtr statement = gApp->GetForm("Account");
+    statement->Set("AccountCode", kCurrentAccount);
+    gApp->ShowForm(statement);
+    Press(Qt::Key_F6);
+    EXPECT_EQ(Top().Name(), "frmAcReconciliation");
+    return dynamic_cast<CGridPlus&>(Top().ControlAt("Grid"));
+  }
+
+  TempFolder folder_;
+  QtRuntime runtime_;
+  DeskWindow window_;
+};
+
+/// The message that shows, which the key answers.
+QString AnswerMessage(Qt::Key key) {
+  auto* const box = dynamic_cast<MessageDialog*>(QApplication::activeModalWidget());
+  if (box == nullptr) return QStringLiteral("no message");
+  const QString text = box->accessibleDescription();
+  QTest::keyClick(box->focusWidget(), key);
+  return text;
+}
+
+TEST_F(DeskTest, EntriesAreMarkedByKeysAlone) {
+  CGridPlus& grid = OpenWorkbench();
+  EXPECT_EQ(runtime_.TopView()->size(), runtime_.TopView()->parentWidget()->size())
+      << "a full screen fills the area";
+  int row = grid.FixedRows;
+  while (Val(grid.Cell(row, 0)) == 0) ++row;
+  grid.UserMoveTo(row, kCleared);
+  Type("5");
+  ASSERT_TRUE(grid.EditMode());
+  auto* const editor = dynamic_cast<QLineEdit*>(runtime_.TopView()->focusWidget());
+  ASSERT_NE(editor, nullptr) << "the cell's editor has the focus";
+  EXPECT_EQ(editor->text(), "5");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(grid.TextMatrix(row, kCleared).substr(0, 3), "05-");
+  EXPECT_TRUE(grid.EditMode()) << "Enter goes on to the next row";
+  EXPECT_EQ(grid.EditRow(), row + 1);
+  // A date that there is not keeps the editor open, and its text.
+  QString told;
+  Soon([&] { told = AnswerMessage(Qt::Key_Return); });
+  Type("31/2");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(told, "Invalid Date");
+  EXPECT_TRUE(grid.EditMode());
+  EXPECT_EQ(grid.EditBox.Text(), "31/2");
+  EXPECT_EQ(editor->text(), "31/2");
+  for (int i = 0; i < 4; ++i) Press(Qt::Key_Backspace);
+  Type("=");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(grid.TextMatrix(row + 1, kCleared), grid.TextMatrix(row, kCleared));
+  const std::string voucher = grid.TextMatrix(row, 0);
+  EXPECT_TRUE(gSession->MainDb().RowExists("Select * from FAData where VoucherID=" + voucher +
+                                           " and dcd=101 and dBankDate is not null"));
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Top().Name(), "frmAccount");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(runtime_.ActiveForm(), nullptr);
+}
+
+TEST_F(DeskTest, TheStatementIsAskedForADateAndShownOnPages) {
+  OpenWorkbench();
+  Soon([&] {
+    auto* const dialog = dynamic_cast<DateDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    auto* const field = dynamic_cast<QLineEdit*>(dialog->focusWidget());
+    ASSERT_NE(field, nullptr);
+    QTest::keyClicks(field, "31/2");
+    QTest::keyClick(field, Qt::Key_F7);
+    EXPECT_TRUE(dialog->isVisible()) << "no date keeps the user in the field";
+    EXPECT_EQ(dialog->focusWidget(), field);
+    field->selectAll();
+    QTest::keyClicks(field, "30/6");
+    QTest::keyClick(field, Qt::Key_F7);
+    EXPECT_FALSE(dialog->isVisible());
+  });
+  Press(Qt::Key_F6);
+  auto& statement = dynamic_cast<CGridPlus&>(Top().ControlAt("GridStatement"));
+  ASSERT_TRUE(statement.Visible);
+  EXPECT_NE(statement.Title().find("30"), std::string::npos);
+  std::size_t pages = 0;
+  bool found = false;
+  Soon([&] {
+    auto* const preview = dynamic_cast<PreviewWindow*>(QApplication::activeModalWidget());
+    ASSERT_NE(preview, nullptr);
+    pages = preview->Pages().Pages();
+    found = preview->Pages().FindNext(QStringLiteral("balance"));
+    QTest::keyClick(preview, Qt::Key_Escape);
+  });
+  Press(Qt::Key_F8);
+  EXPECT_GE(pages, 1U);
+  EXPECT_TRUE(found);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(DeskTest, AFirmThatDoesNotOpenIsToldInPlainWords) {
+  const QString fault = window_.OpenFirm(QString::fromStdString(folder_.File("nowhere")));
+  EXPECT_TRUE(fault.contains(QStringLiteral("nowhere"))) << fault.toStdString();
+  EXPECT_FALSE(window_.Books().HasFirm());
+  EXPECT_EQ(window_.OpenFirm(QString::fromStdString(folder_.File("firm"))), "");
+  EXPECT_TRUE(window_.windowTitle().contains(QStringLiteral("Sharda")));
+}
+
+}  // namespace
+}  // namespace quillon
