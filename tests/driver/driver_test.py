@@ -99,7 +99,10 @@ class Driver(unittest.TestCase):
         self.assertEqual(COMMANDS - used, set())
 
     def test_reconcile(self):
-        self.run_script("reconcile.jsonl", 0)
+        _, answers = self.run_script("reconcile.jsonl", 0)
+        picture = next(answer["file"] for answer in answers if "file" in answer)
+        with open(picture, "rb") as file:
+            self.assertEqual(file.read(8), b"\x89PNG\r\n\x1a\n")
 
     def test_refusals(self):
         lines, _ = self.run_script("refusals.jsonl", 1)

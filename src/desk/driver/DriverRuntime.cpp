@@ -1,6 +1,7 @@
 #include "desk/driver/DriverRuntime.h"
 
 #include <cmath>
+#include <filesystem>
 
 #include "desk/print/Spooler.h"
 #include "desk/print/TextMeasure.h"
@@ -30,7 +31,11 @@ Date AnsweredDate(const Json& answer, const char* name) {
 }  // namespace
 
 DriverRuntime::DriverRuntime(EventLog& log, const std::string& outputFolder)
-    : log_(log), printer_(outputFolder, &log) {}
+    : log_(log), outputFolder_(outputFolder), printer_(outputFolder, &log) {}
+
+std::string DriverRuntime::InOutput(const std::string& file) const {
+  return (std::filesystem::path(outputFolder_) / file).string();
+}
 
 void DriverRuntime::ShowBusy(bool on, const std::string& text) {
   log_.Write({{"event", "busy"}, {"on", on}, {"text", text}});

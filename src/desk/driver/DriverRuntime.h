@@ -20,6 +20,9 @@ class DriverRuntime : public Runtime {
 
   Answers Laid;
 
+  /// A file of the output folder; a whole path stays what it is.
+  std::string InOutput(const std::string& file) const;
+
   /// Carries out the next command; false at the end of the script.
   std::function<bool()> NextCommand;
 
@@ -67,6 +70,7 @@ class DriverRuntime : public Runtime {
   std::optional<Json> Answer(const std::string& kind, Json& event);
 
   EventLog& log_;
+  std::string outputFolder_;
   PdfPrinter printer_;
   std::string clipboard_;
   OpenMenu* menu_ = nullptr;

@@ -126,8 +126,9 @@ Json Script::DoSetting(const Json& command) {
 Json Script::DoPicture(const Json& command) {
   const FormPtr form = Current(command);
   if (!form->IsShownToUser()) throw Refused("The form " + form->Name() + " is not shown");
-  FormPicture::Save(form, command.at("file").get<std::string>());
-  return Json::object();
+  const std::string file = runtime_.InOutput(command.at("file").get<std::string>());
+  FormPicture::Save(form, file);
+  return {{"file", file}};
 }
 
 Json Script::DoTrace(const Json& command) {
