@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QSettings>
 #include <QStackedLayout>
 #include <QStandardPaths>
@@ -68,7 +69,9 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   options.OutputFolder = reports_.path().toStdString();
   options.Reports = this;
   desk_ = std::make_unique<Desk>(options);
-  resize(Scale::Px(kWidth * Runtime::kTwipsPerPixel), Scale::Px(kHeight * Runtime::kTwipsPerPixel));
+  const QSize wanted(Scale::Px(kWidth * Runtime::kTwipsPerPixel),
+                     Scale::Px(kHeight * Runtime::kTwipsPerPixel));
+  resize(wanted.boundedTo(screen()->availableSize()));
   ShowState();
 }
 
