@@ -59,6 +59,11 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(isDown() ? Theme::AccentSoft() : Theme::Surface());
     painter.drawRoundedRect(box, kCorner, kCorner);
     Theme::DrawEdge(painter, box, focused_ || hasFocus());
+    if (isDefault()) {  // Enter presses it from every field
+      painter.setBrush(Qt::NoBrush);
+      painter.setPen(Theme::Accent());
+      painter.drawRoundedRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+    }
   }
   const QFontMetrics metrics(font());
   const int iconSize = icon_.isEmpty() ? 0 : Scale::Px(kIconTwips);
