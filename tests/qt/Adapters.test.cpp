@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -194,6 +195,26 @@ TEST_F(AdaptersTest, AGridIsWalkedSelectedAndEdited) {
   EXPECT_FALSE(form_->Grid.EditMode());
   EXPECT_EQ(form_->Grid.TextMatrix(3, 2), "9.50");
   EXPECT_FALSE(editor->isVisible());
+}
+
+TEST_F(AdaptersTest, AScreenReaderHearsWhatTheControlsAre) {
+  form_->txpField.Caption = "Rate of Interest";
+  form_->Grid.Title = "Entries";
+  form_->Grid.SetTextMatrix(0, 1, "Cleared On");
+  form_->Grid.SetTextMatrix(3, 1, "05-Apr-2024");
+  ClickCell(3, 1);
+  const auto heard = [](QWidget& widget) { return QAccessible::queryAccessibleInterface(&widget); };
+  QAccessibleInterface* const grid = heard(WidgetOf<QWidget>(form_->Grid));
+  EXPECT_EQ(grid->role(), QAccessible::Table);
+  EXPECT_EQ(grid->text(QAccessible::Name), "Entries");
+  EXPECT_EQ(grid->text(QAccessible::Description), "Row 3, Cleared On: 05-Apr-2024");
+  QAccessibleInterface* const field = heard(*WidgetOf<QWidget>(form_->txpField).findChild<QLineEdit*>());
+  EXPECT_EQ(field->role(), QAccessible::EditableText);
+  EXPECT_EQ(field->text(QAccessible::Name), "Rate of Interest");
+  EXPECT_EQ(heard(WidgetOf<QWidget>(form_->chkOn))->role(), QAccessible::CheckBox);
+  const auto buttons = WidgetOf<QWidget>(form_->BtnBar1).findChildren<QPushButton*>();
+  EXPECT_EQ(heard(*buttons[0])->role(), QAccessible::Button);
+  EXPECT_EQ(heard(*buttons[0])->text(QAccessible::Name), "F2: One");
 }
 
 TEST_F(AdaptersTest, FiftyThousandHiddenRowsArePassedOver) {

@@ -135,6 +135,7 @@ TEST_F(DeskTest, TheStatementIsAskedForADateAndShownOnPages) {
   EXPECT_NE(statement.Title().find("30"), std::string::npos);
   std::size_t pages = 0;
   bool found = false;
+  Press(Qt::Key_F8);
   Soon([&] {
     auto* const preview = dynamic_cast<PreviewWindow*>(QApplication::activeModalWidget());
     ASSERT_NE(preview, nullptr);
@@ -142,7 +143,7 @@ TEST_F(DeskTest, TheStatementIsAskedForADateAndShownOnPages) {
     found = preview->Pages().FindNext(QStringLiteral("balance"));
     QTest::keyClick(preview, Qt::Key_Escape);
   });
-  Press(Qt::Key_F8);
+  QApplication::processEvents();
   EXPECT_GE(pages, 1U);
   EXPECT_TRUE(found);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);

@@ -2,9 +2,11 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 
 #include "desk/qt/PushButton.h"
 #include "desk/qt/Scale.h"
+#include "desk/qt/Theme.h"
 
 namespace quillon {
 
@@ -72,6 +74,19 @@ void DeskDialog::keyPressEvent(QKeyEvent* event) {
 void DeskDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   activateWindow();
+}
+
+void DeskDialog::done(int result) {
+  QDialog::done(result);
+  // Where no window manager does it, the window below would stay without the keys.
+  if (parentWidget() != nullptr) parentWidget()->activateWindow();
+}
+
+void DeskDialog::paintEvent(QPaintEvent* event) {
+  QDialog::paintEvent(event);
+  QPainter painter(this);
+  painter.setPen(Theme::Border());
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 }  // namespace quillon

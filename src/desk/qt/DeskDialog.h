@@ -32,7 +32,9 @@ class DeskDialog : public QDialog {
   virtual bool Check() { return true; }
 
   void keyPressEvent(QKeyEvent* event) override;
+  void done(int result) override;
   void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void Confirm();

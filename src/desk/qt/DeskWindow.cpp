@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QSettings>
 #include <QStackedLayout>
 #include <QStandardPaths>
@@ -59,13 +60,18 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   runtime_.OnBusy = [this](bool on, const std::string& text) { ShowBusy(on, text); };
   start_->OnOpen = [this] { AskFirm(); };
   start_->OnSample = [this] { OpenSample(); };
+  start_->OnStatement = [this] { OpenStatement(); };
+  start_->OnAccounts = [this] { OpenAccount(); };
+  runtime_.OnTopChanged = [this] { ShowPage(); };
   area_->OnResized = [this] { TakeArea(); };
   Desk::Options options;
   options.ModulePath = modulePath;
   options.OutputFolder = reports_.path().toStdString();
   options.Reports = this;
   desk_ = std::make_unique<Desk>(options);
-  resize(Scale::Px(kWidth * Runtime::kTwipsPerPixel), Scale::Px(kHeight * Runtime::kTwipsPerPixel));
+  const QSize wanted(Scale::Px(kWidth * Runtime::kTwipsPerPixel),
+                     Scale::Px(kHeight * Runtime::kTwipsPerPixel));
+  resize(wanted.boundedTo(screen()->availableSize()));
   ShowState();
 }
 
@@ -74,6 +80,7 @@ DeskWindow::~DeskWindow() {
   desk_->CloseFirm();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   runtime_.OnBusy = {};
+  runtime_.OnTopChanged = {};
   runtime_.SetArea(nullptr);
 }
 
@@ -207,8 +214,15 @@ void DeskWindow::OnReport(const ReportShown& report) {
     Tell(QStringLiteral("The lines lie in the file\n%1").arg(QString::fromStdString(report.File)));
     return;
   }
-  PreviewWindow preview(ReportCopy::Of(report), this);
-  if (report.Print) {
+  // The preview waits until the form is done with its report, and may be used again.
+  const auto copy = std::make_shared<ReportCopy>(ReportCopy::Of(report));
+  QMetaObject::invokeMethod(
+      this, [this, copy, print = report.Print] { Preview(std::move(*copy), print); }, Qt::QueuedConnection);
+}
+
+void DeskWindow::Preview(ReportCopy report, bool print) {
+  PreviewWindow preview(std::move(report), this);
+  if (print) {
     preview.Print();
   } else {
     preview.exec();
@@ -223,11 +237,11 @@ void DeskWindow::ShowBusy(bool on, const std::string& text) {
 
 void DeskWindow::ShowState() {
   const bool open = desk_->HasFirm();
-  static_cast<QStackedLayout*>(centralWidget()->layout())
-      ->setCurrentWidget(open ? static_cast<QWidget*>(area_) : start_);
   for (QAction* act : firmActs_) act->setEnabled(open);
   if (!open) {
     firm_->clear();
+    start_->ShowFirm(QString());
+    ShowPage();
     setWindowTitle(QStringLiteral("Quillon"));
     return;
   }
@@ -237,6 +251,14 @@ void DeskWindow::ShowState() {
                      .arg(name, YearName(session.Year().StartYear()),
                           QString::fromStdString(session.CurrentUser().Name)));
   setWindowTitle(name + QStringLiteral(" - Quillon"));
+  start_->ShowFirm(name);
+  ShowPage();
+}
+
+void DeskWindow::ShowPage() {
+  const bool screen = area_->Top() != nullptr;
+  static_cast<QStackedLayout*>(centralWidget()->layout())
+      ->setCurrentWidget(screen ? static_cast<QWidget*>(area_) : start_);
 }
 
 void DeskWindow::SetZoom(int percent) {

@@ -39,6 +39,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
 
  private:
   void OnReport(const ReportShown& report) override;
+  void Preview(ReportCopy report, bool print);
   void BuildMenus();
   QMenu* AddMenu(const QString& title);
   void BuildFirmMenu();
@@ -62,6 +63,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   void ShowAbout();
   void ShowBusy(bool on, const std::string& text);
   void ShowState();
+  void ShowPage();
   void TakeArea();
   void Tell(const QString& text);
   ScreenArea AreaNow() const;

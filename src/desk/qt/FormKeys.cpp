@@ -93,8 +93,7 @@ bool FormKeys::eventFilter(QObject* watched, QEvent* event) {
     const auto& key = *static_cast<QKeyEvent*>(event);
     FormView* const view = ViewOf(watched);
     if (view == nullptr || BelongsToField(*watched, key)) return false;
-    view->TakeKey(key);
-    return true;
+    return view->TakeKey(key);
   }
   if (event->type() == QEvent::InputMethod) {
     FormView* const view = ViewOf(watched);

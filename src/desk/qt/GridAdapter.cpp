@@ -1,5 +1,8 @@
 #include "desk/qt/GridAdapter.h"
 
+#include <QApplication>
+#include <QScrollBar>
+
 #include "desk/qt/Acts.h"
 #include "desk/qt/BoxEdit.h"
 #include "desk/qt/GridWidget.h"
@@ -48,6 +51,9 @@ QWidget* GridAdapter::FocusWidget() {
 void GridAdapter::Dress() {
   Adapter::Dress();
   Widget().setAutoFillBackground(false);
+  // The form's colours are the cells'; the bars keep the desk's.
+  shown_->verticalScrollBar()->setPalette(QApplication::palette());
+  shown_->horizontalScrollBar()->setPalette(QApplication::palette());
 }
 
 void GridAdapter::Draw() { shown_->Touch(); }

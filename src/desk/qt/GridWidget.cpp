@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "desk/qt/GridAccessible.h"
 #include "desk/qt/Scale.h"
 #include "desk/qt/Theme.h"
 #include "host/CGridPlus.h"
@@ -40,6 +41,7 @@ Qt::Alignment AlignmentOf(int alignment) {
 GridWidget::GridWidget(GridModel& model, QWidget* parent) : QAbstractScrollArea(parent), model_(model) {
   setFrameShape(QFrame::NoFrame);
   viewport()->setAutoFillBackground(false);
+  GridAccessible::Offer();
 }
 
 void GridWidget::Touch() {
@@ -63,6 +65,8 @@ void GridWidget::Settle() {
   if (cursor != cursor_) {
     cursor_ = cursor;
     ScrollTo(cursor.row, cursor.col);
+    QAccessibleEvent moved(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&moved);
   }
   if (OnMoved) OnMoved();
   viewport()->update();
@@ -127,6 +131,19 @@ QRect GridWidget::CellRect(int row, int col) const {
   if (col < 0 || col >= layout_.Cols() || layout_.ColWidth(col) == 0) return {};
   const int y = Body().top() + layout_.RowTop(place) - verticalScrollBar()->value();
   return {X(col), y, layout_.ColWidth(col), layout_.RowHeight(place)};
+}
+
+QString GridWidget::CursorText() const {
+  const int row = model_.Row;
+  if (row < model_.FixedRows || row >= model_.Rows || model_.Col >= model_.Cols) return {};
+  QStringList cells;
+  for (int col = 0; col < model_.Cols; ++col) {
+    const bool wanted = model_.IsColVisible(model_.Col) ? col == model_.Col : model_.IsColVisible(col);
+    if (!wanted || model_.Cell(row, col).empty()) continue;
+    const std::string title = model_.FixedRows > 0 ? model_.TextMatrix(0, col) + ": " : std::string();
+    cells << QString::fromStdString(title + model_.TextMatrix(row, col));
+  }
+  return QStringLiteral("Row %1, %2").arg(row).arg(cells.join(QStringLiteral(", ")));
 }
 
 GridWidget::CellPlace GridWidget::CellAt(const QPoint& point) const {

@@ -34,6 +34,9 @@ class GridWidget : public QAbstractScrollArea {
   /// In the viewport; also of a cell that is scrolled out of sight. Empty for a hidden one.
   QRect CellRect(int row, int col) const;
 
+  /// The cursor's row and cell in words: "Row 3, Cleared On: 05-Apr-2024".
+  QString CursorText() const;
+
   /// The part of the viewport in which rows scroll.
   QRect Body() const;
 

@@ -1,5 +1,6 @@
 #include "desk/qt/PageView.h"
 
+#include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
@@ -14,6 +15,7 @@ namespace quillon {
 namespace {
 
 constexpr int kGap = 16;
+constexpr int kTwipsPerMetre = 56693;
 
 }  // namespace
 
@@ -75,6 +77,20 @@ QRect PageView::Mark() const {
       .adjusted(-2, 0, 2, 0);
 }
 
+QImage PageView::Draw(std::size_t page, const QSize& size) const {
+  const qreal ratio = devicePixelRatioF();
+  QImage sheet(size * ratio, QImage::Format_ARGB32_Premultiplied);
+  sheet.fill(Qt::transparent);
+  // A dot of the picture stands for a twip, so that fonts keep their size among them.
+  sheet.setDotsPerMeterX(kTwipsPerMetre);
+  sheet.setDotsPerMeterY(kTwipsPerMetre);
+  QPainter painter(&sheet);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  painter.scale(PixelsPerTwip() * ratio, PixelsPerTwip() * ratio);
+  ReportPainter::Paint(pages_, page, painter);
+  return sheet;
+}
+
 void PageView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -86,12 +102,7 @@ void PageView::paintEvent(QPaintEvent* event) {
     painter.setPen(Theme::Border());
     painter.drawRect(sheet.adjusted(0, 0, -1, -1));
     if (marked_ && page == markedPage_) painter.fillRect(Mark(), QColor(0xFF, 0xE0, 0x80));
-    painter.save();
-    painter.setClipRect(sheet);
-    painter.translate(sheet.topLeft());
-    painter.scale(PixelsPerTwip(), PixelsPerTwip());
-    ReportPainter::Paint(pages_, page, painter);
-    painter.restore();
+    painter.drawImage(sheet, Draw(page, sheet.size()));
   }
 }
 

@@ -33,6 +33,7 @@ class PageView : public QWidget {
  private:
   double PixelsPerTwip() const;
   int PageHeight() const;
+  QImage Draw(std::size_t page, const QSize& size) const;
 
   const ReportPages& pages_;
   int percent_ = 100;

@@ -205,4 +205,10 @@ void PreviewWindow::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+void PreviewWindow::done(int result) {
+  QDialog::done(result);
+  // Where no window manager does it, the window below would stay without the keys.
+  if (parentWidget() != nullptr) parentWidget()->activateWindow();
+}
+
 }  // namespace quillon

@@ -31,6 +31,7 @@ class PreviewWindow : public QDialog {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void done(int result) override;
 
  private:
   void AddTool(QHBoxLayout& tools, const QString& caption, const QString& icon,

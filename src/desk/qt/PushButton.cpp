@@ -33,6 +33,7 @@ void PushButton::SetCaption(const QString& caption) {
 
 void PushButton::SetIconKey(const QString& iconKey) {
   icon_ = Icons::Has(iconKey) ? iconKey : QString();
+  updateGeometry();
   update();
 }
 
@@ -44,7 +45,8 @@ void PushButton::SetFocused(bool focused) {
 
 QSize PushButton::sizeHint() const {
   const QFontMetrics metrics(font());
-  const int width = metrics.horizontalAdvance(key_ + words_) + 6 * Gap();
+  const int icon = icon_.isEmpty() ? 0 : Scale::Px(kIconTwips) + Gap();
+  const int width = metrics.horizontalAdvance(key_ + words_) + icon + 5 * Gap();
   return {std::max(width, Scale::Px(1500)), metrics.height() + 3 * Gap()};
 }
 
@@ -56,7 +58,12 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(isDown() ? Theme::AccentSoft() : Theme::Surface());
     painter.drawRoundedRect(box, kCorner, kCorner);
-    Theme::DrawEdge(painter, box, focused_ || hasFocus() || isDefault());
+    Theme::DrawEdge(painter, box, focused_ || hasFocus());
+    if (isDefault()) {  // Enter presses it from every field
+      painter.setBrush(Qt::NoBrush);
+      painter.setPen(Theme::Accent());
+      painter.drawRoundedRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+    }
   }
   const QFontMetrics metrics(font());
   const int iconSize = icon_.isEmpty() ? 0 : Scale::Px(kIconTwips);

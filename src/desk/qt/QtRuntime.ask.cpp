@@ -34,9 +34,13 @@ QString FilterOf(const std::string& filter) {
 
 }  // namespace
 
-int QtRuntime::AskMessage(const MessageRequest& request) { return MessageDialog(request, TopWindow()).Ask(); }
+int QtRuntime::AskMessage(const MessageRequest& request) {
+  const PointerRest rest(*this);
+  return MessageDialog(request, TopWindow()).Ask();
+}
 
 bool QtRuntime::AskInput(const InputRequest& request, std::string& reply) {
+  const PointerRest rest(*this);
   InputDialog dialog(request, TopWindow());
   if (dialog.exec() != QDialog::Accepted) return false;
   reply = dialog.Text();
@@ -44,6 +48,7 @@ bool QtRuntime::AskInput(const InputRequest& request, std::string& reply) {
 }
 
 bool QtRuntime::AskFile(const FileRequest& request, std::string& path) {
+  const PointerRest rest(*this);
   const QString title = QString::fromStdString(request.Title);
   const QString start = QString::fromStdString(request.Path);
   const QString filter = FilterOf(request.Filter);
@@ -55,6 +60,7 @@ bool QtRuntime::AskFile(const FileRequest& request, std::string& path) {
 }
 
 bool QtRuntime::AskFont(Font& font) {
+  const PointerRest rest(*this);
   bool taken = false;
   QFont start(QString::fromStdString(font.Name));
   start.setPointSizeF(font.Size);
@@ -69,6 +75,7 @@ bool QtRuntime::AskFont(Font& font) {
 }
 
 bool QtRuntime::AskDate(DateRequest& request) {
+  const PointerRest rest(*this);
   DateDialog dialog(request, TopWindow());
   if (dialog.exec() != QDialog::Accepted) return false;
   request.First = dialog.First();
@@ -77,6 +84,7 @@ bool QtRuntime::AskDate(DateRequest& request) {
 }
 
 bool QtRuntime::AskPick(const CPickList& list, std::size_t& item) {
+  const PointerRest rest(*this);
   PickDialog dialog(list, TopWindow());
   if (dialog.exec() != QDialog::Accepted) return false;
   item = dialog.Item();
@@ -84,6 +92,7 @@ bool QtRuntime::AskPick(const CPickList& list, std::size_t& item) {
 }
 
 bool QtRuntime::AskParties(PartiesRequest& request) {
+  const PointerRest rest(*this);
   PartyDialog dialog(request, TopWindow());
   if (dialog.exec() != QDialog::Accepted) return false;
   request = dialog.Answer();
@@ -91,6 +100,7 @@ bool QtRuntime::AskParties(PartiesRequest& request) {
 }
 
 bool QtRuntime::AskPrint(PrintSetup& setup) {
+  const PointerRest rest(*this);
   PrintDialog dialog(setup, Printers(), TopWindow());
   if (dialog.exec() != QDialog::Accepted) return false;
   dialog.TakeInto(setup);
@@ -98,6 +108,7 @@ bool QtRuntime::AskPrint(PrintSetup& setup) {
 }
 
 int QtRuntime::AskPopup(Form& form, Menu& menu, long left, long top) {
+  const PointerRest rest(*this);
   QMenu shown(TopWindow());
   for (const std::string& item : menu.Items) shown.addAction(QString::fromStdString(item));
   if (!shown.actions().isEmpty()) shown.setActiveAction(shown.actions().front());

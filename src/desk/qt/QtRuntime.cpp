@@ -162,13 +162,10 @@ void QtRuntime::Repaint() {
 
 void QtRuntime::Wait(const std::function<bool()>& done) {
   ++waits_;
-  // A person is asked, so the pointer of the job that asks rests.
-  const int pointer = MousePointer();
-  SetMousePointer(kPointerDefault);
+  const PointerRest rest(*this);
   QEventLoop loop;
   Settle();
   while (!done()) loop.processEvents(QEventLoop::WaitForMoreEvents);
-  SetMousePointer(pointer);
   --waits_;
 }
 

@@ -69,6 +69,21 @@ class QtRuntime : public Runtime, private PrintObserver {
   void Wait(const std::function<bool()>& done) override;
 
  private:
+  /// While a person is asked, the pointer of the job that asks rests.
+  class PointerRest {
+   public:
+    explicit PointerRest(Runtime& runtime) : runtime_(runtime), before_(runtime.MousePointer()) {
+      runtime_.SetMousePointer(kPointerDefault);
+    }
+    PointerRest(const PointerRest&) = delete;
+    PointerRest& operator=(const PointerRest&) = delete;
+    ~PointerRest() { runtime_.SetMousePointer(before_); }
+
+   private:
+    Runtime& runtime_;
+    int before_;
+  };
+
   void OnText(int, double, double, const std::string&, const Font&) override {}
   void OnPrinted(const std::string& file, int pages, int paper, int orientation) override;
   void ShowView(Form& form);

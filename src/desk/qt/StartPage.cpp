@@ -8,24 +8,34 @@
 
 namespace quillon {
 
-StartPage::StartPage(QWidget* parent) : QWidget(parent) {
+namespace {
+
+constexpr double kTitleSize = 20;
+
+}  // namespace
+
+StartPage::StartPage(QWidget* parent) : QWidget(parent), title_(new QLabel(this)), words_(new QLabel(this)) {
   auto* const all = new QVBoxLayout(this);
   all->setAlignment(Qt::AlignCenter);
   all->setSpacing(Scale::Px(180));
-  auto* const title = new QLabel(QStringLiteral("Quillon"), this);
   Font large;
-  large.Size = 24;
-  title->setFont(Scale::FontOf(large));
-  title->setAlignment(Qt::AlignCenter);
-  all->addWidget(title);
-  auto* const words = new QLabel(QStringLiteral("No firm is open"), this);
-  words->setAlignment(Qt::AlignCenter);
-  all->addWidget(words);
-  AddButton(QStringLiteral("Open a firm"), QStringLiteral("open"), [this] { OnOpen(); });
-  AddButton(QStringLiteral("Look at the sample firm"), QStringLiteral("desk"), [this] { OnSample(); });
+  large.Size = kTitleSize;
+  title_->setFont(Scale::FontOf(large));
+  for (QLabel* label : {title_, words_}) {
+    label->setAlignment(Qt::AlignCenter);
+    all->addWidget(label);
+  }
+  open_ = AddButton(QStringLiteral("Open a firm"), QStringLiteral("open"), [this] { OnOpen(); });
+  sample_ =
+      AddButton(QStringLiteral("Look at the sample firm"), QStringLiteral("desk"), [this] { OnSample(); });
+  statement_ = AddButton(QStringLiteral("Statement of Account"), QStringLiteral("acstatement"),
+                         [this] { OnStatement(); });
+  accounts_ = AddButton(QStringLiteral("Accounts"), QStringLiteral("customers"), [this] { OnAccounts(); });
+  ShowFirm(QString());
 }
 
-void StartPage::AddButton(const QString& caption, const QString& icon, const std::function<void()>& pressed) {
+PushButton* StartPage::AddButton(const QString& caption, const QString& icon,
+                                 const std::function<void()>& pressed) {
   auto* const button = new PushButton(this);
   button->SetCaption(caption);
   button->SetIconKey(icon);
@@ -33,6 +43,18 @@ void StartPage::AddButton(const QString& caption, const QString& icon, const std
   button->setAutoDefault(true);
   connect(button, &QPushButton::clicked, this, pressed);
   layout()->addWidget(button);
+  return button;
+}
+
+void StartPage::ShowFirm(const QString& name) {
+  const bool open = !name.isEmpty();
+  title_->setText(open ? name : QStringLiteral("Quillon"));
+  words_->setText(open ? QStringLiteral("Where to?") : QStringLiteral("No firm is open"));
+  open_->setVisible(!open);
+  sample_->setVisible(!open);
+  statement_->setVisible(open);
+  accounts_->setVisible(open);
+  (open ? statement_ : open_)->setFocus();
 }
 
 }  // namespace quillon

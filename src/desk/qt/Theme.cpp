@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QPainter>
-#include <QStyleFactory>
 
+#include "desk/qt/DeskStyle.h"
 #include "desk/qt/Scale.h"
 
 namespace quillon {
@@ -16,7 +16,7 @@ constexpr double kCorner = 3;
 }  // namespace
 
 void Theme::Apply(QApplication& application) {
-  application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  application.setStyle(new DeskStyle);
   QPalette palette;
   palette.setColor(QPalette::Window, Window());
   palette.setColor(QPalette::WindowText, Text());

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace quillon {
+
+/// The toolkit's plain style, whose marks, arrows and bars grow with the desk's zoom.
+class DeskStyle : public QProxyStyle {
+ public:
+  DeskStyle();
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+};
+
+}  // namespace quillon
