@@ -99,8 +99,8 @@ class Driver(unittest.TestCase):
         self.assertEqual(COMMANDS - used, set())
 
     def test_reconcile(self):
-        _, answers = self.run_script("reconcile.jsonl", 0)
-        picture = next(answer["file"] for answer in answers if "file" in answer)
+        lines, _ = self.run_script("reconcile.jsonl", 0)
+        picture = next(line["file"] for line in lines if "done" in line and "file" in line)
         with open(picture, "rb") as file:
             self.assertEqual(file.read(8), b"\x89PNG\r\n\x1a\n")
 
