@@ -166,15 +166,12 @@ void frmAcReconciliation::PutCursorOnLastRow() {
 }
 
 void frmAcReconciliation::Grid_BeforeEdit(int row, int col, bool& cancel, std::string& action) {
-  if (row >= Grid.Rows) {
-    cancel = true;
-    action = "Stop";
-  } else if (col != kClearedEdit) {
-    cancel = true;
-  } else if (Val(Grid.Cell(row, kVoucherId)) == 0 || Grid.Cell(row, kBook) == books::kOpeningBook) {
-    cancel = true;
-    action = "Stop";
+  cancel = true;
+  if (row < Grid.Rows) {
+    if (col != kClearedEdit) return;
+    cancel = Val(Grid.Cell(row, kVoucherId)) == 0 || Grid.Cell(row, kBook) == books::kOpeningBook;
   }
+  if (cancel) action = "Stop";
 }
 
 void frmAcReconciliation::Grid_ValidateCell(int row, int col, std::string& text, bool& cancel) {

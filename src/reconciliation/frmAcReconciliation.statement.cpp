@@ -188,7 +188,7 @@ void frmAcReconciliation::AddStatementLine(CDataSet& line, const Section& sectio
 }
 
 std::string frmAcReconciliation::NarrationWithReference(CDataSet& line) {
-  const std::string narration = line.Field("Narration").ToText();
+  std::string narration = line.Field("Narration").ToText();
   if (!showReference_) return narration;
   std::int64_t code = 0;
   std::string text;

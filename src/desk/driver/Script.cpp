@@ -120,7 +120,7 @@ void Script::RequireFirm() const {
 FormPtr Script::Current(const Json& command) {
   RequireFirm();
   if (command.contains("form")) return log_.FormOf(command.at("form").get<std::string>());
-  const FormPtr form = runtime_.ActiveForm();
+  FormPtr form = runtime_.ActiveForm();
   if (!form) throw HostError("No form is shown");
   return form;
 }

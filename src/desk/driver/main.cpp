@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <unistd.h>
 
 #include "desk/driver/Script.h"
 #include "desk/qt/Theme.h"
+#include "desk/shell/RuntimeFolder.h"
 
 namespace {
 
@@ -48,17 +48,6 @@ bool Read(int count, char** words, Arguments& arguments) {
   return true;
 }
 
-/// Qt asks for a folder of the user's own, which only a desktop session makes.
-void SetRuntimeFolder() {
-  if (std::getenv("XDG_RUNTIME_DIR") != nullptr) return;
-  const std::filesystem::path folder =
-      std::filesystem::temp_directory_path() / ("quillon-" + std::to_string(getuid()));
-  std::error_code ignored;
-  std::filesystem::create_directory(folder, ignored);
-  std::filesystem::permissions(folder, std::filesystem::perms::owner_all, ignored);
-  setenv("XDG_RUNTIME_DIR", folder.c_str(), 0);
-}
-
 int Drive(const Arguments& arguments, std::istream& in) {
   std::filesystem::create_directories(arguments.out);
   EventLog log(std::cout);
@@ -89,7 +78,7 @@ int main(int count, char** words) {
   // Pages, widths and pictures need Qt's fonts and widgets, but no screen.
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   setenv("QT_FONT_DPI", "96", 1);
-  SetRuntimeFolder();
+  quillon::SetRuntimeFolder();
   QApplication application(count, words);
   quillon::Theme::Apply(application);
   try {

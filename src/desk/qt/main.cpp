@@ -4,12 +4,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <unistd.h>
 
 #include "desk/qt/DeskWindow.h"
 #include "desk/qt/QtRuntime.h"
 #include "desk/qt/Scale.h"
 #include "desk/qt/Theme.h"
+#include "desk/shell/RuntimeFolder.h"
 
 namespace {
 
@@ -46,17 +46,6 @@ bool Read(const QStringList& words, Arguments& arguments) {
   return true;
 }
 
-/// Qt asks for a folder of the user's own, which only a desktop session makes.
-void SetRuntimeFolder() {
-  if (std::getenv("XDG_RUNTIME_DIR") != nullptr) return;
-  const std::filesystem::path folder =
-      std::filesystem::temp_directory_path() / ("quillon-" + std::to_string(getuid()));
-  std::error_code ignored;
-  std::filesystem::create_directory(folder, ignored);
-  std::filesystem::permissions(folder, std::filesystem::perms::owner_all, ignored);
-  setenv("XDG_RUNTIME_DIR", folder.c_str(), 0);
-}
-
 /// Where what is printed to a file is found again.
 std::string PrintFolder() {
   const QString folder =
@@ -69,7 +58,7 @@ std::string PrintFolder() {
 }  // namespace
 
 int main(int count, char** words) {
-  SetRuntimeFolder();
+  quillon::SetRuntimeFolder();
   setenv("QT_FONT_DPI", "96", 0);  // the forms' fonts and twips must keep their proportion
   QApplication application(count, words);
   QApplication::setOrganizationName(QStringLiteral("Quillon"));
