@@ -27,6 +27,7 @@ MAY_SEE = {
     "desk/sample": ["host", "desk/firebird", "desk/firm", "desk/services"],
     "desk/shell": ["host", "desk/screens", "desk/print", "desk/services", "desk/firm", "desk/firebird"],
     "desk/qt": ["host", "desk/shell", "desk/screens", "desk/print", "desk/services", "desk/firebird", "desk/sample"],
+    "desk/tour": ["host", "desk/shell", "desk/qt"],
     "desk/driver": ["host", *DESK],
 }
 # Screens that really open one another.

@@ -1,5 +1,7 @@
 #include "desk/qt/BarAdapter.h"
 
+#include <algorithm>
+
 #include "desk/qt/Acts.h"
 #include "desk/qt/PushButton.h"
 #include "desk/qt/Scale.h"
@@ -9,6 +11,7 @@ namespace quillon {
 namespace {
 
 constexpr long kGap = 30;
+constexpr long kWidest = 2700;  // a lone button must not fill the bar
 
 }  // namespace
 
@@ -33,7 +36,8 @@ void BarAdapter::Draw() {
     PushButton& shown = *buttons_[static_cast<std::size_t>(i)];
     const int left = Scale::Px(model.Left());
     const int right = Scale::Px(i + 1 < bar_.Count() ? bar_.Buttons(i + 1).Left() : bar_.Width());
-    shown.setGeometry(left + gap, gap, right - left - 2 * gap, Widget().height() - 2 * gap);
+    const int width = std::min(right - left, Scale::Px(kWidest));
+    shown.setGeometry(left + gap, gap, width - 2 * gap, Widget().height() - 2 * gap);
     shown.setFont(Widget().font());
     shown.SetCaption(QString::fromStdString(model.Caption()));
     shown.SetIconKey(QString::fromStdString(model.Picture()));

@@ -9,6 +9,8 @@ class DeskStyle : public QProxyStyle {
  public:
   DeskStyle();
 
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 };
 

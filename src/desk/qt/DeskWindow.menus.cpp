@@ -5,10 +5,9 @@
 
 #include "desk/qt/Acts.h"
 #include "desk/qt/Icons.h"
+#include "desk/qt/KeysDialog.h"
 #include "desk/qt/QtRuntime.h"
 #include "desk/qt/Scale.h"
-#include "host/CButton.h"
-#include "host/CButtonBar.h"
 #include "host/ISession.h"
 
 namespace quillon {
@@ -28,25 +27,6 @@ constexpr ModuleItem kMasters[] = {
     {"&Envelopes", "Envelopes", "envelopeprint"},
     {"&Mail Merge", "MailMerge", "mailmerge"},
 };
-
-/// The captions of a form's keys, one on each line.
-std::string KeysOf(const Form& form) {
-  std::string keys;
-  for (Control* control : form.Controls()) {
-    if (!control->Visible) continue;
-    if (auto* bar = dynamic_cast<CButtonBar*>(control)) {
-      for (int i = 0; i < bar->Count(); ++i) {
-        const CButtonBar::Button& button = bar->Buttons(i);
-        if (!button.Visible() || button.Caption().empty()) continue;
-        keys += button.Caption() + (button.Enabled() ? "" : "   (off)") +
-                (button.ToolTip().empty() ? "" : "   " + button.ToolTip()) + "\n";
-      }
-    } else if (auto* dialogButton = dynamic_cast<CButton*>(control)) {
-      keys += dialogButton->Caption() + "\n";
-    }
-  }
-  return keys;
-}
 
 }  // namespace
 
@@ -71,7 +51,7 @@ void DeskWindow::BuildMenus() {
 void DeskWindow::BuildFirmMenu() {
   QMenu& menu = *AddMenu(QStringLiteral("&Firm"));
   AddAct(menu, QStringLiteral("&Open …"), QKeySequence(Qt::CTRL | Qt::Key_O), &DeskWindow::AskFirm)
-      ->setIcon(Icons::Of(QStringLiteral("open")));
+      ->setIcon(Icons::ForMenu(QStringLiteral("open")));
   AddAct(menu, QStringLiteral("&Sample Firm"), {}, &DeskWindow::OpenSample);
   menu.addSeparator();
   firmActs_ << AddAct(menu, QStringLiteral("&Year …"), QKeySequence(Qt::CTRL | Qt::Key_Y),
@@ -88,10 +68,10 @@ void DeskWindow::BuildBooksMenu() {
   QMenu& menu = *AddMenu(QStringLiteral("&Books"));
   QAction* const accounts = AddAct(menu, QStringLiteral("&Accounts …"), QKeySequence(Qt::CTRL | Qt::Key_L),
                                    &DeskWindow::OpenAccount);
-  accounts->setIcon(Icons::Of(QStringLiteral("customers")));
+  accounts->setIcon(Icons::ForMenu(QStringLiteral("customers")));
   QAction* const statement = AddAct(menu, QStringLiteral("&Statement of Account …"),
                                     QKeySequence(Qt::CTRL | Qt::Key_T), &DeskWindow::OpenStatement);
-  statement->setIcon(Icons::Of(QStringLiteral("acstatement")));
+  statement->setIcon(Icons::ForMenu(QStringLiteral("acstatement")));
   firmActs_ << accounts << statement;
 }
 
@@ -131,8 +111,8 @@ void DeskWindow::FillWindows(QMenu& menu) {
   if (!desk_->HasFirm()) return;
   for (const OpenWindow& open : desk_->App().Windows()) {
     const FormPtr form = open.Window->Self();
-    QAction* const act =
-        menu.addAction(Icons::Of(QString::fromStdString(open.IconKey)), QString::fromStdString(open.Title));
+    QAction* const act = menu.addAction(Icons::ForMenu(QString::fromStdString(open.IconKey)),
+                                        QString::fromStdString(open.Title));
     act->setCheckable(true);
     act->setChecked(runtime_.ActiveForm() == form);
     connect(act, &QAction::triggered, this, [form] { Acts::Run([&] { gRuntime->BringToFront(*form); }); });
@@ -145,14 +125,7 @@ void DeskWindow::BuildHelpMenu() {
   AddAct(menu, QStringLiteral("&About Quillon"), {}, &DeskWindow::ShowAbout);
 }
 
-void DeskWindow::ShowKeys() {
-  const FormPtr form = runtime_.ActiveForm();
-  const std::string own = form ? KeysOf(*form) : std::string();
-  Tell(QString::fromStdString(own + (own.empty() ? "" : "\n") +
-                              "Enter, Tab : next field\nShift+Tab : field before\nCtrl+Tab : next window\n"
-                              "Ctrl+M : account of the screen\nCtrl+C, Ctrl+V : copy and paste\n"
-                              "Ctrl+O : open a firm\nCtrl+T : statement of account\nAlt : menus"));
-}
+void DeskWindow::ShowKeys() { KeysDialog(runtime_.ActiveForm().get(), runtime_.TopWindow()).exec(); }
 
 void DeskWindow::ShowAbout() {
   Tell(QStringLiteral("Quillon %1\n\nBank reconciliation and the accountant's side tools.\n"

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <map>
 
+#include "desk/qt/Theme.h"
+
 // The icons lie in a static library, which has to be asked for them once; the macro wants the global
 // namespace.
 static void LoadIcons() { Q_INIT_RESOURCE(icons); }
@@ -13,6 +15,8 @@ static void LoadIcons() { Q_INIT_RESOURCE(icons); }
 namespace quillon {
 
 namespace {
+
+constexpr int kSizes[] = {16, 24, 32, 48};
 
 QString FileOf(const QString& key) {
   static const bool loaded = (LoadIcons(), true);
@@ -41,8 +45,21 @@ QPixmap Icons::Picture(const QString& key, int size, qreal ratio) {
 QIcon Icons::Of(const QString& key) {
   QIcon icon;
   if (!Has(key)) return icon;
-  constexpr int kSizes[] = {16, 24, 32, 48};
   for (const int size : kSizes) icon.addPixmap(Picture(key, size, 1));
+  return icon;
+}
+
+QIcon Icons::ForMenu(const QString& key) {
+  QIcon icon = Of(key);
+  if (icon.isNull()) return icon;
+  for (const int size : kSizes) {
+    QPixmap light = Picture(key, size, 1);
+    QPainter painter(&light);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(light.rect(), Theme::Surface());
+    painter.end();
+    icon.addPixmap(light, QIcon::Active);
+  }
   return icon;
 }
 

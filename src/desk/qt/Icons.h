@@ -14,6 +14,9 @@ class Icons {
   /// Sharp at the device's own resolution; empty for a key without a picture.
   static QPixmap Picture(const QString& key, int size, qreal ratio);
   static QIcon Of(const QString& key);
+
+  /// Light where the line of the menu is marked.
+  static QIcon ForMenu(const QString& key);
 };
 
 }  // namespace quillon

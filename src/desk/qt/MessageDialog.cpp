@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QStyle>
 
+#include "desk/qt/Icons.h"
 #include "desk/qt/PushButton.h"
 #include "desk/qt/Scale.h"
 
@@ -16,11 +16,11 @@ constexpr long kIcon = 480;
 constexpr long kWidest = 7500;
 constexpr long kNarrowest = 3000;
 
-QStyle::StandardPixmap PictureOf(const std::string& icon) {
-  if (icon == "Q") return QStyle::SP_MessageBoxQuestion;
-  if (icon == "W") return QStyle::SP_MessageBoxWarning;
-  if (icon == "E") return QStyle::SP_MessageBoxCritical;
-  return QStyle::SP_MessageBoxInformation;
+QString PictureOf(const std::string& icon) {
+  if (icon == "Q") return QStringLiteral("question");
+  if (icon == "W") return QStringLiteral("warning");
+  if (icon == "E") return QStringLiteral("error");
+  return QStringLiteral("information");
 }
 
 }  // namespace
@@ -30,7 +30,8 @@ MessageDialog::MessageDialog(const MessageRequest& request, QWidget* parent)
       taken_(static_cast<int>(request.Buttons.size())) {
   auto* const line = new QHBoxLayout;
   auto* const icon = new QLabel(this);
-  icon->setPixmap(style()->standardIcon(PictureOf(request.Icon)).pixmap(Scale::Px(kIcon)));
+  icon->setPixmap(Icons::Picture(PictureOf(request.Icon), Scale::Px(kIcon), devicePixelRatioF()));
+  icon->setAccessibleName(PictureOf(request.Icon));
   line->addWidget(icon, 0, Qt::AlignTop);
   line->addSpacing(Scale::Px(kIcon) / 3);
   auto* const text = new QLabel(QString::fromStdString(request.Text), this);

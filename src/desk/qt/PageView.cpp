@@ -7,6 +7,7 @@
 
 #include "desk/print/ReportPainter.h"
 #include "desk/print/TextMeasure.h"
+#include "desk/qt/Scale.h"
 #include "desk/qt/Theme.h"
 #include "host/Runtime.h"
 
@@ -23,7 +24,9 @@ PageView::PageView(const ReportPages& pages, QWidget* parent) : QWidget(parent),
   SetPercent(percent_);
 }
 
-double PageView::PixelsPerTwip() const { return percent_ / 100.0 / Runtime::kTwipsPerPixel; }
+double PageView::PixelsPerTwip() const {
+  return percent_ / 100.0 * Scale::Percent() / 100.0 / Runtime::kTwipsPerPixel;
+}
 
 int PageView::PageHeight() const { return static_cast<int>(std::lround(pages_.Height * PixelsPerTwip())); }
 

@@ -36,6 +36,9 @@ class QtRuntime : public Runtime, private PrintObserver {
   FormView* ViewOf(const Form& form) const;
   FormView* TopView() const;
 
+  /// The window that a dialog stands on.
+  QWidget* TopWindow() const;
+
   /// Whether a handler waits for a window, so that the desk must stay.
   bool IsWaiting() const { return waits_ > 0; }
 
@@ -89,7 +92,6 @@ class QtRuntime : public Runtime, private PrintObserver {
   void ShowView(Form& form);
   void HideView(Form& form);
   void Settle();
-  QWidget* TopWindow() const;
 
   PdfPrinter printer_;
   DeskArea* area_ = nullptr;

@@ -1,5 +1,6 @@
 #include "desk/qt/RecentFirms.h"
 
+#include <QDir>
 #include <QSettings>
 
 namespace quillon {
@@ -14,7 +15,9 @@ QString Key() { return QStringLiteral("recentFirms"); }
 
 QStringList RecentFirms::Folders() { return QSettings().value(Key()).toStringList(); }
 
-void RecentFirms::Add(const QString& folder) {
+void RecentFirms::Add(const QString& given) {
+  // The desk may be started elsewhere the next time.
+  const QString folder = QDir(given).absolutePath();
   QStringList folders = Folders();
   folders.removeAll(folder);
   folders.prepend(folder);

@@ -18,7 +18,7 @@ class Theme {
   static QColor Rule() { return {0xE3, 0xE7, 0xEC}; }
   static QColor Text() { return {0x1B, 0x24, 0x30}; }
   static QColor Muted() { return {0x56, 0x61, 0x70}; }
-  static QColor Off() { return {0x8A, 0x93, 0xA0}; }
+  static QColor Off() { return {0x72, 0x7C, 0x8A}; }
   static QColor Accent() { return {0x17, 0x6B, 0x75}; }
   static QColor AccentSoft() { return {0xDC, 0xED, 0xEE}; }
   static QColor Heading() { return {0xE6, 0xEB, 0xF0}; }
