@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "cheques/frmChqRetReport.h"
 #include "host/IApp.h"
 #include "host/Runtime.h"
 #include "host/Text.h"
@@ -26,6 +27,7 @@ struct FormKey {
 constexpr FormKey kFormKeys[] = {
     {"acreconciliation", Make<frmAcReconciliation>},
     {"inttmethod", Make<frmInttMethod>},
+    {"chqretreport", Make<frmChqRetReport>},
 };
 
 struct MenuKey {

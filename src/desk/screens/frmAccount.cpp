@@ -67,10 +67,10 @@ frmAccount::frmAccount()
 }
 
 void frmAccount::BuildBar() {
-  BtnBar1.AddButtons({"Account,F2: Account,Customers", "Period,F3: Period,Date", "F4",
-                      "Interest,F5: Interest,Interest", "Reconciliation,F6: Reconciliation,Report", "F7",
+  BtnBar1.AddButtons({"Account,F2: Account,Customers", "Period,F3: Period,Date",
+                      "Marking,F4: Marking,Reconciliation", "Interest,F5: Interest,Interest",
+                      "Reconciliation,F6: Reconciliation,Report", "ChqReturned,F7: Chq. Returned,Voucher",
                       "Preview,F8: Preview,Preview", "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
-  BtnBar1.HideButtons({"F4", "F7"});
 }
 
 void frmAccount::PlaceControls() {
@@ -245,6 +245,10 @@ void frmAccount::ButtonPressed(int index) {
     AskPeriod();
   } else if (key == "Interest" || key == "Reconciliation") {
     OpenWorkbench(key == "Interest");
+  } else if (key == "Marking") {
+    OpenMarking();
+  } else if (key == "ChqReturned") {
+    OpenReturnedCheques();
   } else if (key == "Preview" || key == "Print") {
     CReportOptions options;
     options.SetOption("MainHeadForm1", "AcMain1");
@@ -256,16 +260,41 @@ void frmAccount::ButtonPressed(int index) {
   }
 }
 
-void frmAccount::OpenWorkbench(bool interest) {
+FormPtr frmAccount::ModuleForm(const char* key) {
   IModule* const module = gSession->Modules().Item("DutyworksModule");
-  const FormPtr workbench = module != nullptr ? module->GetForm("acreconciliation") : nullptr;
-  if (!workbench) {
-    gStd->MsgBox("The reconciliation module is not loaded.", "", "W");
-    return;
-  }
+  const FormPtr form = module != nullptr ? module->GetForm(key) : nullptr;
+  if (!form) gStd->MsgBox("The reconciliation module is not loaded.", "", "W");
+  return form;
+}
+
+void frmAccount::OpenWorkbench(bool interest) {
+  const FormPtr workbench = ModuleForm("acreconciliation");
+  if (!workbench) return;
   workbench->CallingForm = Self();
   workbench->Set("bCalcInt", interest);
   gApp->ShowForm(workbench);
+}
+
+void frmAccount::OpenMarking() {
+  const FormPtr marking = ModuleForm("acreconciliationmark");
+  if (!marking) return;
+  marking->CallingForm = Self();
+  marking->Set("FYear", std::static_pointer_cast<Object>(gSession->CurrentYear()));
+  ShowForPeriod(marking);
+}
+
+void frmAccount::OpenReturnedCheques() {
+  const FormPtr report = ModuleForm("chqretreport");
+  if (!report) return;
+  report->CallingForm = Self();
+  ShowForPeriod(report);
+}
+
+void frmAccount::ShowForPeriod(const FormPtr& form) {
+  form->Set("AccountCode", AccountCode);
+  form->Set("Date1", Date1);
+  form->Set("Date2", Date2);
+  gApp->ShowForm(form);
 }
 
 void frmAccount::Grid_KeyDown(KeyEvent& key) {

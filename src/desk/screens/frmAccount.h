@@ -59,7 +59,14 @@ class frmAccount : public ScreenForm {
   void AddOpening(int& row, Sums& sums);
   void AddEntries(int& row, Sums& sums);
   void AddEntry(CDataSet& entry, int row, bool returned, Sums& sums);
+  /// A new form of the module; nothing, and a message, when there is no module.
+  FormPtr ModuleForm(const char* key);
   void OpenWorkbench(bool interest);
+  void OpenMarking();
+  void OpenReturnedCheques();
+
+  /// Shows a screen of the module on this account and period.
+  void ShowForPeriod(const FormPtr& form);
   void Grid_KeyDown(KeyEvent& key);
   void OpenVoucher();
 };

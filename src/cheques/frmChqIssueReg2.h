@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/CGridPlus.h"
+#include "host/ScreenForm.h"
+
+namespace quillon {
+
+/// "Cheque Issue Register": the frame of a register that has no figures of its own yet; a host that keeps
+/// them fills its grid.
+class frmChqIssueReg2 : public ScreenForm {
+ public:
+  frmChqIssueReg2();
+
+  /// The columns of the register.
+  void SetupGrid();
+
+  Label lblTitle2;
+  CGridPlus Grid;
+
+ protected:
+  void BuildBar() override {}
+  void LoadScreen() override;
+  void FirstShow() override;
+  void ButtonPressed(int /*index*/) override {}
+  GridModel* MainGrid() override { return &Grid; }
+};
+
+}  // namespace quillon
