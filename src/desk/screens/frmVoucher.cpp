@@ -68,8 +68,8 @@ void frmVoucher::LoadScreen() {
   year->OpenYear(StartYear, ok);
   if (!ok) throw HostError("The firm has no financial year " + std::to_string(StartYear));
   FillLines(year->Db());
-  ShowDocument(year->Db());
-  ShowLeaf(year->Db());
+  ShowDocuments(year->Db());
+  ShowLeaves(year->Db());
 }
 
 void frmVoucher::FillLines(CDbLink& db) {
@@ -103,30 +103,37 @@ void frmVoucher::FillLines(CDbLink& db) {
   Grid.Footer.SetTextMatrix(0, col::kCredit, gStd->FormatAmount(credits, "C2"));
 }
 
-void frmVoucher::ShowDocument(CDbLink& db) {
-  CDataSet document;
-  document.Open(
-      "Select First 1 DocumentID,DocSeries from DocMain where DocVoucherID=" + std::to_string(VoucherID), db);
-  std::string text = "   No document";
-  if (!document.Eof()) {
-    text = "   Document " + document.Field("DocumentID").ToText() + "   Series " +
-           document.Field("DocSeries").ToText();
+void frmVoucher::ShowDocuments(CDbLink& db) {
+  const std::string voucher = std::to_string(VoucherID);
+  std::string text;
+  CDataSet documents;
+  for (documents.Open(
+           "Select DocumentID,DocSeries from DocMain where DocVoucherID=" + voucher + " order by DocumentID",
+           db);
+       !documents.Eof(); documents.MoveNext()) {
+    text += "   Document " + documents.Field("DocumentID").ToText();
+    const std::string series = documents.Field("DocSeries").ToText();
+    if (!series.empty()) text += " Series " + series;
   }
-  if (db.RowExists("Select * from FADocs where VoucherID=" + std::to_string(VoucherID) +
-                   " and ChqReturn='Y'")) {
+  if (text.empty()) text = "   No document";
+  if (db.RowExists("Select * from FADocs where VoucherID=" + voucher + " and ChqReturn='Y'")) {
     text += "   Chq. Returned";
   }
   lblDocument.Caption = text;
 }
 
-void frmVoucher::ShowLeaf(CDbLink& db) {
-  CDataSet leaf;
-  leaf.Open("Select First 1 ChqNo,IsuDate,Amount from ChqLeaves where VoucherID=" + std::to_string(VoucherID),
-            db);
-  lblLeaf.Caption = leaf.Eof() ? std::string("   No cheque leaf")
-                               : "   Cheque No. " + leaf.Field("ChqNo").ToText() + "   Issued on " +
-                                     leaf.Field("IsuDate").ToDate().Text() + "   Amount " +
-                                     gStd->FormatAmount(leaf.Field("Amount").ToAmount(), "C2");
+void frmVoucher::ShowLeaves(CDbLink& db) {
+  std::string text;
+  CDataSet leaves;
+  for (leaves.Open("Select ChqNo,IsuDate,Amount from ChqLeaves where VoucherID=" + std::to_string(VoucherID) +
+                       " order by ChqNo",
+                   db);
+       !leaves.Eof(); leaves.MoveNext()) {
+    text += "   Cheque No. " + leaves.Field("ChqNo").ToText() + " of " +
+            leaves.Field("IsuDate").ToDate().Text() + " for " +
+            gStd->FormatAmount(leaves.Field("Amount").ToAmount(), "C2");
+  }
+  lblLeaf.Caption = text.empty() ? std::string("   No cheque leaf") : text;
 }
 
 void frmVoucher::ButtonPressed(int /*index*/) { PressExit(); }

@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// A voucher, to read: its lines, and the document and the cheque leaf that go with it.
+/// A voucher, to read: its lines, and the documents and cheque leaves that go with it.
 class frmVoucher : public ScreenForm {
  public:
   frmVoucher();
@@ -32,8 +32,8 @@ class frmVoucher : public ScreenForm {
  private:
   void PlaceControls();
   void FillLines(CDbLink& db);
-  void ShowDocument(CDbLink& db);
-  void ShowLeaf(CDbLink& db);
+  void ShowDocuments(CDbLink& db);
+  void ShowLeaves(CDbLink& db);
 };
 
 }  // namespace quillon
