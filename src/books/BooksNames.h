@@ -1,9 +1,14 @@
 #pragma once
 
+#include <cstdint>
+
 /// Sentinels of the entries' columns.
 namespace quillon::books {
 
 inline constexpr const char* kOpeningBook = "0B";      ///< dBook: an opening balance
 inline constexpr const char* kMemorandumBook = "MEM";  ///< dBook: in no balance and no statement
+
+/// dTrnNature: contra entries, which interest leaves out.
+inline constexpr std::int64_t kContraNatures[] = {5002, 5012, 5024, 5031, 5041, 5051};
 
 }  // namespace quillon::books

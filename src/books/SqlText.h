@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "host/Date.h"
@@ -11,6 +12,9 @@ namespace quillon::books {
 /// none.
 std::string SqlNumber(std::string_view text);
 std::string SqlNumber(std::int64_t number);
+
+/// Numbers with commas between them, as they stand behind "in".
+std::string SqlNumbers(std::span<const std::int64_t> numbers);
 
 /// A date literal, or "Null" for no date.
 std::string SqlDateOrNull(Date date);

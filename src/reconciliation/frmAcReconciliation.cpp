@@ -4,6 +4,7 @@
 
 #include "books/SqlText.h"
 #include "host/Busy.h"
+#include "host/CAlertLog.h"
 #include "host/RedrawHold.h"
 #include "host/Text.h"
 #include "host/host_services.h"
@@ -23,10 +24,7 @@ constexpr ScreenSpec kScreen = {
     .lastKey = keys::kF3 + 6,
 };
 
-constexpr int kMassMarking = 0;
 constexpr int kShowRef = 1;
-constexpr int kInterest = 2;
-constexpr int kPassBook = 4;
 
 /// The statement's closing line belongs to the statement itself, so it prints as its last row and not as a
 /// footer.
@@ -68,6 +66,7 @@ frmAcReconciliation::frmAcReconciliation()
   RegisterRoutines();
   ConnectGrid();
   ConnectStatement();
+  ConnectPassBook();
   chkReturned.Click = [this] { chkReturned_Click(); };
   cmbFilter.Click = [this] { cmbFilter_Click(); };
 }
@@ -83,6 +82,7 @@ void frmAcReconciliation::RegisterRoutines() {
   routine("UpdateGrid", &frmAcReconciliation::UpdateGrid);
   routine("UpdateMarkedTotals", &frmAcReconciliation::UpdateMarkedTotals);
   routine("UpdateGridStatement", &frmAcReconciliation::UpdateGridStatement);
+  routine("UpdateGridPassBook", &frmAcReconciliation::UpdateGridPassBook);
   routine("HideGrids", &frmAcReconciliation::HideGrids);
   routine("UpdateRefButton", &frmAcReconciliation::UpdateRefButton);
   routine("ZoomRow", &frmAcReconciliation::ZoomRow);
@@ -94,6 +94,8 @@ void frmAcReconciliation::RegisterRoutines() {
   };
   save("SaveRow", &frmAcReconciliation::SaveRow);
   save("SaveStatementRow", &frmAcReconciliation::SaveStatementRow);
+  routine("RunInterest", &frmAcReconciliation::RunInterest);
+  Method("CalcInterest", [this](const Array& arguments) { return CalcInterest(arguments.at(0).ToAmount()); });
 }
 
 void frmAcReconciliation::TakeCaller() {
@@ -119,20 +121,20 @@ void frmAcReconciliation::LoadScreen() {
     for (const char* filter : {"All Entries", "Marked only", "Unmarked only"}) cmbFilter.AddItem(filter);
     cmbFilter.SetListIndex(0);
     UpdateGrid();
+  } else {
+    Grid.Rows = 1;
   }
+  ReadInterestTerms();
   asOn_ = Date2;
-  EnableBuilt({});
-}
-
-void frmAcReconciliation::EnableBuilt(std::initializer_list<int> buttons) {
-  for (const int button : buttons) BtnBar1.EnableButtons({button});
-  BtnBar1.DisableButtons({kMassMarking, kInterest, kPassBook});  // their views are not built yet
+  source_ = statement_;
 }
 
 void frmAcReconciliation::FirstShow() {
   if (bCalcInt) {
-    // Without the interest grid, which is not built yet, the form has nothing to show.
-    gRuntime->Unload(*this);
+    GridIntt.Visible = false;
+    source_ = statement_;
+    RunInterest();
+    if (IsLoaded() && !GridIntt.Visible) gRuntime->Unload(*this);
     return;
   }
   PutCursorOnLastRow();
@@ -146,8 +148,13 @@ void frmAcReconciliation::ButtonPressed(int index) {
   if (key == "ShowRef") {
     showReference_ = !showReference_;
     if (GridStatement.Visible) UpdateGridStatement();
+    if (GridPBook.Visible) UpdateGridPassBook();
+  } else if (key == "Interest") {
+    PressInterest();
   } else if (key == "Statement") {
     AskStatement();
+  } else if (key == "PassBook") {
+    ShowPassBook();
   } else if (key == "Preview" || key == "Print") {
     Print(key == "Print");
   } else if (key == "Exit") {
@@ -161,7 +168,7 @@ void frmAcReconciliation::HideGrids() {
   GridIntt.Visible = false;
   GridPBook.Visible = false;
   GridStatement.Visible = false;
-  EnableBuilt({0, 1, 2, 3});
+  BtnBar1.EnableButtons({0, 1, 2, 3});
 }
 
 void frmAcReconciliation::UpdateRefButton() {
@@ -181,12 +188,17 @@ void frmAcReconciliation::ExitPressed(bool& cancel) {
   }
   const bool inView = GridStatement.Visible || GridPBook.Visible || GridIntt.Visible;
   if (bCalcInt || !inView) return;
+  ShowEntries();
+  cancel = true;
+}
+
+void frmAcReconciliation::ShowEntries() {
   HideGrids();
   Grid.Visible = true;
   cmbFilter.Visible = true;
+  source_ = statement_;
   Grid.SetFocus();
-  cancel = true;
-  EnableBuilt({0, 1, 2, 3, 4, 5});
+  BtnBar1.EnableButtons({0, 1, 2, 3, 4, 5});
   UpdateRefButton();
 }
 
@@ -238,7 +250,8 @@ void frmAcReconciliation::Print(bool print) {
 }
 
 void frmAcReconciliation::UnloadScreen() {
-  statement_ = nullptr;
+  if (mErrLog) gRuntime->Unload(*mErrLog->Form());
+  statement_ = source_ = nullptr;
   gridRows_.clear();
 }
 

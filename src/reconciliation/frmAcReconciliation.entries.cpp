@@ -77,16 +77,22 @@ void frmAcReconciliation::UpdateGrid() {
   }
 }
 
-void frmAcReconciliation::SetGridColumns() {
+/// The layout of the statement and one column more, all of them hidden, in the grid's own font and without
+/// rows.
+void frmAcReconciliation::TakeStatementLayout(CGridPlus& grid) {
+  grid.Rows = 1;
   if (statement_ != nullptr) {
-    const quillon::Font font = Grid.Font;
-    Grid.CopyLayout(*statement_);
-    Grid.Font = font;
+    const quillon::Font font = grid.Font;
+    grid.CopyLayout(*statement_);
+    grid.Font = font;
   }
-  Grid.Cols = std::max(Grid.Cols(), kReturned + 1) + (statement_ != nullptr ? 1 : 0);
-  Grid.Rows = 1;
-  Grid.HideAllColumns();
-  for (int col = 0; col < Grid.Cols; ++col) Grid.SetTextMatrix(0, col, "");
+  grid.Cols = std::max(grid.Cols(), kReturned + 1) + (statement_ != nullptr ? 1 : 0);
+  grid.HideAllColumns();
+  for (int col = 0; col < grid.Cols; ++col) grid.SetTextMatrix(0, col, "");
+}
+
+void frmAcReconciliation::SetGridColumns() {
+  TakeStatementLayout(Grid);
   const long unit = CharWidth(Grid);
   const auto set = [&](const ColumnSpec& column) {
     gStd->SetGridColumn(Grid, column.col, column.title, static_cast<double>(column.chars * unit),

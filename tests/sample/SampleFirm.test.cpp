@@ -138,6 +138,7 @@ TEST(SampleFirm, TheBooksHaveEverySituationThatTheScreensTreat) {
         "FAMaster where mTransportCode>0 and mAgentCode>0",
         "FAMaster group by mhd,mst having count(*)>1",
         "FAMaster where malias1<>'' group by malias1 having count(*)>1",
+        "RatesPA where mcd=101 and Rate1=8.25",
         "RatesPA where mcd=102 and Rate1=11.5",
         "EntryFormDetails where FormName='RC1'",
         "VATClasses",
@@ -149,9 +150,13 @@ TEST(SampleFirm, TheBooksHaveEverySituationThatTheScreensTreat) {
                       "dTrnNature in (5002,5012,5024,5031,5041,5051,5054,5055,5043,5032,5022,5023)")
                 .ToInteger(),
             12);
-  EXPECT_EQ(db.Lookup("FAData", "sum(dAmt)", "dcd=102 and dTrnNature in (5002,5012,5024,5031,5041,5051)")
-                .ToAmount(),
-            Amount());
+  const auto contra = [&](const std::string& where) {
+    const std::string natures = " and dTrnNature in (5002,5012,5024,5031,5041,5051)";
+    return db.Lookup("FAData", "sum(dAmt)", where + natures).ToAmount();
+  };
+  EXPECT_EQ(contra("dcd=102"), Amount());
+  EXPECT_EQ(contra("dcd=103"), Amount::OfInteger(-600)) << "interest on this bank's year is refused";
+  EXPECT_EQ(contra("dcd=103 and dVchDate<'2024-07-01'"), Amount()) << "on its first quarter it is not";
   EXPECT_TRUE(firm->OpenYear(2023).Db->RowExists("select * from FAData where dTrnType='zzz'"));
   EXPECT_FALSE(db.RowExists("select * from FAData where dTrnType='zzz'"));
   EXPECT_TRUE(firm->Common()->RowExists("select * from Narrations"));

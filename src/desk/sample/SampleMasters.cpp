@@ -169,7 +169,8 @@ void WriteDataForm(FirebirdLink& year, const char* name, const char* title, cons
 }
 
 void WriteRates(FirebirdLink& year) {
-  const std::pair<int, const char*> rates[] = {{SampleCode::kCreditBank, "11.5"},
+  const std::pair<int, const char*> rates[] = {{SampleCode::kMainBank, "8.25"},
+                                               {SampleCode::kCreditBank, "11.5"},
                                                {SampleCode::kThirdBank, "6.75"},
                                                {1001, "18"},
                                                {1002, "18"},

@@ -24,7 +24,7 @@ void SampleYear::Write(SampleCarry& carry, int vouchers, bool isLast) {
   WriteOpenings(carry);
   const int before = books_.Vouchers();
   const std::int64_t days = Date::Days(start_, end_) + 1;
-  constexpr int kEventVouchers = 153;  // what the months and the year's end write besides the trade
+  constexpr int kEventVouchers = 155;  // what the months and the year's end write besides the trade
   const int trade = std::max(vouchers - kEventVouchers, 0);
   int done = 0;
   for (std::int64_t d = 0; d < days; ++d) {

@@ -59,6 +59,7 @@ class SampleYear {
   void Memorandum(Date day);
   void ReturnedCheque(Date day);
   void ContraPair(Date day, int debitNature, int creditNature);
+  void UnequalContraPair(Date day);
   void BankExpense(Date day, int bank, int account, const std::string& narration, Amount value, int nature);
 
   Amount CashInHand() const;

@@ -229,6 +229,22 @@ void SampleYear::ContraPair(Date day, int debitNature, int creditNature) {
   }
 }
 
+/// A transfer that comes back short: two contra entries that do not take each other out, so that no interest
+/// can be worked out on a period that holds them.
+void SampleYear::UnequalContraPair(Date day) {
+  const int bank = SampleCode::kThirdBank;
+  const auto& [debitNature, creditNature] = kContraNatures[0];
+  SampleVoucher placed =
+      Voucher(day, SampleVoucher::BankBook(bank), SampleVoucher::PaymentType(bank), "Deposit placed",
+              SampleCode::kCapital, bank, Amount::OfInteger(25000), creditNature);
+  SampleVoucher back =
+      Voucher(day, SampleVoucher::BankBook(bank), SampleVoucher::ReceiptType(bank), "Deposit back", bank,
+              SampleCode::kCapital, Amount::OfInteger(24400), debitNature);
+  placed.Lines[1].Cleared = back.Lines[0].Cleared = day;
+  Post(std::move(placed));
+  Post(std::move(back));
+}
+
 void SampleYear::BankExpense(Date day, int bank, int account, const std::string& narration, Amount value,
                              int nature) {
   SampleVoucher voucher = Voucher(day, SampleVoucher::BankBook(bank), SampleVoucher::PaymentType(bank),
@@ -256,6 +272,7 @@ void SampleYear::WriteMonth(Date day) {
   Post(std::move(locked));
   const auto& [debit, credit] = kContraNatures[static_cast<std::size_t>(day.Month() % 3)];
   ContraPair(day, debit, credit);
+  if (day.Month() == 11) UnequalContraPair(day);
 }
 
 void SampleYear::WriteYearEnd() {

@@ -71,7 +71,6 @@ void frmAccount::BuildBar() {
                       "Interest,F5: Interest,Interest", "Reconciliation,F6: Reconciliation,Report", "F7",
                       "Preview,F8: Preview,Preview", "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
   BtnBar1.HideButtons({"F4", "F7"});
-  BtnBar1.Buttons("Interest").SetEnabled(false);  // opens the workbench's interest, which is not built yet
 }
 
 void frmAccount::PlaceControls() {

@@ -1,5 +1,7 @@
 #include "desk/screens/frmAlertLog.h"
 
+#include <algorithm>
+
 #include "host/IStd.h"
 #include "host/Runtime.h"
 #include "host/Text.h"
@@ -23,7 +25,7 @@ class AlertLog : public CAlertLog {
   void AddRow(const std::vector<std::string>& cells) override;
   GridModel& Grid() override { return form_->Grid; }
   std::shared_ptr<quillon::Form> Form() override { return form_; }
-  void Show(const std::shared_ptr<quillon::Form>& owner) override { gRuntime->Show(form_, false, owner); }
+  void Show(const std::shared_ptr<quillon::Form>& owner) override;
 
  private:
   std::shared_ptr<frmAlertLog> form_ = std::make_shared<frmAlertLog>();
@@ -41,7 +43,19 @@ void AlertLog::SetColumns(const std::vector<std::string>& columns) {
   }
 }
 
-void AlertLog::AddRow(const std::vector<std::string>& cells) { form_->Grid.AddItem(text::Join(cells, "\t")); }
+void AlertLog::AddRow(const std::vector<std::string>& cells) {
+  CGridPlus& grid = form_->Grid;
+  const int row = grid.Rows;
+  grid.Rows = row + 1;
+  for (int col = 0; col < std::min(grid.Cols(), static_cast<int>(cells.size())); ++col) {
+    grid.SetTextMatrix(row, col, cells[static_cast<std::size_t>(col)]);
+  }
+}
+
+void AlertLog::Show(const std::shared_ptr<quillon::Form>& owner) {
+  if (form_->Grid.Rows > 1) form_->Grid.Row = 1;
+  gRuntime->Show(form_, false, owner);
+}
 
 }  // namespace
 

@@ -1,0 +1,434 @@
+#include "host/Text.h"
+#include "tests/support/DeskFixture.h"
+
+namespace quillon {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Acts = std::vector<std::function<void()>>;
+
+constexpr int kF5 = keys::kF7 - 2;
+constexpr int kF6 = keys::kF7 - 1;
+constexpr int kF9 = keys::kF7 + 2;
+constexpr int kInterestButton = 2;
+constexpr long kPayColor = 0xE7D8FC;
+constexpr long kChargeColor = 0xF0FFE6;
+
+/// The interest of bank 101, asked for in the pass book or straight from the statement of account.
+class Interest : public DeskTest {
+ protected:
+  void SetUp() override {
+    OpenNewFirm();
+    AddAccount(101, "Sahyadri Bank", 47, "Pune");
+    AddAccount(201, "Asha Traders");
+    Db().Execute("insert into RatesPA (mcd,Rate1) values (101,9.5)");
+    AddVoucher({.id = 1, .date = "2024-04-01", .amount = "10000", .book = "0B"});
+  }
+
+  void AddContra(int id, const char* date, const char* amount, const char* cleared, int nature) {
+    AddVoucher({.id = id, .date = date, .amount = amount, .cleared = cleared, .narration = "Contra"});
+    SetNature(id, nature);
+  }
+  void SetNature(int id, int nature) {
+    Db().Execute("update FAData set dTrnNature=" + std::to_string(nature) +
+                 " where VoucherID=" + std::to_string(id));
+  }
+
+  /// Starts something that waits for a person; the acts are what he does in the windows that come up.
+  void During(const std::function<void()>& start, Acts acts) {
+    std::size_t next = 0;
+    runtime_.NextCommand = [&] {
+      if (next == acts.size()) return false;
+      Do(acts[next++]);
+      return true;
+    };
+    Do(start);
+    EXPECT_EQ(next, acts.size()) << "nobody waited for the rest";
+    runtime_.NextCommand = nullptr;
+  }
+
+  void OpenPassBook() {
+    statement_ = ShowStatement();
+    bench_ = ShowWorkbench(statement_);
+    Key(*bench_, keys::kF7);
+    Statements();
+  }
+  void PressInterest(Acts acts) {
+    During([&] { bench_->UserKey(kF5, 0, 0); }, std::move(acts));
+  }
+
+  /// F5 in the statement of account.
+  void OpenInterest(Acts acts) {
+    if (!statement_) statement_ = ShowStatement();
+    During([&] { At<CButtonBar>(statement_, "BtnBar1").UserPress("Interest"); }, std::move(acts));
+    bench_ = runtime_.ActiveForm();
+  }
+
+  FormPtr Top() { return runtime_.ActiveForm(); }
+  std::function<void()> Confirm() {
+    return [this] { Key(*Top(), keys::kF7); };
+  }
+  std::function<void()> Leave() {
+    return [this] { Key(*Top(), keys::kEscape); };
+  }
+  std::function<void()> Method(const std::string& method) {
+    return [this, method] { At<ComboBox>(Top(), "cmbInttMethod").UserChoose(method); };
+  }
+
+  CGridPlus& View() { return At<CGridPlus>(bench_, "GridIntt"); }
+  CGridPlus& PassBook() { return At<CGridPlus>(bench_, "GridPBook"); }
+  CButtonBar& Bar() { return At<CButtonBar>(bench_, "BtnBar1"); }
+
+  Texts Rows() {
+    Texts rows;
+    for (int row = 1; row < View().Rows; ++row) {
+      std::string text;
+      for (int col = 0; col <= 8; ++col) text += (col == 0 ? "" : "|") + View().TextMatrix(row, col);
+      rows.push_back(text);
+    }
+    return rows;
+  }
+  Texts Footer() {
+    Texts rows;
+    for (int row = 0; row < View().Footer.Rows(); ++row) {
+      std::string text;
+      for (int col = 4; col <= 8; ++col) text += (col == 4 ? "" : "|") + View().Footer.TextMatrix(row, col);
+      rows.push_back(text);
+    }
+    return rows;
+  }
+
+  FormPtr statement_;
+  FormPtr bench_;
+};
+
+TEST_F(Interest, OfThePassBookByTheDaysOfTheBank) {
+  AddVoucher({.id = 2, .date = "2024-06-01", .amount = "-30000", .cleared = "2024-04-11"});
+  AddVoucher({.id = 3, .date = "2024-04-02", .amount = "24000", .cleared = "2024-10-08"});
+  AddVoucher({.id = 4, .date = "2024-04-02", .amount = "1000", .cleared = "2024-10-08"});
+  AddVoucher({.id = 5, .date = "2024-04-02", .amount = "777"});
+  OpenPassBook();
+  PressInterest({[&] {
+                   EXPECT_EQ(Top()->Name(), "frmInttMethod");
+                   EXPECT_EQ(Top()->CallingForm, bench_);
+                   EXPECT_EQ(At<CTextPlus>(Top(), "txpInttRate").Text(), "9.5000");
+                   EXPECT_EQ(At<ComboBox>(Top(), "cmbInttMethod").Text(), "Product Method");
+                   EXPECT_FALSE(View().Visible);
+                 },
+                 Confirm()});
+  EXPECT_EQ(Rows(), (Texts{
+                        "01-Apr-2024|-10,000.00|||-10,000.00|10|-1,00,000.00|26.03|",
+                        "11-Apr-2024|20,000.00|30,000.00||20,000.00|180|36,00,000.00||936.99",
+                        "08-Oct-2024|-5,000.00||25,000.00|-5,000.00|175|-8,75,000.00|227.74|",
+                    }));
+  EXPECT_EQ(Footer(), (Texts{"Product (Cr)|185|9,75,000.00|253.77|", "Product (Dr)|180|36,00,000.00||936.99",
+                             "Net Dr|365|26,25,000.00||683.22"}));
+  EXPECT_EQ(View().Footer.Height(), 900);
+  EXPECT_EQ(View().Footer.BackColor(2), kChargeColor);
+  EXPECT_EQ(View().Title(), "Pass Book Interest Calculations @ 9.50 p.a. ( Method : Product Method )");
+  const std::vector<std::pair<std::string, int>> columns = {
+      {"Date", 13}, {"O.Balance", 16}, {"Debits", 14},      {"Credits", 14},       {"C.Balance", 16},
+      {"Days", 6},  {"Product", 18},   {"Intt. (Pay)", 13}, {"Intt. (Charge)", 13}};
+  ASSERT_EQ(View().Cols(), 10);
+  const long unit = gRuntime->TextWidth(View().Font, "9");
+  for (int col = 0; col < 9; ++col) {
+    const auto& [title, chars] = columns[static_cast<std::size_t>(col)];
+    EXPECT_EQ(View().TextMatrix(0, col), title);
+    EXPECT_EQ(View().ColWidth(col), chars * unit) << title;
+    EXPECT_EQ(View().ColAlignment(col), col == 0 ? kAlignCentre : kAlignRight) << title;
+  }
+  for (int row = 1; row < View().Rows; ++row) {
+    std::map<int, long> colors;
+    for (const GridModel::Paint& paint : View().Paints(row)) {
+      EXPECT_EQ(paint.firstCol, paint.lastCol);
+      colors[paint.firstCol] = paint.backColor;
+    }
+    EXPECT_EQ(colors, (std::map<int, long>{{7, kPayColor}, {8, kChargeColor}})) << row;
+  }
+  EXPECT_EQ(View().BackColor(), PassBook().BackColor());
+  EXPECT_EQ(View().Row(), 1);
+  EXPECT_TRUE(View().HasFocus());
+  EXPECT_FALSE(PassBook().Visible);
+  EXPECT_FALSE(Bar().Buttons(kInterestButton).Enabled());
+  EXPECT_EQ(Bar().Buttons(1).Caption(), "") << "there are no references here";
+  EXPECT_EQ(gRuntime->MousePointer(), kPointerDefault);
+  Key(*bench_, kF9);
+  const std::vector<Json> reports = Events("report");
+  ASSERT_EQ(reports.size(), 1U);
+  EXPECT_EQ(reports[0]["title"], View().Title());
+  EXPECT_EQ(reports[0]["grid"][2][8], "936.99");
+}
+
+TEST_F(Interest, OfTheBooksStraightFromTheStatementOfAccount) {
+  AddVoucher({.id = 2, .date = "2024-04-11", .amount = "-30000"});
+  // On the last day of the period this nature does not count, the day before it does.
+  AddVoucher({.id = 3, .date = "2025-03-30", .amount = "-1000", .cleared = "2025-03-30"});
+  AddVoucher({.id = 4, .date = "2025-03-31", .amount = "-500"});
+  for (const int id : {3, 4}) SetNature(id, 5022);
+  AddContra(5, "2024-05-01", "7000", "", 5041);
+  AddContra(6, "2024-04-11", "-7000", "", 5051);
+  AnswerMessage();
+  OpenInterest({[&] {
+                  EXPECT_EQ(Top()->Caption(), "Alert window");
+                  EXPECT_FALSE(At<CGridPlus>(runtime_.Forms(Form::Origin::Module).at(0), "Grid").Visible);
+                },
+                Leave(), Confirm()});
+  const std::vector<Json> messages = Events("message");
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_EQ(messages[0]["text"],
+            "Contra entries found. These entries will be ignored for Interest Calculations");
+  EXPECT_EQ(messages[0]["icon"], "W");
+  ASSERT_EQ(bench_->Name(), "frmAcReconciliation");
+  EXPECT_EQ(Rows(), (Texts{
+                        "01-Apr-2024|10,000.00|||10,000.00|10|1,00,000.00||26.03",
+                        "11-Apr-2024|-20,000.00||30,000.00|-20,000.00|20|-4,00,000.00|104.11|",
+                        "01-May-2024|-20,000.00|||-20,000.00|333|-66,60,000.00|1,733.42|",
+                        "30-Mar-2025|-21,000.00||1,000.00|-21,000.00|1|-21,000.00|5.47|",
+                        "31-Mar-2025|-21,000.00|||-21,000.00|1|-21,000.00|5.47|",
+                    }));
+  EXPECT_EQ(Footer(), (Texts{"Product (Cr)|355|71,02,000.00|1,848.47|", "Product (Dr)|10|1,00,000.00||26.03",
+                             "Net Cr|365|70,02,000.00|1,822.44|"}));
+  EXPECT_EQ(View().Footer.BackColor(2), kPayColor);
+  EXPECT_EQ(View().Title(), "Interest Calculations @ 9.5 p.a. ( Method : Product Method )");
+  EXPECT_EQ(View().BackColor(), At<CGridPlus>(statement_, "Grid").BackColor());
+  EXPECT_TRUE(View().HasFocus());
+  EXPECT_FALSE(At<CGridPlus>(bench_, "Grid").Visible);
+  EXPECT_FALSE(At<ComboBox>(bench_, "cmbFilter").Visible);
+  EXPECT_EQ(desk_.App().Windows().back().Title, "Reconciliation");
+  Key(*bench_, keys::kEscape);
+  EXPECT_FALSE(bench_->IsLoaded()) << "there are no entries to go back to";
+  EXPECT_EQ(Top(), statement_);
+}
+
+TEST_F(Interest, ACancelledDialogChangesNothing) {
+  AddVoucher({.id = 2, .date = "2024-04-11", .amount = "-30000", .cleared = "2024-04-12"});
+  OpenInterest({Leave()});
+  EXPECT_EQ(bench_, statement_) << "the screen had nothing else to show";
+  EXPECT_EQ(desk_.App().Windows().size(), 1U);
+  OpenPassBook();
+  PressInterest({Leave()});
+  EXPECT_TRUE(PassBook().Visible);
+  EXPECT_FALSE(View().Visible);
+  EXPECT_EQ(View().Rows(), 2) << "as it never was filled";
+  EXPECT_TRUE(Bar().Buttons(kInterestButton).Enabled());
+  EXPECT_EQ(Bar().Buttons(1).Key(), "ShowRef");
+}
+
+TEST_F(Interest, OnlyThePassBookGivesTheBanksInterest) {
+  OpenPassBook();
+  const auto told = [&] {
+    AnswerMessage();
+    Key(*bench_, kF5);
+    const std::vector<Json> messages = Events("message");
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0]["text"],
+              "Click on 'F7: Pass Book' option to calculate interest as charged / paid by bank.");
+    EXPECT_EQ(messages[0]["icon"], "W");
+  };
+  Key(*bench_, keys::kEscape);
+  told();
+  AnswerDate("30-Apr-2024");
+  Key(*bench_, kF6);
+  told();
+  EXPECT_FALSE(View().Visible);
+  // From the interest the pass book's key is off until Esc has gone back to the entries.
+  Key(*bench_, keys::kEscape);
+  Key(*bench_, keys::kF7);
+  PressInterest({Confirm()});
+  ASSERT_TRUE(View().Visible);
+  Key(*bench_, keys::kF7);
+  Key(*bench_, kF5);
+  EXPECT_TRUE(View().Visible);
+  Key(*bench_, keys::kEscape);
+  EXPECT_TRUE(At<CGridPlus>(bench_, "Grid").HasFocus());
+  for (int button = 0; button <= 5; ++button) EXPECT_TRUE(Bar().Buttons(button).Enabled()) << button;
+  told();
+}
+
+TEST_F(Interest, TheRateInHandIsReadOnceAndTheMethodKept) {
+  AddVoucher({.id = 2, .date = "2024-04-11", .amount = "-30000", .cleared = "2024-04-12"});
+  OpenPassBook();
+  PressInterest({[&] { At<CTextPlus>(Top(), "txpInttRate").UserType("12.34567"); },
+                 Method("CC Limit - Pay Only"), Confirm()});
+  EXPECT_EQ(View().Title(),
+            "Pass Book Interest Calculations @ 12.3457 p.a. ( Method : CC Limit - Pay Only )");
+  EXPECT_EQ(View().TextMatrix(1, 7), "") << "the bank pays nothing";
+  EXPECT_NE(View().TextMatrix(2, 8), "") << "what it charges is the firm's to pay";
+  Db().Execute("update RatesPA set Rate1=20");
+  Key(*bench_, keys::kEscape);
+  Key(*bench_, keys::kF7);
+  Statements();
+  PressInterest({[&] {
+                   EXPECT_EQ(At<CTextPlus>(Top(), "txpInttRate").Text(), "12.3457");
+                   EXPECT_EQ(At<ComboBox>(Top(), "cmbInttMethod").Text(), "CC Limit - Pay Only");
+                 },
+                 Method("FDR - Charge Only"), Confirm()});
+  for (const std::string& sql : Statements()) EXPECT_EQ(sql.find("RatesPA"), std::string::npos) << sql;
+  EXPECT_NE(View().TextMatrix(1, 7), "");
+  EXPECT_EQ(View().TextMatrix(2, 8), "");
+  // A screen that is opened anew asks the books again.
+  Key(*bench_, keys::kEscape);
+  Key(*bench_, keys::kEscape);
+  OpenPassBook();
+  PressInterest({[&] { EXPECT_EQ(At<CTextPlus>(Top(), "txpInttRate").Text(), "20.0000"); }, Leave()});
+}
+
+TEST_F(Interest, MethodsWithoutARuleShowProductsAlone) {
+  Db().Execute("delete from RatesPA");
+  OpenPassBook();
+  PressInterest({[&] { EXPECT_EQ(At<CTextPlus>(Top(), "txpInttRate").Text(), "0.0000"); },
+                 [&] { At<CTextPlus>(Top(), "txpInttRate").UserType("4"); }, Method("PPF"), Confirm()});
+  EXPECT_EQ(View().Title(), "Pass Book Interest Calculations @ 4.00 p.a. ( Method : PPF )");
+  EXPECT_EQ(Rows(), Texts{"01-Apr-2024|-10,000.00|||-10,000.00|365|-36,50,000.00||"});
+  EXPECT_EQ(Footer(),
+            (Texts{"Product (Cr)|365|36,50,000.00||", "Product (Dr)|0|||", "Net Cr|365|36,50,000.00||0.00"}))
+      << "equal totals stand on the charge's side";
+}
+
+TEST_F(Interest, NothingAtAllIsADebitOfNothing) {
+  Db().Execute("delete from FAData");
+  OpenPassBook();
+  PressInterest({Confirm()});
+  EXPECT_EQ(Rows(), Texts{"|||||365|||"});
+  EXPECT_EQ(Footer(), (Texts{"Product (Cr)|0|||", "Product (Dr)|365|||", "Net Dr|365|0.00||0.00"}));
+}
+
+TEST_F(Interest, TheFirmChoosesTheYearAndTheDecimals) {
+  gSession->CommonDb().Execute("insert into FirmParameters values (1025,'4')");
+  gSession->CommonDb().Execute("insert into FirmParameters values (1029,'Jan-Dec')");
+  AddVoucher({.id = 2, .date = "2024-04-11", .amount = "-30000", .cleared = "2024-04-11"});
+  OpenPassBook();
+  PressInterest({Confirm()});
+  EXPECT_EQ(Rows(), (Texts{"01-Apr-2024|-10,000.00|||-10,000.00|10|-1,00,000.00|25.9563|",
+                           "11-Apr-2024|20,000.00|30,000.00||20,000.00|355|71,00,000.00||1,842.8962"}))
+      << "2024 has 366 days";
+  EXPECT_EQ(Footer(),
+            (Texts{"Product (Cr)|10|1,00,000.00|25.9600|", "Product (Dr)|355|71,00,000.00||1,842.9000",
+                   "Net Dr|365|70,00,000.00||1,816.9400"}))
+      << "totals have two decimals whatever the rows have";
+}
+
+TEST_F(Interest, ImproperContraEntriesStopIt) {
+  AddContra(5, "2024-05-02", "7000", "", 5002);
+  AddContra(6, "2024-04-11", "-7000.5", "", 5012);
+  AddContra(7, "2023-04-11", "0.5", "", 5024);  // before the period
+  Db().Execute("update FANar set Narration='A' || ascii_char(9) || 'tab' where NarrationID=6");
+  const auto look = [&] {
+    CGridPlus& grid = At<CGridPlus>(Top(), "Grid");
+    ASSERT_EQ(Top()->Caption(), "Alert window");
+    EXPECT_EQ(At<Label>(Top(), "lblHeading").Caption(), "Contra Entries found");
+    EXPECT_EQ(grid.Title(), "Contra Entries");
+    ASSERT_EQ(grid.Rows(), 3);
+    Texts first;
+    Texts second;
+    for (int col = 0; col < grid.Cols; ++col) {
+      first.push_back(grid.TextMatrix(1, col));
+      second.push_back(grid.TextMatrix(2, col));
+    }
+    EXPECT_EQ(first, (Texts{"11-Apr-2024", "BNK", "A\ttab", "", "7,000.50", "6"}));
+    EXPECT_EQ(second, (Texts{"02-May-2024", "BNK", "Contra", "7,000.00", "", "5"}));
+    EXPECT_EQ(grid.ColWidth(5), 0);
+    EXPECT_EQ(grid.ColWidth(2), 40 * gRuntime->TextWidth(grid.Font, "9"));
+  };
+  OpenPassBook();
+  Statements();
+  AnswerMessage();
+  PressInterest({look, [&] { At<CGridPlus>(Top(), "Grid").UserDoubleClickRow(2); },
+                 [&] {
+                   EXPECT_EQ(Top()->Name(), "frmVoucher");
+                   EXPECT_EQ(Top()->Get("VoucherID").ToInteger(), 5);
+                   Key(*Top(), keys::kEscape);
+                 },
+                 [&] {
+                   // Asked again while it is up, nothing is counted twice.
+                   Key(*bench_, kF5);
+                   EXPECT_EQ(Top()->Caption(), "Alert window");
+                   EXPECT_EQ(At<CGridPlus>(Top(), "Grid").Rows(), 3);
+                 },
+                 Leave()});
+  const std::vector<Json> messages = Events("message");
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_EQ(messages[0]["text"],
+            "Improper contra entries found. Total of Contra entries is not 0 Can't calculate Interest.");
+  EXPECT_EQ(messages[0]["icon"], "E");
+  const std::string sent = Statements().at(0);
+  EXPECT_EQ(sent,
+            "Select a.dVchDate,a.dBook,n.Narration,a.dAmt,a.VoucherID from FAData a Left Join FANar n on "
+            "a.NarrationID=n.NarrationID where a.dcd=101 and a.dVchDate between '2024-04-01' and "
+            "'2025-03-31' and a.dTrnNature in (5002,5012,5024,5031,5041,5051) order by dVchDate");
+  EXPECT_TRUE(PassBook().Visible) << "no dialog, no table";
+  EXPECT_FALSE(View().Visible);
+  AnswerMessage();
+  OpenInterest({Leave()});
+  EXPECT_EQ(Top(), bench_);
+  for (const FormPtr& form : runtime_.Forms(Form::Origin::Module))
+    EXPECT_FALSE(form->Get("bCalcInt").ToFlag());
+}
+
+TEST_F(Interest, WhoLeavesWhileTheAlertIsUpHasLeft) {
+  AddContra(5, "2024-05-02", "7000", "2024-05-02", 5002);
+  AddContra(6, "2024-05-02", "-7000", "2024-05-02", 5012);
+  OpenPassBook();
+  AnswerMessage();
+  PressInterest({[&] { Key(*bench_, keys::kEscape); }, Leave()});
+  EXPECT_TRUE(At<CGridPlus>(bench_, "Grid").Visible) << "back among the entries no dialog comes up";
+  Key(*bench_, keys::kF7);
+  AnswerMessage();
+  PressInterest({[&] {
+    Key(*bench_, keys::kEscape);
+    Key(*bench_, keys::kEscape);
+  }});
+  EXPECT_FALSE(bench_->IsLoaded());
+  EXPECT_EQ(Top(), statement_);
+  EXPECT_EQ(runtime_.AllForms(), std::vector<FormPtr>{statement_}) << "the alert went too";
+  EXPECT_EQ(Messages().size(), 2U);
+}
+
+TEST_F(Interest, WhatLeavesTheRangeIsReportedAndTheTableStaysAsFarAsItGot) {
+  AddVoucher({.id = 2, .date = "2024-04-11", .amount = "9000000000000", .cleared = "2024-04-11"});
+  OpenPassBook();
+  PressInterest({Confirm()});
+  const std::vector<Json> errors = Events("error");
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0]["routine"], "UpdateGridInterest");
+  EXPECT_TRUE(View().Visible);
+  EXPECT_TRUE(View().Redraw());
+  EXPECT_EQ(View().TextMatrix(1, 6), "-1,00,000.00");
+  EXPECT_EQ(gRuntime->MousePointer(), kPointerDefault);
+  Key(*bench_, keys::kEscape);
+  EXPECT_TRUE(At<CGridPlus>(bench_, "Grid").Visible);
+}
+
+TEST_F(Interest, OpenedForItTheOtherViewsWorkToo) {
+  AddVoucher({.id = 2, .date = "2024-04-11", .amount = "-30000"});
+  OpenInterest({Confirm()});
+  ASSERT_TRUE(View().Visible);
+  AnswerDate("30-Apr-2024");
+  Key(*bench_, kF6);
+  CGridPlus& view = At<CGridPlus>(bench_, "GridStatement");
+  ASSERT_TRUE(view.Visible);
+  EXPECT_TRUE(EditCell(view, 3, 6, "15"));
+  EXPECT_EQ(Db().Lookup("FAData", "dBankDate", "VoucherID=2 and dVchSubNo=1").ToDate().Text(), "15-Apr-2024");
+  Key(*bench_, keys::kF7);
+  ASSERT_EQ(PassBook().Rows(), 3);
+  PressInterest({[&] { EXPECT_EQ(At<ComboBox>(Top(), "cmbInttMethod").ListIndex(), 0); }, Confirm()});
+  EXPECT_EQ(View().TextMatrix(2, 0), "15-Apr-2024") << "by the bank's date now";
+  EXPECT_TRUE(View().Title().starts_with("Pass Book Interest"));
+  Key(*bench_, keys::kEscape);
+  EXPECT_FALSE(bench_->IsLoaded());
+}
+
+TEST_F(Interest, AHostMayAskForTheInterestOfARow) {
+  OpenPassBook();
+  PressInterest({Method("CC Limit - Pay Only"), Confirm()});
+  const auto of = [&](const char* product) {
+    return bench_->Call("CalcInterest", {Amount::OfText(product)}).ToText();
+  };
+  EXPECT_EQ(of("372000"), "96.82") << "in the pass book the bank's charge";
+  EXPECT_EQ(of("-372000"), "0");
+  Key(*bench_, keys::kEscape);
+  EXPECT_EQ(of("-372000"), "96.82") << "in the books what the firm owes";
+}
+
+}  // namespace
+}  // namespace quillon
