@@ -68,9 +68,10 @@ frmAccount::frmAccount()
 
 void frmAccount::BuildBar() {
   BtnBar1.AddButtons({"Account,F2: Account,Customers", "Period,F3: Period,Date", "F4",
-                      "Interest,F5: Interest,Interest", "Reconciliation,F6: Reconciliation,Report", "F7",
-                      "Preview,F8: Preview,Preview", "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
-  BtnBar1.HideButtons({"F4", "F7"});
+                      "Interest,F5: Interest,Interest", "Reconciliation,F6: Reconciliation,Report",
+                      "Markings,F7: Markings,Modify", "Preview,F8: Preview,Preview", "Print,F9: Print,Print",
+                      "Exit,Esc: Exit,Close"});
+  BtnBar1.HideButtons({"F4"});
 }
 
 void frmAccount::PlaceControls() {
@@ -245,6 +246,8 @@ void frmAccount::ButtonPressed(int index) {
     AskPeriod();
   } else if (key == "Interest" || key == "Reconciliation") {
     OpenWorkbench(key == "Interest");
+  } else if (key == "Markings") {
+    OpenMarkings();
   } else if (key == "Preview" || key == "Print") {
     CReportOptions options;
     options.SetOption("MainHeadForm1", "AcMain1");
@@ -256,17 +259,45 @@ void frmAccount::ButtonPressed(int index) {
   }
 }
 
-void frmAccount::OpenWorkbench(bool interest) {
+FormPtr frmAccount::ModuleScreen(const std::string& key) {
   IModule* const module = gSession->Modules().Item("DutyworksModule");
-  const FormPtr workbench = module != nullptr ? module->GetForm("acreconciliation") : nullptr;
-  if (!workbench) {
+  FormPtr screen = module != nullptr ? module->GetForm(key) : nullptr;
+  if (screen) {
+    screen->CallingForm = Self();
+  } else {
     gStd->MsgBox("The reconciliation module is not loaded.", "", "W");
-    return;
   }
-  workbench->CallingForm = Self();
+  return screen;
+}
+
+void frmAccount::OpenWorkbench(bool interest) {
+  const FormPtr workbench = ModuleScreen("acreconciliation");
+  if (!workbench) return;
   workbench->Set("bCalcInt", interest);
   gApp->ShowForm(workbench);
 }
+
+void frmAccount::OpenMarkings() {
+  markings_ = ModuleScreen("acreconciliationmark");
+  if (!markings_) return;
+  markings_->Set("FYear", std::static_pointer_cast<Object>(gSession->CurrentYear()));
+  markings_->Set("AccountCode", AccountCode);
+  markings_->Set("Date1", Date1);
+  markings_->Set("Date2", Date2);
+  gApp->ShowForm(markings_);
+}
+
+/// The markings went into the books past this grid, and the workbench takes its dates from here.
+void frmAccount::OnActivate() {
+  ScreenForm::OnActivate();
+  if (!markings_ || !IsLoaded()) return;
+  if (!markings_->IsLoaded()) markings_.reset();
+  const int row = Grid.Row;
+  FillGrid();
+  Grid.Row = std::min(row, Grid.Rows - 1);
+}
+
+void frmAccount::UnloadScreen() { markings_.reset(); }
 
 void frmAccount::Grid_KeyDown(KeyEvent& key) {
   if (key.KeyCode != keys::kEnter || key.Shift != 0) return;

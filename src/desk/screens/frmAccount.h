@@ -46,6 +46,8 @@ class frmAccount : public ScreenForm {
   void LoadScreen() override;
   void FirstShow() override;
   void ButtonPressed(int index) override;
+  void OnActivate() override;
+  void UnloadScreen() override;
   GridModel* MainGrid() override { return &Grid; }
 
  private:
@@ -59,9 +61,13 @@ class frmAccount : public ScreenForm {
   void AddOpening(int& row, Sums& sums);
   void AddEntries(int& row, Sums& sums);
   void AddEntry(CDataSet& entry, int row, bool returned, Sums& sums);
+  FormPtr ModuleScreen(const std::string& key);
   void OpenWorkbench(bool interest);
+  void OpenMarkings();
   void Grid_KeyDown(KeyEvent& key);
   void OpenVoucher();
+
+  FormPtr markings_;  // while dates may have been stored behind this grid
 };
 
 }  // namespace quillon
