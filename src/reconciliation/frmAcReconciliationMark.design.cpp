@@ -24,9 +24,10 @@ void frmAcReconciliationMark::BuildBar() {
 }
 
 void frmAcReconciliationMark::DesignControls() {
-  MStrip2.Move(0, ContentTop() - kLine, Width, kLine);
-  MStrip1.Move(0, BtnBar1.Top - kLine - kGap, Width, kLine);
-  picInputs.Move(0, ContentTop() + kGap, Width, kInputsHeight);
+  const long inputs = ContentTop() + kGap;
+  MStrip2.Move(MStrip1.Left, MStrip1.Top, MStrip1.Width, MStrip1.Height);
+  MStrip1.Top = BtnBar1.Top - MStrip1.Height - kGap;  // the party of the row below, as on the workbench
+  picInputs.Move(0, inputs, Width, kInputsHeight);
   txpDays.Caption = "Search Days";
   txpDays.LabelWidth = kDaysLabelWidth;
   txpDays.Move(60, (kInputsHeight - kLine) / 2, kDaysWidth, kLine);
