@@ -48,7 +48,6 @@ TEST_F(Account, RowsBalanceAndFooter) {
   EXPECT_EQ(grid.Footer.TextMatrix(0, 26), "340.25 Dr.");
   EXPECT_EQ(At<Label>(form, "lblTitle1", 2).Caption(), "Period: 01/04/2024 to 31/03/2025");
   EXPECT_EQ(form->Get("FAMaster").ToObject()->Get("AcHead").ToText(), "Sahyadri Bank");
-  EXPECT_FALSE(At<CButtonBar>(form, "BtnBar1").Buttons("Interest").Enabled());
 }
 
 TEST_F(Account, APeriodBeginsWithAllThatLiesBeforeIt) {
