@@ -22,6 +22,7 @@ class BankBook {
     Send("insert into CtgMaster (CtgNo,CtgName) values (?,?)", {47, "Banks"});
     Send("insert into CtgMaster (CtgNo,CtgName) values (?,?)", {130, "Sundry Debtors"});
     WriteAccount(kBank, "State Bank, Current A/c", 47);
+    Send("insert into RatesPA (mcd,Rate1) values (?,?)", {kBank, Amount::OfText("9.5")});
     for (int i = 0; i < kParties; ++i) WriteAccount(kFirstParty + i, "Party No. " + std::to_string(i), 130);
   }
 

@@ -55,7 +55,7 @@ void DeskWork::ReadyStatement() {
 void DeskWork::OpenWorkbench() {
   Press(*statement_, "Reconciliation");
   workbench_ = runtime_.ActiveForm();
-  inView_ = false;
+  view_ = View::Entries;
   references_ = true;
 }
 
@@ -65,7 +65,7 @@ void DeskWork::CloseWorkbench() {
 }
 
 void DeskWork::ReadyEntries() {
-  if (workbench_ && !inView_) return;
+  if (workbench_ && view_ == View::Entries) return;
   ReadyStatement();
   OpenWorkbench();
 }
@@ -78,12 +78,12 @@ void DeskWork::StoreDate() {
   grid.UserLeaveCell();
 }
 
-void DeskWork::ReadyView(bool references) {
-  if (!workbench_ || !inView_) {
+void DeskWork::ReadyView(View view, bool references) {
+  if (!workbench_ || view_ != view) {
     ReadyEntries();
-    runtime_.Laid.Add({{"to", "date"}, {"date1", "31-Mar-2025"}});
-    Press(*workbench_, "Statement");
-    inView_ = true;
+    if (view == View::Reconciliation) runtime_.Laid.Add({{"to", "date"}, {"date1", "31-Mar-2025"}});
+    Press(*workbench_, view == View::Reconciliation ? "Statement" : "PassBook");
+    view_ = view;
   }
   if (references_ != references) PressReferences();
 }
@@ -91,6 +91,16 @@ void DeskWork::ReadyView(bool references) {
 void DeskWork::PressReferences() {
   Press(*workbench_, "ShowRef");
   references_ = !references_;
+}
+
+void DeskWork::ShowInterest() {
+  runtime_.NextCommand = [this] {
+    runtime_.ActiveForm()->UserKey(keys::kF7, 0, 0);
+    return true;
+  };
+  Press(*workbench_, "Interest");
+  runtime_.NextCommand = nullptr;
+  view_ = View::Interest;
 }
 
 }  // namespace quillon::bench

@@ -33,11 +33,16 @@ class DeskWork {
   /// Enters the cell of the next entry, types a date and leaves.
   void StoreDate();
 
-  /// Shows the reconciliation statement as on the end of the year, its references shown or hidden.
-  void ReadyView(bool references);
+  /// Shows the reconciliation statement as on the end of the year, or the pass book of the year, its
+  /// references shown or hidden.
+  void ReadyReconciliation(bool references) { ReadyView(View::Reconciliation, references); }
+  void ReadyPassBook(bool references) { ReadyView(View::PassBook, references); }
 
-  /// Builds that statement again, with references where there were none and the other way round.
+  /// Builds that view again, with references where there were none and the other way round.
   void PressReferences();
+
+  /// From the pass book through the dialog, which is accepted as it comes up, to the table.
+  void ShowInterest();
 
  private:
   /// The driver's runtime where whatever was not expected is an error, and forms that are gone are let go.
@@ -51,7 +56,10 @@ class DeskWork {
     void FormHappened(Happening, Form&) override {}
   };
 
+  enum class View { Entries, Reconciliation, PassBook, Interest };
+
   void Press(Form& form, const char* button);
+  void ReadyView(View view, bool references);
 
   std::ostream nowhere_{nullptr};
   EventLog log_{nowhere_};
@@ -59,7 +67,7 @@ class DeskWork {
   Desk desk_;
   FormPtr statement_;
   FormPtr workbench_;
-  bool inView_ = false;
+  View view_ = View::Entries;
   bool references_ = true;
   int stored_ = 0;
 };

@@ -16,10 +16,15 @@ const std::vector<Case>& Cases() {
       {"Statement of account", &DeskWork::CloseForms, &DeskWork::OpenStatement, &DeskWork::CloseForms},
       {"Workbench opened", &DeskWork::ReadyStatement, &DeskWork::OpenWorkbench, &DeskWork::CloseWorkbench},
       {"Date stored", &DeskWork::ReadyEntries, &DeskWork::StoreDate, nothing, DeskWork::kRows},
-      {"Reconciliation, no references", [](DeskWork& desk) { desk.ReadyView(true); },
+      {"Reconciliation, no references", [](DeskWork& desk) { desk.ReadyReconciliation(true); },
        &DeskWork::PressReferences, nothing},
-      {"Reconciliation, references", [](DeskWork& desk) { desk.ReadyView(false); },
+      {"Reconciliation, references", [](DeskWork& desk) { desk.ReadyReconciliation(false); },
        &DeskWork::PressReferences, nothing},
+      {"Pass book, no references", [](DeskWork& desk) { desk.ReadyPassBook(true); },
+       &DeskWork::PressReferences, nothing},
+      {"Pass book, references", [](DeskWork& desk) { desk.ReadyPassBook(false); }, &DeskWork::PressReferences,
+       nothing},
+      {"Interest", [](DeskWork& desk) { desk.ReadyPassBook(false); }, &DeskWork::ShowInterest, nothing},
   };
   return cases;
 }

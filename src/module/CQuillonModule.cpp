@@ -7,6 +7,7 @@
 #include "host/Runtime.h"
 #include "host/Text.h"
 #include "reconciliation/frmAcReconciliation.h"
+#include "reconciliation/frmAcReconciliationMark.h"
 #include "reconciliation/frmInttMethod.h"
 
 namespace quillon {
@@ -26,6 +27,7 @@ struct FormKey {
 /// The keys of GetForm, in lower case.
 constexpr FormKey kFormKeys[] = {
     {"acreconciliation", Make<frmAcReconciliation>},
+    {"acreconciliationmark", Make<frmAcReconciliationMark>},
     {"inttmethod", Make<frmInttMethod>},
     {"chqretreport", Make<frmChqRetReport>},
 };

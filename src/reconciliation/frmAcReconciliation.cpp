@@ -69,6 +69,7 @@ frmAcReconciliation::frmAcReconciliation()
   ConnectPassBook();
   chkReturned.Click = [this] { chkReturned_Click(); };
   cmbFilter.Click = [this] { cmbFilter_Click(); };
+  mmMarking.Click = [this](int item) { mMarking_Click(item); };
 }
 
 /// The routines that a host may call late.
@@ -95,6 +96,10 @@ void frmAcReconciliation::RegisterRoutines() {
   save("SaveRow", &frmAcReconciliation::SaveRow);
   save("SaveStatementRow", &frmAcReconciliation::SaveStatementRow);
   routine("RunInterest", &frmAcReconciliation::RunInterest);
+  Method("MassMarking", [this](const Array& arguments) {
+    MassMarking(arguments.at(0).ToFlag());
+    return Variant();
+  });
   Method("CalcInterest", [this](const Array& arguments) { return CalcInterest(arguments.at(0).ToAmount()); });
 }
 
@@ -145,7 +150,9 @@ void frmAcReconciliation::ButtonPressed(int index) {
   CGridPlus* const grid = VisibleGrid();
   // A date that is being typed is stored first, so that the view that is asked for has it.
   if (key != "Exit" && grid != nullptr && !grid->EndEdit()) return;
-  if (key == "ShowRef") {
+  if (key == "MassMarking") {
+    PopupMarking();
+  } else if (key == "ShowRef") {
     showReference_ = !showReference_;
     if (GridStatement.Visible) UpdateGridStatement();
     if (GridPBook.Visible) UpdateGridPassBook();

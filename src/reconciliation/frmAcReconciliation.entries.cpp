@@ -201,12 +201,16 @@ void frmAcReconciliation::Grid_ValidateCell(int row, int col, std::string& text,
 
 void frmAcReconciliation::SaveRow(int row, const std::string& dateText) {
   const Date date = Date::Parse(dateText);
-  gSession->Year().Db().Execute("Update FAData set dBankDate=" + books::SqlDateOrNull(date) +
-                                " where VoucherID=" + books::SqlNumber(Grid.Cell(row, kVoucherId)) +
-                                " and dVchSubNo=" + books::SqlNumber(Grid.Cell(row, kVchSubNo)));
+  StoreClearedDate(row, date);
   if (const int source = SourceRow(row); source > 0) {
     statement_->SetTextMatrix(source, kClearedOn, date.IsEmpty() ? dateText : date.Text());
   }
+}
+
+void frmAcReconciliation::StoreClearedDate(int row, Date date) {
+  gSession->Year().Db().Execute("Update FAData set dBankDate=" + books::SqlDateOrNull(date) +
+                                " where VoucherID=" + books::SqlNumber(Grid.Cell(row, kVoucherId)) +
+                                " and dVchSubNo=" + books::SqlNumber(Grid.Cell(row, kVchSubNo)));
 }
 
 /// The row of the calling statement that a row of Grid was copied from; 0 when that statement has turned to

@@ -47,6 +47,10 @@ class frmAcReconciliation : public ScreenForm {
   void SaveStatementRow(int row, const std::string& dateText);
   void UpdateGridPassBook();
 
+  /// Asks for a period and fills, or empties, the cleared date of all entries that show. Dates that are there
+  /// already stay.
+  void MassMarking(bool unmark);
+
   /// Asks for the rate and the method, and shows the interest on the pass book, or on the account as it
   /// stands in the books.
   void RunInterest();
@@ -91,6 +95,7 @@ class frmAcReconciliation : public ScreenForm {
   void TakeStatementLayout(CGridPlus& grid);
   void SetGridColumns();
   void CopyStatementRows();
+  void StoreClearedDate(int row, Date date);
   int SourceRow(int row) const;
   void SaveRowAndCell(int row, const std::string& dateText);
   void ShowFilterTitle();
@@ -104,6 +109,11 @@ class frmAcReconciliation : public ScreenForm {
   void chkReturned_Click();
   void cmbFilter_Click();
   void PutCursorOnLastRow();
+
+  // Marking many.
+  void PopupMarking();
+  void mMarking_Click(int item);
+  void MassMarkRow(int row, Date date);
 
   // The statement as on a date.
   struct Section;

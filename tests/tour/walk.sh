@@ -8,7 +8,7 @@ script=$(cd "$(dirname "$0")/../.." && pwd)/scripts/tour.txt
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
-"$sample" "$folder/firm" --vouchers 400 --years 2023,2024
+"$sample" "$folder/firm"
 cd "$folder"
 "$tour" "$script" firm pictures "$zoom"
 asked=$(grep -c '^picture ' "$script")

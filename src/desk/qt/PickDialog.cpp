@@ -2,11 +2,19 @@
 
 #include <QHeaderView>
 #include <QTreeWidget>
+#include <algorithm>
+#include <cmath>
 
 #include "desk/qt/Scale.h"
 #include "host/GridModel.h"
 
 namespace quillon {
+
+namespace {
+
+constexpr long kBars = 330;  // the list's edges and scroll bar
+
+}  // namespace
 
 PickDialog::PickDialog(const CPickList& list, QWidget* parent)
     : DeskDialog(QString::fromStdString(list.TitleText()), parent), lines_(new QTreeWidget(this)) {
@@ -28,15 +36,28 @@ PickDialog::PickDialog(const CPickList& list, QWidget* parent)
       if (right) item->setTextAlignment(col, Qt::AlignRight | Qt::AlignVCenter);
     }
   }
-  for (std::size_t col = 0; col < list.Columns().size(); ++col) {
-    lines_->header()->resizeSection(static_cast<int>(col), Scale::Px(list.Columns()[col].width));
-  }
+  PlaceColumns(list);
   lines_->setMinimumSize(Scale::Px(list.Width), Scale::Px(list.Height));
   if (lines_->topLevelItemCount() > 0) lines_->setCurrentItem(lines_->topLevelItem(0));
   Content().addWidget(lines_);
   AddOkCancel();
   connect(lines_, &QTreeWidget::itemDoubleClicked, this, [this] { accept(); });
   lines_->setFocus();
+}
+
+/// The widths asked for share what is left over of the list's.
+void PickDialog::PlaceColumns(const CPickList& list) {
+  long asked = 0;
+  for (const CPickList::ColumnSpec& column : list.Columns()) asked += column.width;
+  const double stretch =
+      asked > 0 ? std::max(1.0, static_cast<double>(list.Width - kBars) / static_cast<double>(asked)) : 1;
+  for (std::size_t i = 0; i < list.Columns().size(); ++i) {
+    const CPickList::ColumnSpec& column = list.Columns()[i];
+    const int col = static_cast<int>(i);
+    lines_->header()->resizeSection(col, Scale::Px(std::lround(static_cast<double>(column.width) * stretch)));
+    if (column.alignment == kAlignRight)
+      lines_->headerItem()->setTextAlignment(col, Qt::AlignRight | Qt::AlignVCenter);
+  }
 }
 
 bool PickDialog::Check() { return lines_->currentItem() != nullptr; }

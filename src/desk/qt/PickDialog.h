@@ -19,6 +19,8 @@ class PickDialog : public DeskDialog {
   bool Check() override;
 
  private:
+  void PlaceColumns(const CPickList& list);
+
   QTreeWidget* lines_;
 };
 

@@ -67,10 +67,10 @@ frmAccount::frmAccount()
 }
 
 void frmAccount::BuildBar() {
-  BtnBar1.AddButtons({"Account,F2: Account,Customers", "Period,F3: Period,Date",
-                      "Marking,F4: Marking,Reconciliation", "Interest,F5: Interest,Interest",
-                      "Reconciliation,F6: Reconciliation,Report", "ChqReturned,F7: Chq. Returned,Voucher",
-                      "Preview,F8: Preview,Preview", "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
+  BtnBar1.AddButtons({"Account,F2: Account,Customers", "Period,F3: Period,Date", "Marking,F4: Marking,Modify",
+                      "Interest,F5: Interest,Interest", "Reconciliation,F6: Reconciliation,Report",
+                      "ChqReturned,F7: Chq. Returned,Voucher", "Preview,F8: Preview,Preview",
+                      "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
 }
 
 void frmAccount::PlaceControls() {
@@ -260,42 +260,54 @@ void frmAccount::ButtonPressed(int index) {
   }
 }
 
-FormPtr frmAccount::ModuleForm(const char* key) {
+FormPtr frmAccount::ModuleScreen(const std::string& key) {
   IModule* const module = gSession->Modules().Item("DutyworksModule");
-  const FormPtr form = module != nullptr ? module->GetForm(key) : nullptr;
-  if (!form) gStd->MsgBox("The reconciliation module is not loaded.", "", "W");
-  return form;
+  FormPtr screen = module != nullptr ? module->GetForm(key) : nullptr;
+  if (screen) {
+    screen->CallingForm = Self();
+  } else {
+    gStd->MsgBox("The reconciliation module is not loaded.", "", "W");
+  }
+  return screen;
 }
 
 void frmAccount::OpenWorkbench(bool interest) {
-  const FormPtr workbench = ModuleForm("acreconciliation");
+  const FormPtr workbench = ModuleScreen("acreconciliation");
   if (!workbench) return;
-  workbench->CallingForm = Self();
   workbench->Set("bCalcInt", interest);
   gApp->ShowForm(workbench);
 }
 
 void frmAccount::OpenMarking() {
-  const FormPtr marking = ModuleForm("acreconciliationmark");
-  if (!marking) return;
-  marking->CallingForm = Self();
-  marking->Set("FYear", std::static_pointer_cast<Object>(gSession->CurrentYear()));
-  ShowForPeriod(marking);
+  markings_ = ModuleScreen("acreconciliationmark");
+  if (!markings_) return;
+  markings_->Set("FYear", std::static_pointer_cast<Object>(gSession->CurrentYear()));
+  ShowForPeriod(*markings_);
 }
 
 void frmAccount::OpenReturnedCheques() {
-  const FormPtr report = ModuleForm("chqretreport");
-  if (!report) return;
-  report->CallingForm = Self();
-  ShowForPeriod(report);
+  const FormPtr report = ModuleScreen("chqretreport");
+  if (report) ShowForPeriod(*report);
 }
 
-void frmAccount::ShowForPeriod(const FormPtr& form) {
-  form->Set("AccountCode", AccountCode);
-  form->Set("Date1", Date1);
-  form->Set("Date2", Date2);
-  gApp->ShowForm(form);
+void frmAccount::ShowForPeriod(Form& screen) {
+  screen.Set("AccountCode", AccountCode);
+  screen.Set("Date1", Date1);
+  screen.Set("Date2", Date2);
+  gApp->ShowForm(screen.Self());
 }
+
+/// The markings went into the books past this grid, and the workbench takes its dates from here.
+void frmAccount::OnActivate() {
+  ScreenForm::OnActivate();
+  if (!markings_ || !IsLoaded()) return;
+  if (!markings_->IsLoaded()) markings_.reset();
+  const int row = Grid.Row;
+  FillGrid();
+  Grid.Row = std::min(row, Grid.Rows - 1);
+}
+
+void frmAccount::UnloadScreen() { markings_.reset(); }
 
 void frmAccount::Grid_KeyDown(KeyEvent& key) {
   if (key.KeyCode != keys::kEnter || key.Shift != 0) return;

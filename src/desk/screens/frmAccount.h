@@ -46,6 +46,8 @@ class frmAccount : public ScreenForm {
   void LoadScreen() override;
   void FirstShow() override;
   void ButtonPressed(int index) override;
+  void OnActivate() override;
+  void UnloadScreen() override;
   GridModel* MainGrid() override { return &Grid; }
 
  private:
@@ -59,16 +61,19 @@ class frmAccount : public ScreenForm {
   void AddOpening(int& row, Sums& sums);
   void AddEntries(int& row, Sums& sums);
   void AddEntry(CDataSet& entry, int row, bool returned, Sums& sums);
-  /// A new form of the module; nothing, and a message, when there is no module.
-  FormPtr ModuleForm(const char* key);
+
+  /// A new screen of the module, called from here; nothing, and a message, when there is no module.
+  FormPtr ModuleScreen(const std::string& key);
   void OpenWorkbench(bool interest);
   void OpenMarking();
   void OpenReturnedCheques();
 
   /// Shows a screen of the module on this account and period.
-  void ShowForPeriod(const FormPtr& form);
+  void ShowForPeriod(Form& screen);
   void Grid_KeyDown(KeyEvent& key);
   void OpenVoucher();
+
+  FormPtr markings_;  // while dates may have been stored behind this grid
 };
 
 }  // namespace quillon

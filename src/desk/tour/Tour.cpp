@@ -16,12 +16,13 @@ namespace quillon {
 
 namespace {
 
-/// Where a key press arrives.
+/// Where a key press arrives: a dialog has the keys from the moment it shows.
 QWidget* KeyTarget(QWidget& desk) {
   if (QWidget* popup = QApplication::activePopupWidget()) return popup;
-  if (QWidget* focused = QApplication::focusWidget()) return focused;
-  if (QWidget* dialog = QApplication::activeModalWidget()) return dialog;
-  return &desk;
+  QWidget* const dialog = QApplication::activeModalWidget();
+  QWidget* const window = dialog != nullptr ? dialog : QApplication::activeWindow();
+  if (window == nullptr) return &desk;
+  return window->focusWidget() != nullptr ? window->focusWidget() : window;
 }
 
 }  // namespace

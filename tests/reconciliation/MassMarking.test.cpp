@@ -1,0 +1,241 @@
+#include "tests/support/DeskFixture.h"
+
+namespace quillon {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+constexpr int kCleared = 27;
+constexpr int kMark = 0;
+constexpr int kUnmark = 1;
+
+/// The workbench on bank 101 with entries on the 5th, 8th, 12th and 30th of April and the 2nd of May; that of
+/// the 8th was cleared on the 10th.
+class MassMarking : public DeskTest {
+ protected:
+  void SetUp() override {
+    OpenNewFirm();
+    AddAccount(101, "Sahyadri Bank", 47, "Pune");
+    AddAccount(201, "Asha Traders");
+    AddVoucher({.id = 1, .date = "2024-04-01", .amount = "10000", .book = "0B"});
+    AddVoucher({.id = 2, .date = "2024-04-05", .amount = "1500"});
+    AddVoucher({.id = 3, .date = "2024-04-08", .amount = "-2500.5", .cleared = "2024-04-10"});
+    AddVoucher({.id = 4, .date = "2024-04-12", .amount = "1234567.89"});
+    AddVoucher({.id = 5, .date = "2024-04-30", .amount = "-700", .line = 3});
+    AddVoucher({.id = 6, .date = "2024-05-02", .amount = "80"});
+    statement_ = ShowStatement();
+    bench_ = ShowWorkbench(statement_);
+    Statements();
+  }
+
+  CGridPlus& Grid() { return At<CGridPlus>(bench_, "Grid"); }
+  CGridPlus& Source() { return At<CGridPlus>(statement_, "Grid"); }
+  void Choose(int filter) {
+    Do([&] { At<ComboBox>(bench_, "cmbFilter").UserChoose(filter); });
+  }
+
+  void AnswerPeriod(const std::string& first, const std::string& last) {
+    runtime_.Laid.Add({{"to", "date"}, {"date1", first}, {"date2", last}});
+  }
+
+  /// F3 and an item of the menu that pops up; below 0 the menu is left.
+  void Pick(int item) {
+    runtime_.NextCommand = [this, item] {
+      if (item < 0) {
+        runtime_.LeaveMenu();
+      } else {
+        runtime_.PickFromMenu(item);
+      }
+      return true;
+    };
+    Key(*bench_, keys::kF3);
+  }
+
+  void Run(int item, const std::string& first, const std::string& last, int button = 1) {
+    AnswerPeriod(first, last);
+    AnswerMessage(button);
+    Pick(item);
+  }
+
+  /// The dates of the vouchers 2 to 6 in the books, and of the rows in a grid.
+  Texts Stored() {
+    Texts dates;
+    for (int id = 2; id <= 6; ++id) {
+      dates.push_back(Db().Lookup("FAData", "dBankDate", "dcd=101 and VoucherID=" + std::to_string(id))
+                          .ToDate()
+                          .Format("dd/MM"));
+    }
+    return dates;
+  }
+  static Texts Column(const CGridPlus& grid, int col) {
+    Texts texts;
+    for (int row = 1; row < grid.Rows; ++row)
+      texts.push_back(Date::Parse(grid.TextMatrix(row, col)).Format("dd/MM"));
+    return texts;
+  }
+  Texts Updates() {
+    Texts updates = Statements();
+    std::erase_if(updates, [](const std::string& sql) { return !sql.starts_with("Update"); });
+    return updates;
+  }
+
+  FormPtr statement_;
+  FormPtr bench_;
+};
+
+TEST_F(MassMarking, FillsEmptyDatesOfAPeriodWithBothItsEnds) {
+  const Texts footer = {Grid().Footer.TextMatrix(1, 24), Grid().Footer.TextMatrix(1, 26)};
+  Run(kMark, "05-Apr-2024", "30-Apr-2024");
+  const std::vector<Json> menus = Events("menu");
+  ASSERT_EQ(menus.size(), 1U);
+  EXPECT_EQ(menus[0]["name"], "mmMarking");
+  EXPECT_EQ(menus[0]["items"], (Json{"Mass Marking of Entries", "Mass Un-Marking of Entries"}));
+  const std::vector<Json> periods = Events("date");
+  ASSERT_EQ(periods.size(), 1U);
+  EXPECT_EQ(periods[0]["single"], false);
+  const std::vector<Json> asked = Events("message");
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0]["text"],
+            "All entries where Cleared on date is not entered shall be filled with the date of transaction "
+            "for the given period.\nAre you sure to Mark / Fill cleared on date? ");
+  EXPECT_EQ(asked[0]["icon"], "Q");
+  EXPECT_EQ(asked[0]["buttons"], (Json{"Yes", "No"}));
+  EXPECT_EQ(asked[0]["default"], 2);
+  EXPECT_EQ(Updates(), (Texts{"Update FAData set dBankDate='2024-04-05' where VoucherID=2 and dVchSubNo=1",
+                              "Update FAData set dBankDate='2024-04-12' where VoucherID=4 and dVchSubNo=1",
+                              "Update FAData set dBankDate='2024-04-30' where VoucherID=5 and dVchSubNo=3"}));
+  EXPECT_EQ(Stored(), (Texts{"05/04", "10/04", "12/04", "30/04", ""})) << "the date that was there stays";
+  EXPECT_EQ(Db().Lookup("FAData", "count(*)", "dcd=201 and dBankDate is not null").ToInteger(), 0);
+  EXPECT_EQ(Column(Grid(), kCleared), (Texts{"", "05/04", "10/04", "12/04", "30/04", ""}));
+
+  // What the menu does not refresh: the statement and the totals of the marked.
+  EXPECT_EQ(Column(Source(), 4), (Texts{"", "", "10/04", "", "", ""}));
+  EXPECT_EQ((Texts{Grid().Footer.TextMatrix(1, 24), Grid().Footer.TextMatrix(1, 26)}), footer);
+  Do([&] {
+    ASSERT_TRUE(Grid().UserEnterCell(3, kCleared));
+    ASSERT_TRUE(Grid().UserLeaveCell());
+  });
+  EXPECT_EQ(Grid().Footer.TextMatrix(1, 24), "12,46,067.89") << "the next edit counts all of them";
+
+  Run(kMark, "05-Apr-2024", "30-Apr-2024");
+  EXPECT_EQ(Updates(), Texts()) << "with every date there nothing is written";
+  // The rows come from the statement again, which still has the old dates.
+  Choose(1);
+  EXPECT_EQ(Column(Grid(), kCleared), Texts{"10/04"});
+}
+
+TEST_F(MassMarking, EmptiesTheDatesOfAPeriod) {
+  Run(kMark, "05-Apr-2024", "02-May-2024");
+  EXPECT_EQ(Stored(), (Texts{"05/04", "10/04", "12/04", "30/04", "02/05"}));
+  const std::string marked = Grid().Footer.TextMatrix(1, 26);
+  Statements();
+  Events("message");
+  Run(kUnmark, "08-Apr-2024", "30-Apr-2024");
+  const std::vector<Json> asked = Events("message");
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0]["text"],
+            "Be careful! This will remove cleared on date as entered by you for the given period.\n"
+            "Are you sure to Un-Mark / Remove cleared on date? ");
+  EXPECT_EQ(asked[0]["default"], 2);
+  EXPECT_EQ(Updates(), (Texts{"Update FAData set dBankDate=Null where VoucherID=3 and dVchSubNo=1",
+                              "Update FAData set dBankDate=Null where VoucherID=4 and dVchSubNo=1",
+                              "Update FAData set dBankDate=Null where VoucherID=5 and dVchSubNo=3"}));
+  EXPECT_EQ(Stored(), (Texts{"05/04", "", "", "", "02/05"})) << "the entry's own date counts, not the bank's";
+  EXPECT_EQ(Column(Grid(), kCleared), (Texts{"", "05/04", "", "", "", "02/05"}));
+  EXPECT_EQ(Column(Source(), 4), (Texts{"", "", "10/04", "", "", ""}));
+  EXPECT_EQ(Grid().Footer.TextMatrix(1, 26), marked);
+}
+
+TEST_F(MassMarking, TheOpeningRowIsARowOfItsDate) {
+  Run(kMark, "01-Apr-2024", "01-Apr-2024");
+  EXPECT_EQ(Updates(), Texts{"Update FAData set dBankDate='2024-04-01' where VoucherID=0 and dVchSubNo=0"});
+  EXPECT_EQ(Grid().TextMatrix(1, kCleared), "01-Apr-2024");
+  EXPECT_EQ(Db().Lookup("FAData", "count(*)", "dBankDate is not null").ToInteger(), 1) << "no line is that";
+}
+
+TEST_F(MassMarking, LeavesWhatIsHiddenAndWhatTheFilterHolds) {
+  Grid().SetRowHeight(4, 0);
+  Run(kMark, "01-Apr-2024", "31-May-2024");
+  EXPECT_EQ(Stored(), (Texts{"05/04", "10/04", "", "30/04", "02/05"})) << "a hidden row is no entry";
+  // The statement knows of one date only, so that is the one that may go.
+  Choose(1);
+  Run(kUnmark, "01-Apr-2024", "31-May-2024");
+  EXPECT_EQ(Stored(), (Texts{"05/04", "", "", "30/04", "02/05"}));
+  Source().SetTextMatrix(3, 4, "");
+  Choose(2);
+  ASSERT_EQ(Grid().Rows(), 7);
+  Statements();
+  Run(kMark, "12-Apr-2024", "12-Apr-2024");
+  EXPECT_EQ(Stored(), (Texts{"05/04", "", "12/04", "30/04", "02/05"}));
+  Choose(1);
+  ASSERT_EQ(Grid().TextMatrix(1, 8), "") << "a filter that leaves nothing leaves an empty row";
+  Statements();
+  Run(kMark, "01-Apr-2024", "31-May-2024");
+  Run(kUnmark, "01-Apr-2024", "31-May-2024");
+  EXPECT_EQ(Updates(), Texts());
+}
+
+TEST_F(MassMarking, ChangesNothingUntilAllIsConfirmed) {
+  const Texts before = Stored();
+  Pick(-1);
+  EXPECT_EQ(Events("date").size(), 0U) << "the menu was left";
+  for (const int item : {kMark, kUnmark}) {
+    runtime_.Laid.Add({{"to", "date"}, {"cancel", true}});
+    Pick(item);
+    EXPECT_EQ(Events("message").size(), 0U) << "the dialog was left";
+    Run(item, "01-Apr-2024", "31-May-2024", 2);
+    EXPECT_EQ(Events("message").size(), 1U);
+    Run(item, "03-May-2024", "31-Mar-2025");
+    Run(item, "31-May-2024", "01-Apr-2024");
+    Events("message");
+  }
+  EXPECT_EQ(Updates(), Texts());
+  EXPECT_EQ(Stored(), before);
+}
+
+TEST_F(MassMarking, ADateThatIsBeingTypedIsStoredFirst) {
+  Do([&] {
+    ASSERT_TRUE(Grid().UserEnterCell(2, kCleared));
+    Grid().UserType("9");
+  });
+  Run(kMark, "05-Apr-2024", "12-Apr-2024");
+  EXPECT_EQ(Stored(), (Texts{"09/04", "10/04", "12/04", "", ""}));
+  Events("message");
+  Events("menu");
+  // In the middle of a nonsense date there is no menu.
+  Do([&] {
+    ASSERT_TRUE(Grid().UserEnterCell(2, kCleared));
+    Grid().UserType("nonsense");
+  });
+  AnswerMessage();
+  Key(*bench_, keys::kF3);
+  EXPECT_EQ(Messages(), Texts{"Invalid Date"});
+  EXPECT_EQ(Events("menu").size(), 0U);
+  Do([&] { Grid().CancelEdit(); });
+}
+
+TEST_F(MassMarking, AFailureIsReportedAndWhatWasStoredStays) {
+  Db().Execute(
+      "create trigger Keeps for FAData before update as declare x integer; begin if (old.VoucherID=4) then "
+      "x=1/0; end");
+  Run(kMark, "01-Apr-2024", "31-May-2024");
+  const std::vector<Json> errors = Events("error");
+  ASSERT_EQ(errors.size(), 1U);
+  EXPECT_EQ(errors[0]["routine"], "MassMarking");
+  EXPECT_EQ(Stored(), (Texts{"05/04", "10/04", "", "", ""}));
+  EXPECT_EQ(Grid().TextMatrix(4, kCleared), "") << "a date stands in the grid when it stands in the books";
+}
+
+TEST_F(MassMarking, AHostMayCallIt) {
+  AnswerPeriod("05-Apr-2024", "05-Apr-2024");
+  AnswerMessage();
+  Do([&] { bench_->Call("massmarking", {false}); });
+  EXPECT_EQ(Stored(), (Texts{"05/04", "10/04", "", "", ""}));
+  AnswerPeriod("05-Apr-2024", "05-Apr-2024");
+  AnswerMessage();
+  Do([&] { bench_->Call("MassMarking", {true}); });
+  EXPECT_EQ(Stored(), (Texts{"", "10/04", "", "", ""}));
+}
+
+}  // namespace
+}  // namespace quillon
