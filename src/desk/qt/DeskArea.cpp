@@ -14,18 +14,18 @@ void DeskArea::Bring(FormView& view) {
   views_.removeAll(&view);
   views_.append(&view);
   if (view.parentWidget() != ground_) view.setParent(ground_);
-  ShowTop();
+  Fit();
 }
 
 void DeskArea::Remove(FormView& view) {
   views_.removeAll(&view);
   view.hide();
-  ShowTop();
+  Fit();
 }
 
 FormView* DeskArea::Top() const { return views_.isEmpty() ? nullptr : views_.last(); }
 
-void DeskArea::ShowTop() {
+void DeskArea::Fit() {
   FormView* const top = Top();
   const QSize room = viewport()->size();
   ground_->resize(top != nullptr ? top->size().expandedTo(room) : room);
@@ -37,8 +37,7 @@ void DeskArea::ShowTop() {
 
 void DeskArea::resizeEvent(QResizeEvent* event) {
   QScrollArea::resizeEvent(event);
-  ShowTop();
-  if (OnResized) OnResized();
+  Fit();
 }
 
 }  // namespace quillon

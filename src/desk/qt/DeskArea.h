@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QScrollArea>
-#include <functional>
 
 namespace quillon {
 
@@ -15,18 +14,16 @@ class DeskArea : public QScrollArea {
   void Bring(FormView& view);
   void Remove(FormView& view);
 
+  /// Shows the top screen whole, by scroll bars where the room does not do.
+  void Fit();
+
   /// The screen that shows, or nothing.
   FormView* Top() const;
-
-  /// Called when the room for screens has changed.
-  std::function<void()> OnResized;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void ShowTop();
-
   QWidget* ground_;
   QList<FormView*> views_;
 };

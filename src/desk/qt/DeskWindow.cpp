@@ -52,6 +52,7 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   pages->addWidget(start_);
   pages->addWidget(area_);
   setCentralWidget(middle);
+  middle->installEventFilter(this);
   statusBar()->addWidget(firm_, 1);
   statusBar()->addPermanentWidget(busy_);
   statusBar()->setSizeGripEnabled(false);
@@ -63,7 +64,6 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   start_->OnStatement = [this] { OpenStatement(); };
   start_->OnAccounts = [this] { OpenAccount(); };
   runtime_.OnTopChanged = [this] { ShowPage(); };
-  area_->OnResized = [this] { TakeArea(); };
   Desk::Options options;
   options.ModulePath = modulePath;
   options.OutputFolder = reports_.path().toStdString();
@@ -76,7 +76,7 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
 }
 
 DeskWindow::~DeskWindow() {
-  area_->OnResized = {};
+  centralWidget()->removeEventFilter(this);
   desk_->CloseFirm();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   runtime_.OnBusy = {};
@@ -89,6 +89,12 @@ ScreenArea DeskWindow::AreaNow() const {
   return {0, 0, Scale::Twips(room.width()), Scale::Twips(room.height())};
 }
 
+bool DeskWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == centralWidget() && event->type() == QEvent::Resize) TakeArea();
+  return QMainWindow::eventFilter(watched, event);
+}
+
+/// The screens that are opened from now on fill the room that there is now.
 void DeskWindow::TakeArea() {
   if (desk_ && desk_->HasFirm()) desk_->Session().SetArea(AreaNow());
 }
@@ -265,6 +271,7 @@ void DeskWindow::SetZoom(int percent) {
   Scale::SetPercent(percent);
   QSettings().setValue(QStringLiteral("zoom"), Scale::Percent());
   Theme::ApplyFont(*qApp);
+  start_->Replace();
   runtime_.Replace();
   TakeArea();
 }

@@ -36,6 +36,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void OnReport(const ReportShown& report) override;

@@ -98,7 +98,9 @@ void DeskWindow::AddZooms(QMenu& menu) {
   for (const int percent : kZooms) {
     QAction* const act = zooms->addAction(QStringLiteral("%1 %").arg(percent));
     act->setCheckable(true);
-    connect(act, &QAction::triggered, this, [this, percent] { SetZoom(percent); });
+    // The menu bar measures itself anew only when its menus have closed.
+    connect(
+        act, &QAction::triggered, this, [this, percent] { SetZoom(percent); }, Qt::QueuedConnection);
     connect(zooms, &QMenu::aboutToShow, act,
             [act, percent] { act->setChecked(Scale::Percent() == percent); });
   }

@@ -66,9 +66,12 @@ void PushButton::paintEvent(QPaintEvent* /*event*/) {
     }
   }
   const QFontMetrics metrics(font());
-  const int iconSize = icon_.isEmpty() ? 0 : Scale::Px(kIconTwips);
-  const int iconWidth = iconSize == 0 ? 0 : iconSize + Gap();
   const int keyWidth = key_.isEmpty() ? 0 : metrics.horizontalAdvance(key_) + Gap();
+  const int wordsEnd = 2 * Gap() + keyWidth + metrics.horizontalAdvance(words_);
+  // The words matter more than their picture.
+  const bool hasIcon = !icon_.isEmpty() && wordsEnd + Scale::Px(kIconTwips) + Gap() <= width();
+  const int iconSize = hasIcon ? Scale::Px(kIconTwips) : 0;
+  const int iconWidth = hasIcon ? iconSize + Gap() : 0;
   const int room = width() - 2 * Gap() - iconWidth - keyWidth;
   const QString words = metrics.elidedText(words_, Qt::ElideRight, room);
   int x = (width() - iconWidth - keyWidth - metrics.horizontalAdvance(words)) / 2;

@@ -55,6 +55,8 @@ QWidget* QtRuntime::TopWindow() const {
 
 void QtRuntime::Replace() {
   for (const auto& [form, view] : views_) view->Replace();
+  // A screen that no longer fits can be scrolled.
+  if (area_ != nullptr) area_->Fit();
 }
 
 long QtRuntime::ScreenWidth() const {

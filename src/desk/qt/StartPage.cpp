@@ -11,16 +11,15 @@ namespace quillon {
 namespace {
 
 constexpr double kTitleSize = 20;
+constexpr long kGap = 180;
+constexpr long kButtonWidth = 4200;
+constexpr long kButtonHeight = 540;
 
 }  // namespace
 
 StartPage::StartPage(QWidget* parent) : QWidget(parent), title_(new QLabel(this)), words_(new QLabel(this)) {
   auto* const all = new QVBoxLayout(this);
   all->setAlignment(Qt::AlignCenter);
-  all->setSpacing(Scale::Px(180));
-  Font large;
-  large.Size = kTitleSize;
-  title_->setFont(Scale::FontOf(large));
   for (QLabel* label : {title_, words_}) {
     label->setAlignment(Qt::AlignCenter);
     all->addWidget(label);
@@ -31,7 +30,18 @@ StartPage::StartPage(QWidget* parent) : QWidget(parent), title_(new QLabel(this)
   statement_ = AddButton(QStringLiteral("Statement of Account"), QStringLiteral("acstatement"),
                          [this] { OnStatement(); });
   accounts_ = AddButton(QStringLiteral("Accounts"), QStringLiteral("customers"), [this] { OnAccounts(); });
+  Replace();
   ShowFirm(QString());
+}
+
+void StartPage::Replace() {
+  layout()->setSpacing(Scale::Px(kGap));
+  Font large;
+  large.Size = kTitleSize;
+  title_->setFont(Scale::FontOf(large));
+  for (PushButton* button : {open_, sample_, statement_, accounts_}) {
+    button->setMinimumSize(Scale::Px(kButtonWidth), Scale::Px(kButtonHeight));
+  }
 }
 
 PushButton* StartPage::AddButton(const QString& caption, const QString& icon,
@@ -39,7 +49,6 @@ PushButton* StartPage::AddButton(const QString& caption, const QString& icon,
   auto* const button = new PushButton(this);
   button->SetCaption(caption);
   button->SetIconKey(icon);
-  button->setMinimumSize(Scale::Px(4200), Scale::Px(540));
   button->setAutoDefault(true);
   connect(button, &QPushButton::clicked, this, pressed);
   layout()->addWidget(button);

@@ -22,6 +22,9 @@ class StartPage : public QWidget {
   /// The ways on from the open firm; an empty name offers to open one.
   void ShowFirm(const QString& name);
 
+  /// All anew, after the zoom has changed.
+  void Replace();
+
  private:
   PushButton* AddButton(const QString& caption, const QString& icon, const std::function<void()>& pressed);
 

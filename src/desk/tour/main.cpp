@@ -32,6 +32,8 @@ void SetScreen(const QTemporaryDir& folder, int percent) {
                                     << R"(,"height":)" << kScreenHeight * percent / 100 << "}]}";
   setenv("QT_QPA_PLATFORM", qPrintable(QStringLiteral("offscreen:configfile=") + file), 1);
   setenv("QT_FONT_DPI", "96", 1);
+  // The toolkit's own event loop tells when nothing is left to do; that of GLib tells it too early.
+  setenv("QT_NO_GLIB", "1", 1);
 }
 
 /// What the desk remembers of its user stays out of a tour.
