@@ -119,7 +119,7 @@ void DeskWork::ReadyMarkings() {
 
 void DeskWork::LookUpCheque() {
   constexpr int kCleared = 10;  // of ten entries the first has a date
-  constexpr int kTried = 100;
+  constexpr int kTried = 64;
   const auto& entries = dynamic_cast<CGridPlus&>(statement_->ControlAt("Grid"));
   const int entry = 1 + kCleared * (lookedUp_++ % kTried);
   const std::vector<std::string> words = text::Split(entries.TextMatrix(entry, kNarration), " ");
