@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QTreeWidget>
+#include <algorithm>
 
 #include "desk/qt/Scale.h"
 #include "host/GridModel.h"
@@ -29,14 +30,31 @@ PickDialog::PickDialog(const CPickList& list, QWidget* parent)
     }
   }
   for (std::size_t col = 0; col < list.Columns().size(); ++col) {
-    lines_->header()->resizeSection(static_cast<int>(col), Scale::Px(list.Columns()[col].width));
+    if (list.Columns()[col].alignment == kAlignRight) {
+      lines_->headerItem()->setTextAlignment(static_cast<int>(col), Qt::AlignRight | Qt::AlignVCenter);
+    }
   }
+  SetColumnWidths(list);
   lines_->setMinimumSize(Scale::Px(list.Width), Scale::Px(list.Height));
   if (lines_->topLevelItemCount() > 0) lines_->setCurrentItem(lines_->topLevelItem(0));
   Content().addWidget(lines_);
   AddOkCancel();
   connect(lines_, &QTreeWidget::itemDoubleClicked, this, [this] { accept(); });
   lines_->setFocus();
+}
+
+/// Columns that leave room in the list share it, so that dates and texts are not cut beside an empty place;
+/// the last one takes what is left.
+void PickDialog::SetColumnWidths(const CPickList& list) {
+  long wanted = 0;
+  for (const CPickList::ColumnSpec& column : list.Columns()) wanted += column.width;
+  const bool roomy = wanted <= list.Width;
+  const std::size_t sized = list.Columns().size() - (roomy && !list.Columns().empty() ? 1 : 0);
+  for (std::size_t col = 0; wanted > 0 && col < sized; ++col) {
+    const long width = list.Columns()[col].width;
+    lines_->header()->resizeSection(static_cast<int>(col),
+                                    Scale::Px(roomy ? width * list.Width / wanted : width));
+  }
 }
 
 bool PickDialog::Check() { return lines_->currentItem() != nullptr; }

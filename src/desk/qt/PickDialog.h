@@ -19,6 +19,8 @@ class PickDialog : public DeskDialog {
   bool Check() override;
 
  private:
+  void SetColumnWidths(const CPickList& list);
+
   QTreeWidget* lines_;
 };
 
