@@ -1,14 +1,24 @@
 #include "bench/DeskWork.h"
 
+#include <algorithm>
+
 #include "bench/BenchFirm.h"
 #include "host/CButtonBar.h"
 #include "host/CGridPlus.h"
+#include "host/Text.h"
 
 namespace quillon::bench {
 
 namespace {
 
 constexpr int kClearedOn = 27;
+constexpr int kDate = 8;
+constexpr int kNarration = 11;
+constexpr int kManyRows = 1000;
+
+/// In the markings.
+constexpr int kClearDate = 2;
+constexpr int kChequeNo = 3;
 
 Desk::Options Settings() {
   Desk::Options options;
@@ -20,6 +30,11 @@ Desk::Options Settings() {
 
 void DeskWork::Runtime::TellError(const std::string& routine, Form* /*form*/, const std::string& text) {
   throw HostError(routine + ": " + text);
+}
+
+int DeskWork::Runtime::AskMessage(const MessageRequest& request) {
+  if (!Confirms || request.Buttons.size() != 2) throw HostError(request.Text);
+  return 1;
 }
 
 DeskWork::DeskWork(const std::filesystem::path& firm)
@@ -37,6 +52,8 @@ void DeskWork::Press(Form& form, const char* button) {
 
 void DeskWork::CloseForms() {
   CloseWorkbench();
+  if (markings_) runtime_.Unload(*markings_);
+  markings_.reset();
   if (statement_) runtime_.Unload(*statement_);
   statement_.reset();
 }
@@ -76,6 +93,46 @@ void DeskWork::StoreDate() {
   grid.UserEnterCell(1 + stored_++ % kRows, kClearedOn);
   grid.UserType(pass % 2 == 0 ? "15" : "16");
   grid.UserLeaveCell();
+}
+
+void DeskWork::MassMark(bool unmark) {
+  const auto& grid = dynamic_cast<CGridPlus&>(workbench_->ControlAt("Grid"));
+  const int last = std::min(kManyRows, grid.Rows - 1);
+  runtime_.Laid.Add(
+      {{"to", "date"}, {"date1", grid.TextMatrix(1, kDate)}, {"date2", grid.TextMatrix(last, kDate)}});
+  runtime_.Confirms = true;
+  workbench_->Call("MassMarking", {unmark});
+  runtime_.Confirms = false;
+}
+
+void DeskWork::ReadyMassMarking() {
+  ReadyEntries();
+  MassMark(true);
+}
+
+void DeskWork::ReadyMarkings() {
+  if (markings_) return;
+  ReadyStatement();
+  Press(*statement_, "Markings");
+  markings_ = runtime_.ActiveForm();
+}
+
+void DeskWork::LookUpCheque() {
+  constexpr int kCleared = 10;  // of ten entries the first has a date
+  constexpr int kTried = 64;
+  const auto& entries = dynamic_cast<CGridPlus&>(statement_->ControlAt("Grid"));
+  const int entry = 1 + kCleared * (lookedUp_++ % kTried);
+  const std::vector<std::string> words = text::Split(entries.TextMatrix(entry, kNarration), " ");
+  auto& grid = dynamic_cast<CGridPlus&>(markings_->ControlAt("Grid"));
+  Press(*markings_, "Clear");
+  const auto type = [&](int column, const std::string& typed) {
+    grid.UserEnterCell(1, column);
+    grid.UserType(typed);
+    if (!grid.UserLeaveCell()) throw HostError("Refused: " + typed);
+  };
+  type(kClearDate, entries.TextMatrix(entry, kDate));
+  type(kChequeNo, words.at(2));
+  runtime_.DeliverKeys();
 }
 
 void DeskWork::ReadyView(View view, bool references) {

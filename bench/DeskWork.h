@@ -33,6 +33,14 @@ class DeskWork {
   /// Enters the cell of the next entry, types a date and leaves.
   void StoreDate();
 
+  /// The entries of the days of the first thousand, without their dates, and filled by mass marking.
+  void ReadyMassMarking();
+  void MarkThousand() { MassMark(false); }
+
+  /// Finds an entry by its cheque number on a new page of the markings; the bank has cleared it before.
+  void ReadyMarkings();
+  void LookUpCheque();
+
   /// Shows the reconciliation statement as on the end of the year, or the pass book of the year, its
   /// references shown or hidden.
   void ReadyReconciliation(bool references) { ReadyView(View::Reconciliation, references); }
@@ -49,7 +57,8 @@ class DeskWork {
   class Runtime : public DriverRuntime {
    public:
     using DriverRuntime::DriverRuntime;
-    int AskMessage(const MessageRequest& request) override { throw HostError(request.Text); }
+    int AskMessage(const MessageRequest& request) override;
+    bool Confirms = false;  ///< a question is answered with Yes
     void TellError(const std::string& routine, Form* form, const std::string& text) override;
 
    protected:
@@ -60,6 +69,7 @@ class DeskWork {
 
   void Press(Form& form, const char* button);
   void ReadyView(View view, bool references);
+  void MassMark(bool unmark);
 
   std::ostream nowhere_{nullptr};
   EventLog log_{nowhere_};
@@ -67,9 +77,11 @@ class DeskWork {
   Desk desk_;
   FormPtr statement_;
   FormPtr workbench_;
+  FormPtr markings_;
   View view_ = View::Entries;
   bool references_ = true;
   int stored_ = 0;
+  int lookedUp_ = 0;
 };
 
 }  // namespace quillon::bench

@@ -25,6 +25,8 @@ const std::vector<Case>& Cases() {
       {"Pass book, references", [](DeskWork& desk) { desk.ReadyPassBook(false); }, &DeskWork::PressReferences,
        nothing},
       {"Interest", [](DeskWork& desk) { desk.ReadyPassBook(false); }, &DeskWork::ShowInterest, nothing},
+      {"Cheque looked up", &DeskWork::ReadyMarkings, &DeskWork::LookUpCheque, nothing, DeskWork::kRows},
+      {"1,000 entries marked", &DeskWork::ReadyMassMarking, &DeskWork::MarkThousand, nothing},
   };
   return cases;
 }

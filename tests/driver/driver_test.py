@@ -136,6 +136,12 @@ class Driver(unittest.TestCase):
             self.assertGreater(amount(table["footer"][2][last_column]), 0)
             self.assertEqual(sum(amount(row[last_column]) for row in rows), amount(table["footer"][2][last_column]))
 
+    def test_markings_from_a_paper(self):
+        self.run_script("markings.jsonl", 0)
+
+    def test_mass_marking(self):
+        self.run_script("massmark.jsonl", 0)
+
     def test_refusals(self):
         lines, _ = self.run_script("refusals.jsonl", 1)
         self.assertEqual(lines[-1], {"left_over": [{"to": "input", "text": "Nigdi Branch"}]})
