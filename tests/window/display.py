@@ -1,7 +1,9 @@
 """A screen in memory and the keyboard and mouse of a person before it."""
 
+import ctypes
 import os
 import re
+import signal
 import subprocess
 import time
 
@@ -20,12 +22,19 @@ def wait_for(what, state):
         time.sleep(0.02)
 
 
+def start(words, **options):
+    """Starts a process that does not outlive this one, whatever ends it."""
+    end_with_parent = 1  # PR_SET_PDEATHSIG
+    libc = ctypes.CDLL(None)
+    return subprocess.Popen(words, preexec_fn=lambda: libc.prctl(end_with_parent, signal.SIGKILL), **options)
+
+
 class Display:
     def __init__(self, folder):
         reading, writing = os.pipe()
         with open(folder / "display.log", "wb") as log:
-            self.server = subprocess.Popen(
-                ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1366x768x24", "-nolisten", "tcp",
+            self.server = start(
+                ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset",
                  "-fbdir", str(folder)],
                 pass_fds=[writing], stdout=log, stderr=log,
             )

@@ -11,7 +11,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from display import LIMIT, Display, wait_for
+from display import LIMIT, Display, start, wait_for
 
 DESK, SAMPLE = sys.argv[1:3]
 TOOLS = ["Xvfb", "xdotool", "xclip", "isql-fb", "pdftotext"]
@@ -38,7 +38,7 @@ class Window(unittest.TestCase):
     def open_desk(self):
         environment = self.environment | {"DISPLAY": self.screen.environment["DISPLAY"]}
         with open(self.folder / "desk.log", "wb") as log:
-            desk = subprocess.Popen([DESK, self.folder / "firm"], env=environment, stdout=log, stderr=log)
+            desk = start([DESK, self.folder / "firm"], env=environment, stdout=log, stderr=log)
         self.addCleanup(desk.wait)
         self.addCleanup(desk.terminate)
         return desk
