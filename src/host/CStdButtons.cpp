@@ -13,6 +13,7 @@ CStdButtons::Button CStdButtons::Buttons(int index) {
 void CStdButtons::UserPress(int index) {
   RequireReachable();
   if (index < 0 || index >= kCount) throw Refused(Name() + " has no button " + std::to_string(index));
+  if (index == kConfigure && !HasConfiguration) throw Refused(Name() + " has no configuration");
   Buttons(index).Click();
 }
 

@@ -18,6 +18,9 @@ class CStdButtons : public Control {
 
   const char* Kind() const override { return "CStdButtons"; }
 
+  /// Whether the form answers the configuration button; without it a person has none to press.
+  Property<bool> HasConfiguration{*this, "HasConfiguration"};
+
   class Button {
    public:
     Button(CStdButtons& strip, int index) : strip_(strip), index_(index) {}

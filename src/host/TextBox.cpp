@@ -28,10 +28,15 @@ void TextBox::UserType(const std::string& text) {
   if (Companion != nullptr) Companion->CompanionTyped(Text);
 }
 
-void TextBox::SelectAll() {
-  SelStart = 0;
-  SelLength = static_cast<int>(text::Length(Text()));
+void TextBox::SelectAll() { Select(0, static_cast<int>(text::Length(Text()))); }
+
+void TextBox::Select(int from, int to) {
+  SelStart = std::min(from, to);
+  SelLength = std::abs(to - from);
+  anchor_ = from;
 }
+
+int TextBox::Caret() const { return anchor_ == SelStart + SelLength ? SelStart : SelStart + SelLength; }
 
 void TextBox::EnterFocus() {
   if (!MultiLine) SelectAll();
@@ -54,7 +59,11 @@ bool TextBox::HandleKey(const KeyEvent& key) {
   const int end = static_cast<int>(text::Length(Text()));
   SelStart = std::clamp(SelStart, 0, end);
   SelLength = std::clamp(SelLength, 0, end - SelStart);
-  const int shiftOnly = key.Shift & ~keys::kShift;
+  if (key.Shift == keys::kCtrl && key.KeyCode == 'A') {
+    SelectAll();
+    return true;
+  }
+  if (HandleMove(key)) return true;
   switch (key.KeyCode) {
     case keys::kBack:
     case keys::kDelete: {
@@ -62,24 +71,12 @@ bool TextBox::HandleKey(const KeyEvent& key) {
       const bool back = key.KeyCode == keys::kBack;
       if (SelLength > 0) {
         Replace(SelStart, SelLength, "");
-      } else if (back ? SelStart > 0 : SelStart < end) {
-        Replace(back ? SelStart - 1 : SelStart, 1, "");
+      } else {
+        const int next = Beside(SelStart, back);
+        Replace(std::min(SelStart, next), std::abs(next - SelStart), "");
       }
       return true;
     }
-    case keys::kHome:
-      SelStart = SelLength = 0;
-      return true;
-    case keys::kEnd:
-      SelStart = end;
-      SelLength = 0;
-      return true;
-    case keys::kLeft:
-    case keys::kRight:
-      if (shiftOnly != 0) return false;
-      SelStart = std::clamp(SelStart + (key.KeyCode == keys::kLeft ? -1 : 1), 0, end);
-      SelLength = 0;
-      return true;
     case keys::kEnter:
       if (!MultiLine || Locked) return false;
       Replace(SelStart, SelLength, "\r\n");
@@ -87,6 +84,40 @@ bool TextBox::HandleKey(const KeyEvent& key) {
     default:
       return false;
   }
+}
+
+int TextBox::Beside(int place, bool back) const {
+  const auto from = static_cast<std::size_t>(back ? std::max(place - 2, 0) : place);
+  const int step = text::Mid(Text(), from + 1, 2) == "\r\n" ? 2 : 1;
+  return std::clamp(back ? place - step : place + step, 0, static_cast<int>(text::Length(Text())));
+}
+
+bool TextBox::HandleMove(const KeyEvent& key) {
+  const bool extends = (key.Shift & keys::kShift) != 0;
+  const bool back = key.KeyCode == keys::kLeft;
+  const int end = static_cast<int>(text::Length(Text()));
+  int to = 0;
+  switch (key.KeyCode) {
+    case keys::kHome:
+      break;
+    case keys::kEnd:
+      to = end;
+      break;
+    case keys::kLeft:
+    case keys::kRight:
+      if ((key.Shift & ~keys::kShift) != 0) return false;
+      if (SelLength > 0 && !extends) {
+        to = back ? SelStart : SelStart + SelLength;
+      } else {
+        to = Beside(Caret(), back);
+      }
+      break;
+    default:
+      return false;
+  }
+  const int fixed = Caret() == SelStart ? SelStart + SelLength : SelStart;
+  Select(extends ? fixed : to, to);
+  return true;
 }
 
 void TextBox::HandleChar(int character) {

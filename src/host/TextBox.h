@@ -55,12 +55,25 @@ class TextBox : public Control {
   void EnterFocus() override;
   void SelectAll();
 
+  /// Selects from one place to another, in UTF-16 units; the caret stands at the second.
+  void Select(int from, int to);
+
+  /// The end of the selection that the keys move.
+  int Caret() const;
+
  protected:
   void PropertyChanged(const PropertyBase& property) override;
 
  private:
   std::string Accepted(const std::string& text) const;
   void Replace(int start, int length, const std::string& with);
+  bool HandleMove(const KeyEvent& key);
+
+  /// The place before or after one character; a line's end is one.
+  int Beside(int place, bool back) const;
+
+  /// Where the selection began; counts only while it is one of the ends.
+  int anchor_ = 0;
 };
 
 }  // namespace quillon

@@ -33,6 +33,7 @@ void frmAcReconciliation::DesignControls() {
   }
   const long bar = titles + kTitleBarHeight + kRowGap;
   cmbFilter.Move(Width - kFilterWidth, bar, kFilterWidth, kTitleBarHeight);
+  cmbFilter.ToolTipText = "Entries to show";
   chkReturned.Caption = "Chq. Returned";
   chkReturned.Move(cmbFilter.Left - kReturnedWidth - kRowGap, bar, kReturnedWidth, kTitleBarHeight);
   const long strip = Width / 2;

@@ -213,6 +213,17 @@ class Driver(unittest.TestCase):
         self.assertTrue(any(line.get("event") == "message" and "no right" in line["text"] for line in lines))
         self.assertEqual(lines[-1]["forms"], [])
 
+    def test_a_signal_ends_it_with_the_books_open(self):
+        for sent in (signal.SIGTERM, signal.SIGINT):
+            drive = subprocess.Popen([DRIVE, "--firm", self.firm, "--out", self.own.name], stdin=subprocess.PIPE,
+                                     stdout=subprocess.PIPE, text=True)
+            with drive:
+                drive.stdin.write('{"cmd":"forms"}\n')
+                drive.stdin.flush()
+                self.assertIn('"ok":true', drive.stdout.readline())
+                drive.send_signal(sent)
+                self.assertEqual(drive.wait(60), -sent)
+
     def test_killed_between_two_dates_keeps_every_date(self):
         drive = subprocess.Popen([DRIVE, "--firm", self.firm, "--out", self.own.name], stdin=subprocess.PIPE,
                                  stdout=subprocess.PIPE, text=True)

@@ -114,8 +114,67 @@ TEST_F(AdaptersTest, MouseReachesTheModels) {
   form_->txpField.ButtonClick = [&] { ++picks; };
   QTest::mouseClick(WidgetOf<QWidget>(form_->txpField).findChild<QToolButton*>(), kLeft);
   EXPECT_EQ(picks, 1);
-  QTest::mouseClick(WidgetOf<QWidget>(form_->QuillonStdButtons1).findChild<QToolButton*>(), kLeft);
+}
+
+TEST_F(AdaptersTest, TheCornerHasExitAndTheConfigurationWhereTheFormHasOne) {
+  const auto button = [&](const char* name) -> QToolButton* {
+    for (auto* found : WidgetOf<QWidget>(form_->QuillonStdButtons1).findChildren<QToolButton*>()) {
+      if (found->accessibleName() == QLatin1String(name)) return found;
+    }
+    return nullptr;
+  };
+  std::vector<int> pressed;
+  form_->QuillonStdButtons1.ButtonClick = [&](int index, bool& cancel) {
+    pressed.push_back(index);
+    cancel = pressed.size() < 3;
+  };
+  ASSERT_NE(button("Configuration"), nullptr);
+  EXPECT_FALSE(button("Configuration")->isVisible());
+  form_->QuillonStdButtons1.HasConfiguration = true;
+  QTest::mouseClick(button("Configuration"), kLeft);
+  QTest::mouseClick(button("Exit"), kLeft);
+  EXPECT_TRUE(form_->IsLoaded()) << "the form refused to close";
+  QTest::mouseClick(button("Exit"), kLeft);
+  EXPECT_EQ(pressed, (std::vector<int>{CStdButtons::kConfigure, CStdButtons::kExit, CStdButtons::kExit}));
   EXPECT_FALSE(form_->IsLoaded());
+}
+
+TEST_F(AdaptersTest, AFieldIsSelectedByKeys) {
+  auto& field = form_->txtLine;
+  const auto& shown = WidgetOf<QLineEdit>(field);
+  QTest::mouseClick(&WidgetOf<QWidget>(field), kLeft);
+  Type(*form_, "Bank charges");
+  for (int i = 0; i < 7; ++i) Press(*form_, Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(shown.selectedText(), "charges");
+  EXPECT_EQ(shown.cursorPosition(), 5) << "the caret is at the end that moves";
+  Press(*form_, Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(shown.selectedText(), "harges");
+  Press(*form_, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(runtime_.ClipboardText(), "harges");
+  Press(*form_, Qt::Key_Right);
+  EXPECT_EQ(shown.cursorPosition(), 12) << "without Shift the caret goes to that end of the selection";
+  Press(*form_, Qt::Key_Left);
+  Press(*form_, Qt::Key_Home, Qt::ShiftModifier);
+  EXPECT_EQ(shown.selectedText(), "Bank charge");
+  Press(*form_, Qt::Key_End, Qt::ShiftModifier);
+  EXPECT_EQ(shown.selectedText(), "s") << "Home and End turn about the place where the selection began";
+  Press(*form_, Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(field.Text(), "Bank charge");
+  Press(*form_, Qt::Key_A, Qt::ControlModifier);
+  Type(*form_, "x");
+  EXPECT_EQ(field.Text(), "x");
+  // What the mouse has selected, the keys go on with.
+  field.Text = "Limit transferred";
+  QTest::mouseDClick(&WidgetOf<QWidget>(field), kLeft, {}, {8, 10});
+  Press(*form_, Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(shown.selectedText(), "Limit ");
+  // A line's end is one character to the keys.
+  form_->txtLines.Text = "a\r\nb";
+  form_->UserFocus(form_->txtLines);
+  Press(*form_, Qt::Key_End);
+  Press(*form_, Qt::Key_Left);
+  Press(*form_, Qt::Key_Backspace);
+  EXPECT_EQ(form_->txtLines.Text(), "ab");
 }
 
 TEST_F(AdaptersTest, AFieldTakesKeysAndKeepsTheFocusThatIsRefused) {
@@ -215,6 +274,42 @@ TEST_F(AdaptersTest, AScreenReaderHearsWhatTheControlsAre) {
   const auto buttons = WidgetOf<QWidget>(form_->BtnBar1).findChildren<QPushButton*>();
   EXPECT_EQ(heard(*buttons[0])->role(), QAccessible::Button);
   EXPECT_EQ(heard(*buttons[0])->text(QAccessible::Name), "F2: One");
+}
+
+TEST_F(AdaptersTest, AChartDrawsItsFiguresInTheColoursOfTheSeries) {
+  MSChart& chart = form_->Chart;
+  constexpr QRgb kBlue = 0xFF0000FF;
+  constexpr QRgb kGreen = 0xFF00FF00;
+  chart.SetSize(2, 2);
+  chart.SetSeriesColor(1, 0xFF0000);
+  chart.SetSeriesColor(2, 0x00FF00);
+  const auto dots = [&](QRgb color) {
+    const QImage picture = WidgetOf<QWidget>(chart).grab().toImage().convertToFormat(QImage::Format_ARGB32);
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == color ? 1 : 0;
+    }
+    return count;
+  };
+  EXPECT_EQ(dots(kBlue), 0) << "figures of 0 have no bars";
+  for (const int row : {1, 2}) {
+    chart.SetData(row, 1, 30);
+    chart.SetData(row, 2, 10);
+  }
+  EXPECT_NEAR(static_cast<double>(dots(kBlue)) / dots(kGreen), 3, 0.3) << "a bar is as high as its figure";
+  const int plain = dots(kGreen);
+  chart.ShowLegend = true;
+  chart.SetColumnLabel(2, "Receipts");
+  EXPECT_NE(dots(kGreen), plain) << "the legend shows the colour too";
+  chart.ShowLegend = false;
+  chart.ChartType = MSChart::k2dPie;
+  EXPECT_GT(dots(kBlue), dots(kGreen));
+  for (const int type : {MSChart::k2dLine, MSChart::k3dLine, MSChart::k3dBar}) {
+    chart.ChartType = type;
+    EXPECT_GT(dots(kBlue), 0) << type;
+  }
+  chart.DeleteRows();
+  EXPECT_EQ(dots(kBlue), 0);
 }
 
 TEST_F(AdaptersTest, FiftyThousandHiddenRowsArePassedOver) {

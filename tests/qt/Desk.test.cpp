@@ -1,71 +1,17 @@
-#include <QApplication>
 #include <QLineEdit>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
 
-#include "desk/qt/Adapter.h"
 #include "desk/qt/DateDialog.h"
-#include "desk/qt/DeskArea.h"
-#include "desk/qt/DeskWindow.h"
-#include "desk/qt/FormView.h"
-#include "desk/qt/GridWidget.h"
 #include "desk/qt/MessageDialog.h"
 #include "desk/qt/PageView.h"
 #include "desk/qt/PreviewWindow.h"
-#include "desk/qt/QtRuntime.h"
-#include "desk/sample/SampleFirm.h"
-#include "host/CGridPlus.h"
 #include "host/ISession.h"
 #include "host/Text.h"
-#include "tests/support/TempFolder.h"
+#include "tests/qt/DeskTest.h"
 
 namespace quillon {
 namespace {
 
-constexpr int kCurrentAccount = 101;
 constexpr int kCashCredit = 102;
-constexpr int kCleared = 27;
-
-/// The whole desk on a firm of its own, worked with by keys.
-class DeskTest : public testing::Test {
- protected:
-  DeskTest() : runtime_(folder_.Path().string()), window_(runtime_, "") {
-    MakeSampleFirm(folder_.Path() / "firm", {.Years = {2024}, .Vouchers = 120});
-    window_.show();
-    EXPECT_EQ(window_.OpenFirm(QString::fromStdString(folder_.File("firm"))), "");
-    QApplication::processEvents();
-  }
-
-  static void Soon(const std::function<void()>& act) { QTimer::singleShot(0, qApp, act); }
-
-  Form& Top() { return *runtime_.ActiveForm(); }
-
-  void Press(Qt::Key key) {
-    QWidget* const focused = runtime_.TopView()->focusWidget();
-    QTest::keyClick(focused != nullptr ? focused : runtime_.TopView(), key);
-  }
-  void Type(const char* text) {
-    for (const char* c = text; *c != '\0'; ++c) {
-      QWidget* const focused = runtime_.TopView()->focusWidget();
-      QTest::keyClick(focused != nullptr ? focused : runtime_.TopView(), *c);
-    }
-  }
-
-  /// The statement of the current account, and the reconciliation on it by its key.
-  CGridPlus& OpenWorkbench() {
-    const FormPtr statement = gApp->GetForm("Account");
-    statement->Set("AccountCode", kCurrentAccount);
-    gApp->ShowForm(statement);
-    Press(Qt::Key_F6);
-    EXPECT_EQ(Top().Name(), "frmAcReconciliation");
-    return dynamic_cast<CGridPlus&>(Top().ControlAt("Grid"));
-  }
-
-  TempFolder folder_;
-  QtRuntime runtime_;
-  DeskWindow window_;
-};
 
 /// The message that shows, which the key answers.
 QString AnswerMessage(Qt::Key key) {

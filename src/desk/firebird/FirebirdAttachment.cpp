@@ -1,5 +1,7 @@
 #include "desk/firebird/FirebirdAttachment.h"
 
+#include <csignal>
+
 #include "desk/firebird/FirebirdEngine.h"
 #include "desk/firebird/FirebirdStatus.h"
 
@@ -24,6 +26,25 @@ struct Releaser {
   }
 };
 
+/// The engine takes the signals that end a process for itself: it would shut the books down under a program
+/// that goes on running. While one of these lives they are lent out, and come back when it goes.
+class OwnSignals {
+ public:
+  OwnSignals() {
+    for (std::size_t i = 0; i < kCount; ++i) sigaction(kSignals[i], nullptr, &own_[i]);
+  }
+  OwnSignals(const OwnSignals&) = delete;
+  OwnSignals& operator=(const OwnSignals&) = delete;
+  ~OwnSignals() {
+    for (std::size_t i = 0; i < kCount; ++i) sigaction(kSignals[i], &own_[i], nullptr);
+  }
+
+ private:
+  static constexpr std::size_t kCount = 2;
+  static constexpr int kSignals[kCount] = {SIGTERM, SIGINT};
+  struct sigaction own_[kCount] = {};
+};
+
 template <class Open>
 std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool create, Open open) {
   const std::string none;
@@ -46,6 +67,7 @@ std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool 
   }
   const std::unique_ptr<Firebird::IProvider, Releaser> provider(FirebirdEngine::Master().getDispatcher());
   const unsigned length = dpb->getBufferLength(&status);
+  const OwnSignals signals;
   return std::make_shared<FirebirdAttachment>(open(*provider, status, length, dpb->getBuffer(&status)));
 }
 

@@ -7,8 +7,22 @@
 #include "desk/qt/Acts.h"
 #include "desk/qt/Scale.h"
 #include "desk/qt/Theme.h"
+#include "host/Label.h"
 
 namespace quillon {
+
+namespace {
+
+constexpr long kNear = 300;
+
+/// Whether the label stands close on the left of the control.
+bool Names(const Control& label, const Control& named) {
+  const long gap = named.Left - (label.Left + label.Width);
+  const bool onLine = label.Top < named.Top + named.Height && named.Top < label.Top + label.Height;
+  return onLine && gap >= 0 && gap <= kNear;
+}
+
+}  // namespace
 
 Adapter::Adapter(Control& model, QWidget* widget) : QObject(widget), model_(model), widget_(widget) {
   widget_->setObjectName(QString::fromStdString(model.Name()));
@@ -27,6 +41,14 @@ void Adapter::Refresh() {
 }
 
 void Adapter::Settle() {}
+
+std::string Adapter::SpokenName() const {
+  for (const Control* sibling : model_.Parent()->Children()) {
+    const auto* label = dynamic_cast<const Label*>(sibling);
+    if (label != nullptr && label->Visible.Own() && Names(*label, model_)) return label->Caption;
+  }
+  return model_.ToolTipText().empty() ? model_.Name() : model_.ToolTipText();
+}
 
 void Adapter::ControlChanged(Control& /*control*/, const PropertyBase* property) {
   if (property != nullptr) Dress();

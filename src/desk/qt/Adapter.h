@@ -47,8 +47,9 @@ class Adapter : public QObject, public IControlListener {
   /// What every control has: place, visibility, colours, font, names.
   virtual void Dress();
 
-  /// The words that a screen reader says for the control.
-  virtual std::string SpokenName() const { return model_.Name(); }
+  /// The words that a screen reader says for the control: unless its kind has words of its own, those of the
+  /// label on its left, else its tip.
+  virtual std::string SpokenName() const;
 
   /// From now on a click inside the widget clicks the model.
   void TakeClicks();

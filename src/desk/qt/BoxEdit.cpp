@@ -35,7 +35,8 @@ void BoxEdit::ShowBox() {
   const int start = std::clamp(box_.SelStart, 0, end);
   const int length = IsOwned() ? std::clamp(box_.SelLength, 0, end - start) : 0;
   if (length > 0) {
-    setSelection(start, length);
+    const bool backwards = box_.Caret() == box_.SelStart;
+    setSelection(backwards ? start + length : start, backwards ? -length : length);
   } else {
     deselect();
     setCursorPosition(start);
@@ -54,8 +55,10 @@ void BoxEdit::paintEvent(QPaintEvent* event) {
 
 void BoxEdit::TellCaret() {
   if (!IsOwned()) return;
-  box_.SelStart = hasSelectedText() ? selectionStart() : cursorPosition();
-  box_.SelLength = static_cast<int>(selectedText().size());
+  const int caret = cursorPosition();
+  const int start = hasSelectedText() ? selectionStart() : caret;
+  const int end = start + static_cast<int>(selectedText().size());
+  box_.Select(caret == start ? end : start, caret);
 }
 
 void BoxEdit::mousePressEvent(QMouseEvent* event) {

@@ -54,6 +54,8 @@ void ComboAdapter::BeEditable() {
 
 void ComboAdapter::Draw() {
   auto& shown = static_cast<QComboBox&>(Widget());
+  // The toolkit says the chosen line for the name.
+  shown.setAccessibleDescription(QString::fromStdString(SpokenName()));
   if (combo_.Editable && !shown.isEditable()) BeEditable();
   bool same = shown.count() == combo_.ListCount();
   for (int item = 0; same && item < combo_.ListCount(); ++item) {

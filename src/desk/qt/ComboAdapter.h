@@ -15,7 +15,6 @@ class ComboAdapter : public Adapter {
 
  protected:
   void Draw() override;
-  std::string SpokenName() const override { return combo_.Name() + " " + combo_.Text(); }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -45,7 +45,6 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
       start_(new StartPage(this)),
       firm_(new QLabel(this)),
       busy_(new QLabel(this)) {
-  setWindowTitle(QStringLiteral("Quillon"));
   setWindowIcon(Icons::Of(QStringLiteral("desk")));
   auto* const middle = new QWidget(this);
   auto* const pages = new QStackedLayout(middle);
@@ -248,7 +247,6 @@ void DeskWindow::ShowState() {
     firm_->clear();
     start_->ShowFirm(QString());
     ShowPage();
-    setWindowTitle(QStringLiteral("Quillon"));
     return;
   }
   DeskSession& session = desk_->Session();
@@ -256,7 +254,6 @@ void DeskWindow::ShowState() {
   firm_->setText(QStringLiteral(" %1     F.Y. %2     %3")
                      .arg(name, YearName(session.Year().StartYear()),
                           QString::fromStdString(session.CurrentUser().Name)));
-  setWindowTitle(name + QStringLiteral(" - Quillon"));
   start_->ShowFirm(name);
   ShowPage();
 }
@@ -265,6 +262,12 @@ void DeskWindow::ShowPage() {
   const bool screen = area_->Top() != nullptr;
   static_cast<QStackedLayout*>(centralWidget()->layout())
       ->setCurrentWidget(screen ? static_cast<QWidget*>(area_) : start_);
+  // The title names the screen, so that the list of windows and a screen reader tell where one is.
+  QStringList parts;
+  if (screen) parts << area_->Top()->windowTitle().simplified();
+  if (desk_ && desk_->HasFirm()) parts << QString::fromStdString(desk_->Session().FirmName());
+  parts << QStringLiteral("Quillon");
+  setWindowTitle(parts.join(QStringLiteral(" - ")));
 }
 
 void DeskWindow::SetZoom(int percent) {

@@ -95,8 +95,9 @@ void DeskWindow::BuildWindowsMenu() {
 
 void DeskWindow::AddZooms(QMenu& menu) {
   QMenu* const zooms = menu.addMenu(QStringLiteral("&Zoom"));
+  int number = 0;
   for (const int percent : kZooms) {
-    QAction* const act = zooms->addAction(QStringLiteral("%1 %").arg(percent));
+    QAction* const act = zooms->addAction(QStringLiteral("&%1   %2 %").arg(++number).arg(percent));
     act->setCheckable(true);
     // The menu bar measures itself anew only when its menus have closed.
     connect(
@@ -111,10 +112,12 @@ void DeskWindow::FillWindows(QMenu& menu) {
   AddZooms(menu);
   menu.addSeparator();
   if (!desk_->HasFirm()) return;
+  int number = 0;
   for (const OpenWindow& open : desk_->App().Windows()) {
     const FormPtr form = open.Window->Self();
+    const QString title = QString::fromStdString(open.Title).replace(QLatin1Char('&'), QLatin1String("&&"));
     QAction* const act = menu.addAction(Icons::ForMenu(QString::fromStdString(open.IconKey)),
-                                        QString::fromStdString(open.Title));
+                                        QStringLiteral("&%1   %2").arg(++number).arg(title));
     act->setCheckable(true);
     act->setChecked(runtime_.ActiveForm() == form);
     connect(act, &QAction::triggered, this, [form] { Acts::Run([&] { gRuntime->BringToFront(*form); }); });

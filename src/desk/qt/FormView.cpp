@@ -106,6 +106,14 @@ bool FormView::TakeKey(const QKeyEvent& key) {
     CopySelection();
     return true;
   }
+  if (key.matches(QKeySequence::Cut)) {
+    const TextBox* const box = BoxOf(form_->ActiveControl());
+    if (box == nullptr || box->SelLength <= 0) return true;
+    CopySelection();
+    const FormPtr form = form_;
+    Acts::Run([&] { form->UserKey(keys::kDelete, 0, 0); });
+    return true;
+  }
   if (key.matches(QKeySequence::Paste)) {
     TypeText(QString::fromStdString(gRuntime->ClipboardText()));
     return true;

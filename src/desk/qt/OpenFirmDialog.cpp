@@ -43,6 +43,7 @@ bool OpenFirmDialog::Check() {
 
 void OpenFirmDialog::Browse() {
   const QString folder = QFileDialog::getExistingDirectory(this, QStringLiteral("The folder of the firm"));
+  activateWindow();
   if (!folder.isEmpty() && Try(folder)) accept();
 }
 

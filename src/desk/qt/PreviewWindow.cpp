@@ -143,6 +143,7 @@ QString PreviewWindow::AskName(const QString& title, const QString& suffix) {
   for (const char c : {'/', '\\', ':'}) name.replace(QLatin1Char(c), QLatin1Char(' '));
   QString file =
       QFileDialog::getSaveFileName(this, title, name + suffix, QStringLiteral("Files (*%1)").arg(suffix));
+  activateWindow();  // the toolkit's dialog leaves the keys nowhere where no window manager is
   if (!file.isEmpty() && !file.endsWith(suffix, Qt::CaseInsensitive)) file += suffix;
   return file;
 }

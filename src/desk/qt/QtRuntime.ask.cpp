@@ -32,6 +32,11 @@ QString FilterOf(const std::string& filter) {
   return filters.join(QStringLiteral(";;"));
 }
 
+/// The toolkit's own dialogs leave the keys nowhere where no window manager is.
+void GiveKeysBack(QWidget* below) {
+  if (below != nullptr) below->activateWindow();
+}
+
 }  // namespace
 
 int QtRuntime::AskMessage(const MessageRequest& request) {
@@ -52,8 +57,10 @@ bool QtRuntime::AskFile(const FileRequest& request, std::string& path) {
   const QString title = QString::fromStdString(request.Title);
   const QString start = QString::fromStdString(request.Path);
   const QString filter = FilterOf(request.Filter);
-  const QString chosen = request.Save ? QFileDialog::getSaveFileName(TopWindow(), title, start, filter)
-                                      : QFileDialog::getOpenFileName(TopWindow(), title, start, filter);
+  QWidget* const below = TopWindow();
+  const QString chosen = request.Save ? QFileDialog::getSaveFileName(below, title, start, filter)
+                                      : QFileDialog::getOpenFileName(below, title, start, filter);
+  GiveKeysBack(below);
   if (chosen.isEmpty()) return false;
   path = chosen.toStdString();
   return true;
@@ -67,7 +74,9 @@ bool QtRuntime::AskFont(Font& font) {
   start.setBold(font.Bold);
   start.setItalic(font.Italic);
   start.setUnderline(font.Underline);
-  const QFont chosen = QFontDialog::getFont(&taken, start, TopWindow());
+  QWidget* const below = TopWindow();
+  const QFont chosen = QFontDialog::getFont(&taken, start, below);
+  GiveKeysBack(below);
   if (!taken) return false;
   font = {chosen.family().toStdString(), chosen.pointSizeF(), chosen.bold(), chosen.italic(),
           chosen.underline()};

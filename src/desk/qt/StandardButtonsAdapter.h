@@ -7,7 +7,8 @@ class QToolButton;
 
 namespace quillon {
 
-/// Shows the Exit button of a CStdButtons at the right end of its place.
+/// Shows the buttons of a CStdButtons at the right end of its place: Exit, and before it the configuration
+/// where the form has one.
 class StandardButtonsAdapter : public Adapter {
  public:
   StandardButtonsAdapter(CStdButtons& model, QWidget* parent);
@@ -17,6 +18,10 @@ class StandardButtonsAdapter : public Adapter {
   std::string SpokenName() const override { return "Exit"; }
 
  private:
+  QToolButton* AddButton(int index, const QString& icon, const QString& name);
+
+  CStdButtons& strip_;
+  QToolButton* configure_;
   QToolButton* exit_;
 };
 

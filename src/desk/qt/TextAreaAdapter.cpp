@@ -45,16 +45,16 @@ void TextAreaAdapter::Draw() {
   if (area.toPlainText() != text) area.setPlainText(text);
   const int end = static_cast<int>(text.size());
   QTextCursor caret = area.textCursor();
-  caret.setPosition(std::clamp(ToShown(box_.Text, box_.SelStart), 0, end));
-  caret.setPosition(std::clamp(ToShown(box_.Text, box_.SelStart + box_.SelLength), 0, end),
-                    QTextCursor::KeepAnchor);
+  const int moved = box_.Caret();
+  const int fixed = moved == box_.SelStart ? box_.SelStart + box_.SelLength : box_.SelStart;
+  caret.setPosition(std::clamp(ToShown(box_.Text, fixed), 0, end));
+  caret.setPosition(std::clamp(ToShown(box_.Text, moved), 0, end), QTextCursor::KeepAnchor);
   area.setTextCursor(caret);
 }
 
 void TextAreaAdapter::TellCaret() {
   const QTextCursor caret = static_cast<QPlainTextEdit&>(Widget()).textCursor();
-  box_.SelStart = ToModel(box_.Text, caret.selectionStart());
-  box_.SelLength = ToModel(box_.Text, caret.selectionEnd()) - box_.SelStart;
+  box_.Select(ToModel(box_.Text, caret.anchor()), ToModel(box_.Text, caret.position()));
 }
 
 bool TextAreaAdapter::eventFilter(QObject* /*watched*/, QEvent* event) {

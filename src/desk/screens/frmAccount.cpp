@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "host/Busy.h"
 #include "host/RedrawHold.h"
 #include "host/StatementColumns.h"
 #include "host/Text.h"
@@ -158,6 +159,7 @@ void frmAccount::SetColumns() {
 }
 
 void frmAccount::FillGrid() {
+  const BusyPointer pointer;
   ShowTitles();
   const RedrawHold hold(Grid);
   Grid.Clear();

@@ -49,6 +49,7 @@ void Tour::Next() {
     return;
   }
   const TourAct& act = plan_.Acts[at_++];
+  if (OnAct) OnAct(act);
   try {
     Do(act);
   } catch (const HostError& error) {

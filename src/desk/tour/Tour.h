@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <vector>
 
 #include "desk/tour/TourScript.h"
@@ -27,6 +28,9 @@ class Tour : public QObject {
   /// Begins once the application runs. Closes the desk when all acts were done; the first that fails ends the
   /// process with status 1.
   void Start();
+
+  /// Told before each act.
+  std::function<void(const TourAct&)> OnAct;
 
  private:
   void Next();

@@ -1,0 +1,93 @@
+#include "bench/WindowWork.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include "bench/BenchFirm.h"
+#include "desk/qt/Acts.h"
+#include "desk/qt/Adapter.h"
+#include "desk/qt/FormView.h"
+#include "host/Errors.h"
+#include "host/Form.h"
+#include "host/IApp.h"
+
+namespace quillon::bench {
+
+namespace {
+
+constexpr int kWidth = 1366;
+constexpr int kHeight = 768;
+
+/// Whether a widget was painted while one of these lived.
+class Painted : public QObject {
+ public:
+  explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
+  bool Was() const { return was_; }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    was_ = was_ || event->type() == QEvent::Paint;
+    return false;
+  }
+
+ private:
+  bool was_ = false;
+};
+
+}  // namespace
+
+WindowWork::WindowWork(const std::filesystem::path& firm) {
+  window_.resize(kWidth, kHeight);
+  window_.show();
+  window_.activateWindow();
+  const QString fault = window_.OpenFirm(QString::fromStdString(firm.string()));
+  if (!fault.isEmpty()) throw HostError(fault.toStdString());
+  OpenStatement();
+}
+
+void WindowWork::OpenStatement() {
+  Acts::Run([] {
+    const FormPtr statement = gApp->GetForm("Account");
+    statement->Set("AccountCode", kBank);
+    gApp->ShowForm(statement);
+  });
+  Paint();
+}
+
+void WindowWork::Press(Qt::Key key) {
+  QWidget* const focused = QApplication::focusWidget();
+  QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+  QApplication::sendEvent(focused != nullptr ? focused : runtime_.TopView(), &down);
+}
+
+void WindowWork::Paint() {
+  FormView& view = *runtime_.TopView();
+  grid_ = dynamic_cast<GridWidget*>(&view.AdapterOf(view.Model().ControlAt("Grid"))->Widget());
+  const Painted painted(*grid_->viewport());
+  QApplication::processEvents();
+  if (!painted.Was()) throw HostError("The grid was not painted");
+}
+
+void WindowWork::OpenWorkbench() {
+  Press(Qt::Key_F6);
+  Paint();
+}
+
+void WindowWork::CloseWorkbench() {
+  Press(Qt::Key_Escape);
+  Paint();
+}
+
+void WindowWork::ScrollBy(int step) {
+  QScrollBar& bar = *grid_->verticalScrollBar();
+  bar.setValue(bar.value() + step > bar.maximum() ? 0 : bar.value() + step);
+  const Painted painted(*grid_->viewport());
+  QApplication::processEvents();
+  if (!painted.Was()) throw HostError("The grid was not painted");
+}
+
+void WindowWork::ScrollLine() { ScrollBy(grid_->verticalScrollBar()->singleStep()); }
+
+void WindowWork::ScrollPage() { ScrollBy(grid_->verticalScrollBar()->pageStep()); }
+
+}  // namespace quillon::bench

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QPointer>
+#include <filesystem>
+
+#include "desk/qt/DeskWindow.h"
+#include "desk/qt/GridWidget.h"
+#include "desk/qt/QtRuntime.h"
+#include "tests/support/TempFolder.h"
+
+namespace quillon::bench {
+
+/// The desk with its windows on a firm, and the acts of a person whose time is taken: each ends when all of
+/// it has been painted.
+class WindowWork {
+ public:
+  explicit WindowWork(const std::filesystem::path& firm);
+
+  void OpenStatement();
+
+  /// F6 on the statement, and Esc on the workbench.
+  void OpenWorkbench();
+  void CloseWorkbench();
+
+  /// Moves the workbench's grid on by lines, or by pages, and round again at its end.
+  void ScrollLine();
+  void ScrollPage();
+
+ private:
+  void Press(Qt::Key key);
+  void Paint();
+  void ScrollBy(int step);
+
+  TempFolder printed_;
+  QtRuntime runtime_{printed_.Path().string()};
+  DeskWindow window_{runtime_, ""};
+  QPointer<GridWidget> grid_;
+};
+
+}  // namespace quillon::bench
