@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -126,6 +127,10 @@ class Runtime {
 
   /// The busy state of a long job comes with its text, or goes.
   virtual void ShowBusy(bool on, const std::string& text) = 0;
+
+  /// How far a long job has come; `whole` is 0 where that is not known. The windows repaint.
+  virtual void ShowProgress(const std::string& /*text*/, std::int64_t /*done*/, std::int64_t /*whole*/) {}
+  virtual void HideProgress() {}
 
   /// The width of a text in twips; both runtimes and the printer measure alike.
   virtual long TextWidth(const Font& font, const std::string& text) const = 0;

@@ -5,6 +5,7 @@
 #include "books/SqlText.h"
 #include "host/Busy.h"
 #include "host/CAlertLog.h"
+#include "host/Progress.h"
 #include "host/RedrawHold.h"
 #include "host/Text.h"
 #include "host/host_services.h"
@@ -288,7 +289,8 @@ void frmAcReconciliation::FillDown(CGridPlus& grid, int row, int col, std::strin
   grid.EndEdit();
   const BusyJob job;
   const std::string date = grid.TextMatrix(from, col);
-  for (int next = from + 1; next <= row; ++next) {
+  Progress progress("Filling dates", row - from);
+  for (int next = from + 1; next <= row; ++next, progress.Step()) {
     if (grid.IsRowVisible(next)) (this->*save)(next, date);
   }
 }

@@ -2,6 +2,7 @@
 
 #include "books/SqlText.h"
 #include "host/CDateDialog.h"
+#include "host/Progress.h"
 #include "host/Text.h"
 #include "host/host_services.h"
 
@@ -40,7 +41,8 @@ void frmAcReconciliation::MassMarking(bool unmark) {
     if (gStd->MsgBox(unmark ? kAskUnmark : kAskMark, "2", "Q", "", kSecondButton) != kYes) return;
     // Neither the footer nor the statement follows: both stand as they were until they are refreshed.
     marked_.Forget();
-    for (int row = 1; row < Grid.Rows; ++row) {
+    Progress progress(unmark ? "Removing dates" : "Filling dates", Grid.Rows - 1);
+    for (int row = 1; row < Grid.Rows; ++row, progress.Step()) {
       if (Grid.Cell(row, kDate).empty() || !Grid.IsRowVisible(row)) continue;
       const Date date = Date::Parse(Grid.Cell(row, kDate));
       if (date < period.Date1() || date > period.Date2()) continue;

@@ -4,6 +4,7 @@
 
 #include "books/SqlText.h"
 #include "host/CDataSet.h"
+#include "host/Progress.h"
 #include "host/RedrawHold.h"
 #include "host/Text.h"
 #include "host/host_services.h"
@@ -100,7 +101,8 @@ void frmAcReconciliation::FillPassBook() {
     GridPBook.SetTextMatrix(row, kNarration, "Opening Balance");
     ShowAmount(GridPBook, row, opening);
   }
-  for (; !entries.Eof(); entries.MoveNext()) {
+  Progress progress("Reading the entries", 0);
+  for (; !entries.Eof(); entries.MoveNext(), progress.Step()) {
     if (++row >= GridPBook.Rows) GridPBook.Rows = row + kMoreRows;
     AddPassBookEntry(entries, row);
   }

@@ -1,6 +1,7 @@
 #include "reconciliation/frmAcReconciliation.h"
 
 #include "books/SqlText.h"
+#include "host/Progress.h"
 #include "host/RedrawHold.h"
 #include "host/Text.h"
 #include "host/host_services.h"
@@ -156,7 +157,8 @@ void frmAcReconciliation::FillStatement() {
 }
 
 void frmAcReconciliation::AddSection(CDataSet& lines, Section& section, int& row) {
-  for (lines.MoveFirst(); !lines.Eof(); lines.MoveNext()) {
+  Progress progress("Reading the entries", 0);
+  for (lines.MoveFirst(); !lines.Eof(); lines.MoveNext(), progress.Step()) {
     const Amount amount = lines.Field("dAmt").ToAmount();
     if (section.debits ? amount <= Amount() : amount >= Amount()) continue;
     if (section.sum.IsZero()) {

@@ -7,6 +7,7 @@
 #include "desk/print/ReportHeading.h"
 #include "desk/print/ReportTable.h"
 #include "desk/print/RowSetter.h"
+#include "host/Progress.h"
 #include "host/Text.h"
 
 namespace quillon {
@@ -39,7 +40,8 @@ class Layouter {
 
   ReportPages Make() {
     StartPage();
-    for (std::size_t i = 0; i < table_.Rows().size(); ++i) {
+    Progress progress("Laying out rows", static_cast<std::int64_t>(table_.Rows().size()));
+    for (std::size_t i = 0; i < table_.Rows().size(); ++i, progress.Step()) {
       const int row = table_.Rows()[i];
       PlaceRow(row);
       if (table_.Commands(row).PageBreak && i + 1 < table_.Rows().size()) BreakPage();

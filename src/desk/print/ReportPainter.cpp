@@ -5,6 +5,7 @@
 
 #include "desk/print/Fonts.h"
 #include "desk/print/PdfDocument.h"
+#include "host/Progress.h"
 
 namespace quillon {
 
@@ -37,9 +38,11 @@ void ReportPainter::Paint(const ReportPages& pages, std::size_t page, QPainter& 
 std::string ReportPainter::WritePdf(const ReportPages& pages, const std::string& folder,
                                     const std::string& stem) {
   PdfDocument document(folder, stem, pages.PaperSize, pages.Orientation);
+  Progress progress("Writing the pages", static_cast<std::int64_t>(pages.Pages.size()));
   for (std::size_t page = 0; page < pages.Pages.size(); ++page) {
     if (page > 0) document.NewPage(pages.PaperSize, pages.Orientation);
     Paint(pages, page, document.Painter());
+    progress.Step();
   }
   return document.Finish();
 }

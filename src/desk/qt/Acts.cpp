@@ -1,5 +1,8 @@
 #include "desk/qt/Acts.h"
 
+#include <QCoreApplication>
+#include <QEventLoop>
+
 #include "host/Control.h"
 #include "host/Runtime.h"
 
@@ -11,6 +14,8 @@ std::function<void()>& Afterwards() {
   static std::function<void()> afterwards;
   return afterwards;
 }
+
+bool painting = false;
 
 void Guarded(const std::function<void()>& act) {
   try {
@@ -24,10 +29,17 @@ void Guarded(const std::function<void()>& act) {
 }  // namespace
 
 void Acts::Run(const std::function<void()>& act) {
-  if (gRuntime == nullptr) return;
+  if (gRuntime == nullptr || painting) return;
   Guarded(act);
   Guarded([] { gRuntime->DeliverKeys(); });
   if (Afterwards()) Afterwards()();
+}
+
+void Acts::LetPaint() {
+  if (painting) return;
+  painting = true;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  painting = false;
 }
 
 void Acts::SetAfterwards(std::function<void()> afterwards) { Afterwards() = std::move(afterwards); }

@@ -11,6 +11,10 @@ class Acts {
   /// Runs the act by the runtime, then the keys that it queued. What a person could not do is passed over.
   static void Run(const std::function<void()>& act);
 
+  /// Lets the windows paint in the midst of an act. What the toolkit reports meanwhile, a closed window too,
+  /// is passed over: the form at work is not ready for it.
+  static void LetPaint();
+
   /// Called after each act, to bring the windows up to date.
   static void SetAfterwards(std::function<void()> afterwards);
 };

@@ -25,6 +25,7 @@
 #include "desk/qt/Theme.h"
 #include "desk/sample/SampleFirm.h"
 #include "host/CDataSet.h"
+#include "host/Progress.h"
 
 namespace quillon {
 
@@ -58,6 +59,7 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   BuildMenus();
   runtime_.SetArea(area_);
   runtime_.OnBusy = [this](bool on, const std::string& text) { ShowBusy(on, text); };
+  runtime_.OnProgress = [this](const std::string& text) { busy_->setText(QString::fromStdString(text)); };
   start_->OnOpen = [this] { AskFirm(); };
   start_->OnSample = [this] { OpenSample(); };
   start_->OnStatement = [this] { OpenStatement(); };
@@ -79,6 +81,7 @@ DeskWindow::~DeskWindow() {
   desk_->CloseFirm();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   runtime_.OnBusy = {};
+  runtime_.OnProgress = {};
   runtime_.OnTopChanged = {};
   runtime_.SetArea(nullptr);
 }
@@ -137,10 +140,11 @@ void DeskWindow::OpenSample() {
   QString fault;
   if (!std::filesystem::exists(folder.toStdString())) {
     ShowBusy(true, "Making the sample firm");
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    Acts::LetPaint();
     try {
       std::filesystem::create_directories(std::filesystem::path(folder.toStdString()).parent_path());
-      MakeSampleFirm(folder.toStdString(), {});
+      Progress days("Making the sample firm, day", 0);
+      MakeSampleFirm(folder.toStdString(), {.OnDay = [&days] { days.Step(); }});
     } catch (const std::exception& error) {
       fault = QString::fromStdString(error.what());
     }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QLocale>
 #include <QScreen>
 #include <cmath>
 
@@ -71,6 +72,19 @@ void QtRuntime::Beep() { QApplication::beep(); }
 
 void QtRuntime::ShowBusy(bool on, const std::string& text) {
   if (OnBusy) OnBusy(on, text);
+}
+
+void QtRuntime::ShowProgress(const std::string& text, std::int64_t done, std::int64_t whole) {
+  const QLocale locale(QLocale::English, QLocale::India);
+  QString words =
+      QString::fromStdString(text) + QLatin1Char(' ') + locale.toString(static_cast<qlonglong>(done));
+  if (whole > 0) words += QStringLiteral(" of ") + locale.toString(static_cast<qlonglong>(whole));
+  if (OnProgress) OnProgress(words.toStdString());
+  Acts::LetPaint();
+}
+
+void QtRuntime::HideProgress() {
+  if (OnProgress) OnProgress("");
 }
 
 long QtRuntime::TextWidth(const Font& font, const std::string& text) const {
@@ -159,7 +173,7 @@ void QtRuntime::PointerChanged(int pointer) {
 
 void QtRuntime::Repaint() {
   Settle();
-  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  Acts::LetPaint();
 }
 
 void QtRuntime::Wait(const std::function<bool()>& done) {

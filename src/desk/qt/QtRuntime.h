@@ -32,6 +32,9 @@ class QtRuntime : public Runtime, private PrintObserver {
   std::function<void(bool on, const std::string& text)> OnBusy;
   std::function<void()> OnTopChanged;
 
+  /// Called with the words for how far a job has come, and with none at its end.
+  std::function<void(const std::string& text)> OnProgress;
+
   /// Nothing for a form that is not shown.
   FormView* ViewOf(const Form& form) const;
   FormView* TopView() const;
@@ -49,6 +52,8 @@ class QtRuntime : public Runtime, private PrintObserver {
   long ScreenHeight() const override;
   void Beep() override;
   void ShowBusy(bool on, const std::string& text) override;
+  void ShowProgress(const std::string& text, std::int64_t done, std::int64_t whole) override;
+  void HideProgress() override;
   long TextWidth(const Font& font, const std::string& text) const override;
   std::string ClipboardText() const override;
   void SetClipboardText(const std::string& text) override;

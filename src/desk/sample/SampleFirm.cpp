@@ -88,7 +88,7 @@ void MakeSampleFirm(const std::filesystem::path& folder, const SampleOptions& op
   for (const int start : years) {
     const FirmYear& year = firm->OpenYear(start);
     SampleYear(*year.Db, masters, random, year.StartDate, year.EndDate)
-        .Write(carry, options.Vouchers, start == years.back());
+        .Write(carry, options, start == years.back());
     Schema::RefreshStatistics(*year.Db);
   }
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 namespace quillon {
@@ -11,7 +12,8 @@ struct SampleOptions {
   std::vector<int> Years{2023, 2024};  ///< the calendar years in which they start
   int Vouchers = 2000;  ///< in each year; at least those that show each situation once are made
   std::uint64_t Seed = 1;
-  bool IsEmpty = false;  ///< the tables alone, without accounts and entries
+  bool IsEmpty = false;         ///< the tables alone, without accounts and entries
+  std::function<void()> OnDay = nullptr;  ///< called for each day that has been written
 };
 
 /// Makes a firm in a folder that holds none: an Indian trading firm with its banks, parties and vouchers. The

@@ -16,7 +16,7 @@ SampleYear::SampleYear(FirebirdLink& year, const SampleMasters& masters, SampleR
                        Date end)
     : year_(year), masters_(masters), random_(random), start_(start), end_(end), books_(year) {}
 
-void SampleYear::Write(SampleCarry& carry, int vouchers, bool isLast) {
+void SampleYear::Write(SampleCarry& carry, const SampleOptions& options, bool isLast) {
   year_.BeginTrans();
   nextNumber_ = carry.NextCheque;
   for (const int bank : kBanks) ReceiveBook(bank, start_.AddDays(-10));
@@ -25,15 +25,16 @@ void SampleYear::Write(SampleCarry& carry, int vouchers, bool isLast) {
   const int before = books_.Vouchers();
   const std::int64_t days = Date::Days(start_, end_) + 1;
   constexpr int kEventVouchers = 155;  // what the months and the year's end write besides the trade
-  const int trade = std::max(vouchers - kEventVouchers, 0);
+  const int trade = std::max(options.Vouchers - kEventVouchers, 0);
   int done = 0;
   for (std::int64_t d = 0; d < days; ++d) {
     const Date day = start_.AddDays(d);
     for (; done < trade * (d + 1) / days; ++done) WriteTrade(day);
     if (day.Day() == 20) WriteMonth(day);
+    if (options.OnDay) options.OnDay();
   }
   WriteYearEnd();
-  while (books_.Vouchers() - before < vouchers) Journal(end_);
+  while (books_.Vouchers() - before < options.Vouchers) Journal(end_);
   if (!isLast) books_.PostClosing(end_);
   WriteLeaves(carry);
   Close(carry);

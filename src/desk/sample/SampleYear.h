@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "desk/sample/SampleBooks.h"
+#include "desk/sample/SampleFirm.h"
 #include "desk/sample/SampleMasters.h"
 #include "desk/sample/SampleRandom.h"
 
@@ -24,7 +25,7 @@ class SampleYear {
 
   /// Writes opening balances, what was open last year and so many vouchers; takes over from `carry` and
   /// leaves in it what the next year takes.
-  void Write(SampleCarry& carry, int vouchers, bool isLast);
+  void Write(SampleCarry& carry, const SampleOptions& options, bool isLast);
 
  private:
   struct Leaf {

@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "host/Busy.h"
+#include "host/Progress.h"
 #include "host/RedrawHold.h"
 #include "host/StatementColumns.h"
 #include "host/Text.h"
@@ -213,7 +214,8 @@ void frmAccount::AddEntries(int& row, Sums& sums) {
           " and a.dBook<>'MEM' and a.dBook<>'0B' order by a.dVchDate,a.dSrNo,a.VoucherID,a.dVchSubNo",
       gSession->MainDb());
   constexpr int kMoreRows = 1000;
-  for (; !entries.Eof(); entries.MoveNext()) {
+  Progress progress("Reading the entries", 0);
+  for (; !entries.Eof(); entries.MoveNext(), progress.Step()) {
     if (++row >= Grid.Rows) Grid.Rows = row + kMoreRows;
     AddEntry(entries, row, returned.contains(entries.Field(std::size_t{0}).ToInteger()), sums);
   }
