@@ -2,7 +2,6 @@
 
 #include <QFileDialog>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSaveFile>
 #include <QScrollArea>
@@ -14,6 +13,7 @@
 
 #include "desk/print/ReportPainter.h"
 #include "desk/print/Spooler.h"
+#include "desk/qt/ElidedLabel.h"
 #include "desk/qt/PageView.h"
 #include "desk/qt/PrintDialog.h"
 #include "desk/qt/PushButton.h"
@@ -37,7 +37,7 @@ PreviewWindow::PreviewWindow(ReportCopy report, QWidget* parent)
       pages_(new PageView(report_.Sheets)),
       area_(new QScrollArea(this)),
       search_(new QLineEdit(this)),
-      state_(new QLabel(this)) {
+      state_(new ElidedLabel(this)) {
   setWindowTitle(QString::fromStdString("Preview: " + report_.Sheets.Title));
   auto* const all = new QVBoxLayout(this);
   auto* const tools = new QHBoxLayout;
@@ -47,6 +47,9 @@ PreviewWindow::PreviewWindow(ReportCopy report, QWidget* parent)
   search_->setPlaceholderText(QStringLiteral("Search (F3: next)"));
   search_->setAccessibleName(QStringLiteral("Search"));
   search_->setMaximumWidth(Scale::Px(3300));
+  // A long path must neither widen the window nor take the room of the search.
+  state_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  search_->setMinimumWidth(Scale::Px(1800));
   tools->addWidget(search_);
   tools->addWidget(state_, 1);
   AddTool(*tools, QStringLiteral("F7: Smaller"), QString(), [this] { Zoom(-1); });
@@ -80,9 +83,13 @@ void PreviewWindow::ShowState() {
   const std::size_t page = pages_->PageAt(area_->verticalScrollBar()->value() + area_->height() / 2);
   state_->setText(
       QStringLiteral("  Page %1 of %2    %3 %").arg(page + 1).arg(pages_->Pages()).arg(pages_->Percent()));
+  state_->setToolTip(QString());
 }
 
-void PreviewWindow::Tell(const QString& text) { state_->setText(QStringLiteral("  ") + text); }
+void PreviewWindow::Tell(const QString& text) {
+  state_->setText(QStringLiteral("  ") + text);
+  state_->setToolTip(text);
+}
 
 void PreviewWindow::Zoom(int step) {
   const auto here = std::find(kZooms.begin(), kZooms.end(), pages_->Percent());
