@@ -12,7 +12,7 @@ struct SampleOptions {
   std::vector<int> Years{2023, 2024};  ///< the calendar years in which they start
   int Vouchers = 2000;  ///< in each year; at least those that show each situation once are made
   std::uint64_t Seed = 1;
-  bool IsEmpty = false;         ///< the tables alone, without accounts and entries
+  bool IsEmpty = false;                   ///< the tables alone, without accounts and entries
   std::function<void()> OnDay = nullptr;  ///< called for each day that has been written
 };
 
