@@ -29,10 +29,12 @@ install_packages() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# Configures and builds a preset.
+# Configures and builds a preset; says what the tools said only when one failed.
 build_preset() {
+  local log=build/$1.log
+  mkdir -p build
   echo "Building ($1) ..."
-  cmake --preset "$1" >"build-$1.log" 2>&1 || { cat "build-$1.log"; return 1; }
-  cmake --build --preset "$1" >>"build-$1.log" 2>&1 || { tail -n 60 "build-$1.log"; return 1; }
-  rm -f "build-$1.log"
+  cmake --preset "$1" >"$log" 2>&1 || { cat "$log"; return 1; }
+  cmake --build --preset "$1" >>"$log" 2>&1 || { tail -n 60 "$log"; return 1; }
+  rm -f "$log"
 }

@@ -1,6 +1,5 @@
 #include "desk/qt/OpenFirmDialog.h"
 
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -8,6 +7,7 @@
 #include "desk/qt/PushButton.h"
 #include "desk/qt/RecentFirms.h"
 #include "desk/qt/Scale.h"
+#include "desk/qt/ToolkitDialogs.h"
 
 namespace quillon {
 
@@ -42,8 +42,7 @@ bool OpenFirmDialog::Check() {
 }
 
 void OpenFirmDialog::Browse() {
-  const QString folder = QFileDialog::getExistingDirectory(this, QStringLiteral("The folder of the firm"));
-  activateWindow();
+  const QString folder = ToolkitDialogs::Folder(this, QStringLiteral("The folder of the firm"));
   if (!folder.isEmpty() && Try(folder)) accept();
 }
 

@@ -1,6 +1,6 @@
 #include "desk/qt/PreviewWindow.h"
 
-#include <QFileDialog>
+#include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSaveFile>
@@ -19,6 +19,7 @@
 #include "desk/qt/PushButton.h"
 #include "desk/qt/Scale.h"
 #include "desk/qt/Theme.h"
+#include "desk/qt/ToolkitDialogs.h"
 #include "host/Errors.h"
 
 namespace quillon {
@@ -149,8 +150,7 @@ QString PreviewWindow::AskName(const QString& title, const QString& suffix) {
   QString name = QString::fromStdString(report_.Sheets.Title).simplified();
   for (const char c : {'/', '\\', ':'}) name.replace(QLatin1Char(c), QLatin1Char(' '));
   QString file =
-      QFileDialog::getSaveFileName(this, title, name + suffix, QStringLiteral("Files (*%1)").arg(suffix));
-  activateWindow();  // the toolkit's dialog leaves the keys nowhere where no window manager is
+      ToolkitDialogs::SaveFile(this, title, name + suffix, QStringLiteral("Files (*%1)").arg(suffix));
   if (!file.isEmpty() && !file.endsWith(suffix, Qt::CaseInsensitive)) file += suffix;
   return file;
 }

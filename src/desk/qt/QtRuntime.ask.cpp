@@ -1,7 +1,5 @@
 #include "desk/qt/QtRuntime.h"
 
-#include <QFileDialog>
-#include <QFontDialog>
 #include <QMenu>
 
 #include "desk/print/Fonts.h"
@@ -13,6 +11,7 @@
 #include "desk/qt/PickDialog.h"
 #include "desk/qt/PrintDialog.h"
 #include "desk/qt/Scale.h"
+#include "desk/qt/ToolkitDialogs.h"
 #include "host/Menu.h"
 #include "host/Text.h"
 
@@ -30,11 +29,6 @@ QString FilterOf(const std::string& filter) {
     filters << name + QStringLiteral(" (") + masks + QStringLiteral(")");
   }
   return filters.join(QStringLiteral(";;"));
-}
-
-/// The toolkit's own dialogs leave the keys nowhere where no window manager is.
-void GiveKeysBack(QWidget* below) {
-  if (below != nullptr) below->activateWindow();
 }
 
 }  // namespace
@@ -57,10 +51,8 @@ bool QtRuntime::AskFile(const FileRequest& request, std::string& path) {
   const QString title = QString::fromStdString(request.Title);
   const QString start = QString::fromStdString(request.Path);
   const QString filter = FilterOf(request.Filter);
-  QWidget* const below = TopWindow();
-  const QString chosen = request.Save ? QFileDialog::getSaveFileName(below, title, start, filter)
-                                      : QFileDialog::getOpenFileName(below, title, start, filter);
-  GiveKeysBack(below);
+  const QString chosen = request.Save ? ToolkitDialogs::SaveFile(TopWindow(), title, start, filter)
+                                      : ToolkitDialogs::OpenFile(TopWindow(), title, start, filter);
   if (chosen.isEmpty()) return false;
   path = chosen.toStdString();
   return true;
@@ -68,16 +60,12 @@ bool QtRuntime::AskFile(const FileRequest& request, std::string& path) {
 
 bool QtRuntime::AskFont(Font& font) {
   const PointerRest rest(*this);
-  bool taken = false;
-  QFont start(QString::fromStdString(font.Name));
-  start.setPointSizeF(font.Size);
-  start.setBold(font.Bold);
-  start.setItalic(font.Italic);
-  start.setUnderline(font.Underline);
-  QWidget* const below = TopWindow();
-  const QFont chosen = QFontDialog::getFont(&taken, start, below);
-  GiveKeysBack(below);
-  if (!taken) return false;
+  QFont chosen(QString::fromStdString(font.Name));
+  chosen.setPointSizeF(font.Size);
+  chosen.setBold(font.Bold);
+  chosen.setItalic(font.Italic);
+  chosen.setUnderline(font.Underline);
+  if (!ToolkitDialogs::ChooseFont(TopWindow(), chosen)) return false;
   font = {chosen.family().toStdString(), chosen.pointSizeF(), chosen.bold(), chosen.italic(),
           chosen.underline()};
   return true;
