@@ -1,3 +1,4 @@
+#include <QCloseEvent>
 #include <QLineEdit>
 
 #include "desk/qt/DateDialog.h"
@@ -5,6 +6,7 @@
 #include "desk/qt/PageView.h"
 #include "desk/qt/PreviewWindow.h"
 #include "host/ISession.h"
+#include "host/Progress.h"
 #include "host/Text.h"
 #include "tests/qt/DeskTest.h"
 
@@ -130,6 +132,27 @@ TEST_F(DeskTest, AFirmThatDoesNotOpenIsToldInPlainWords) {
   EXPECT_FALSE(window_.Books().HasFirm());
   EXPECT_EQ(window_.OpenFirm(QString::fromStdString(folder_.File("firm"))), "");
   EXPECT_TRUE(window_.windowTitle().contains(QStringLiteral("Sharda")));
+}
+
+TEST_F(DeskTest, ALongJobTellsHowFarItIsAndCannotBeClosedAway) {
+  OpenWorkbench();
+  const FormPtr bench = runtime_.ActiveForm();
+  std::vector<std::string> told;
+  runtime_.OnProgress = [&](const std::string& words) { told.push_back(words); };
+  Acts::Run([&] {
+    Soon([&] { window_.close(); });
+    QCoreApplication::postEvent(runtime_.TopView(), new QCloseEvent);
+    Progress progress("Filling dates", 123456);
+    while (told.empty()) progress.Step();
+  });
+  ASSERT_EQ(told.size(), 2U);
+  EXPECT_TRUE(QString::fromStdString(told[0]).startsWith(QStringLiteral("Filling dates "))) << told[0];
+  EXPECT_TRUE(QString::fromStdString(told[0]).endsWith(QStringLiteral(" of 1,23,456"))) << told[0];
+  EXPECT_EQ(told[1], "") << "the words go with the job";
+  EXPECT_TRUE(bench->IsLoaded());
+  EXPECT_TRUE(window_.isVisible());
+  window_.close();
+  EXPECT_FALSE(bench->IsLoaded());
 }
 
 }  // namespace
