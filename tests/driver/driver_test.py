@@ -142,6 +142,9 @@ class Driver(unittest.TestCase):
     def test_mass_marking(self):
         self.run_script("massmark.jsonl", 0)
 
+    def test_a_cheque_that_came_back(self):
+        self.run_script("returned.jsonl", 0)
+
     def test_refusals(self):
         lines, _ = self.run_script("refusals.jsonl", 1)
         self.assertEqual(lines[-1], {"left_over": [{"to": "input", "text": "Nigdi Branch"}]})
