@@ -40,7 +40,13 @@ ScreenForm::ScreenForm(const ScreenSpec& spec, Origin origin)
   };
 }
 
-long ScreenForm::CharWidth(const GridModel& grid) { return gRuntime->TextWidth(grid.Font, "9"); }
+void ScreenForm::SetColumnsInChars(GridModel& grid, std::initializer_list<ColumnSpec> columns) {
+  const long unit = gRuntime->TextWidth(grid.Font, "9");
+  for (const ColumnSpec& column : columns) {
+    gStd->SetGridColumn(grid, column.column, column.title, static_cast<double>(column.chars * unit),
+                        column.alignment);
+  }
+}
 
 long ScreenForm::ContentTop() const { return MStrip1.Top + MStrip1.Height; }
 

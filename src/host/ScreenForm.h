@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 
 #include "host/CButtonBar.h"
@@ -57,8 +58,15 @@ class ScreenForm : public Form {
   /// Clicks the standard Exit button.
   void PressExit() { QuillonStdButtons1.Buttons(CStdButtons::kExit).Click(); }
 
-  /// The width of "9" in a grid's font, in twips: the unit of column widths given in characters.
-  static long CharWidth(const GridModel& grid);
+  /// A column of a grid as a screen states it; the width in characters, which are as wide as the "9" of the
+  /// grid's font.
+  struct ColumnSpec {
+    int column;
+    const char* title;
+    int chars;
+    int alignment;
+  };
+  static void SetColumnsInChars(GridModel& grid, std::initializer_list<ColumnSpec> columns);
 
   /// Twips; where the screen's own controls begin and end.
   long ContentTop() const;

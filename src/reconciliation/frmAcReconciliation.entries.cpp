@@ -20,24 +20,6 @@ constexpr long kReturnedColor = 0x5EAEFF;
 constexpr int kMarkedOnly = 1;
 constexpr int kUnmarkedOnly = 2;
 
-struct ColumnSpec {
-  int col;
-  const char* title;
-  int chars;
-  int alignment;
-};
-
-constexpr ColumnSpec kSerialColumn = {kSerial, "Sr. No.", 5, kAlignCentre};
-constexpr ColumnSpec kColumns[] = {
-    {kDate, "Date", 12, kAlignLeft},
-    {kBook, "Book", 4, kAlignCentre},
-    {kNarration, "Narration", 25, kAlignLeft},
-    {kDebit, "Debit", 11, kAlignRight},
-    {kCredit, "Credit", 11, kAlignRight},
-    {kBalance, "Balance", 14, kAlignRight},
-    {kClearedEdit, "Cleared On", 12, kAlignLeft},
-};
-
 }  // namespace
 
 void frmAcReconciliation::ConnectGrid() {
@@ -93,13 +75,18 @@ void frmAcReconciliation::TakeStatementLayout(CGridPlus& grid) {
 
 void frmAcReconciliation::SetGridColumns() {
   TakeStatementLayout(Grid);
-  const long unit = CharWidth(Grid);
-  const auto set = [&](const ColumnSpec& column) {
-    gStd->SetGridColumn(Grid, column.col, column.title, static_cast<double>(column.chars * unit),
-                        column.alignment);
-  };
-  if (gSession->Firm().Parameter(CFirm::kSerialColumn) == "Yes") set(kSerialColumn);
-  for (const ColumnSpec& column : kColumns) set(column);
+  if (gSession->Firm().Parameter(CFirm::kSerialColumn) == "Yes") {
+    SetColumnsInChars(Grid, {{kSerial, "Sr. No.", 5, kAlignCentre}});
+  }
+  SetColumnsInChars(Grid, {
+                              {kDate, "Date", 12, kAlignLeft},
+                              {kBook, "Book", 4, kAlignCentre},
+                              {kNarration, "Narration", 25, kAlignLeft},
+                              {kDebit, "Debit", 11, kAlignRight},
+                              {kCredit, "Credit", 11, kAlignRight},
+                              {kBalance, "Balance", 14, kAlignRight},
+                              {kClearedEdit, "Cleared On", 12, kAlignLeft},
+                          });
   Grid.SetColEditable(kClearedEdit, true);
   Grid.Clear();
 }

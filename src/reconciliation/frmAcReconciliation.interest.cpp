@@ -203,19 +203,17 @@ void frmAcReconciliation::SetInterestColumns() {
   GridIntt.Rows = 1;
   GridIntt.Cols = col::kCount;
   GridIntt.HideAllColumns();
-  const long unit = CharWidth(GridIntt);
-  const auto set = [&](int column, const char* title, int chars, int alignment) {
-    gStd->SetGridColumn(GridIntt, column, title, static_cast<double>(chars * unit), alignment);
-  };
-  set(col::kDate, "Date", 13, kAlignCentre);
-  set(col::kOpening, "O.Balance", 16, kAlignRight);
-  set(col::kDebits, "Debits", 14, kAlignRight);
-  set(col::kCredits, "Credits", 14, kAlignRight);
-  set(col::kClosing, "C.Balance", 16, kAlignRight);
-  set(col::kDays, "Days", 6, kAlignRight);
-  set(col::kProduct, "Product", 18, kAlignRight);
-  set(col::kPay, "Intt. (Pay)", 13, kAlignRight);
-  set(col::kCharge, "Intt. (Charge)", 13, kAlignRight);
+  SetColumnsInChars(GridIntt, {
+                                  {col::kDate, "Date", 13, kAlignCentre},
+                                  {col::kOpening, "O.Balance", 16, kAlignRight},
+                                  {col::kDebits, "Debits", 14, kAlignRight},
+                                  {col::kCredits, "Credits", 14, kAlignRight},
+                                  {col::kClosing, "C.Balance", 16, kAlignRight},
+                                  {col::kDays, "Days", 6, kAlignRight},
+                                  {col::kProduct, "Product", 18, kAlignRight},
+                                  {col::kPay, "Intt. (Pay)", 13, kAlignRight},
+                                  {col::kCharge, "Intt. (Charge)", 13, kAlignRight},
+                              });
   GridIntt.Clear();
   GridIntt.Footer.Clear();
 }

@@ -66,16 +66,14 @@ void frmAcReconciliation::UpdateGridPassBook() {
 
 void frmAcReconciliation::SetPassBookColumns() {
   TakeStatementLayout(GridPBook);
-  const long unit = CharWidth(GridPBook);
-  const auto set = [&](int column, const char* title, int chars, int alignment) {
-    gStd->SetGridColumn(GridPBook, column, title, static_cast<double>(chars * unit), alignment);
-  };
-  set(kDate, "Date", 12, kAlignLeft);
-  set(kBook, "Book", 4, kAlignCentre);
-  set(kNarration, "Narration", 25, kAlignLeft);
-  set(kDebit, "Dr.(Withdrawls)", 11, kAlignRight);
-  set(kCredit, "Cr.(Deposits)", 11, kAlignRight);
-  set(kBalance, "Balance", 14, kAlignRight);
+  SetColumnsInChars(GridPBook, {
+                                   {kDate, "Date", 12, kAlignLeft},
+                                   {kBook, "Book", 4, kAlignCentre},
+                                   {kNarration, "Narration", 25, kAlignLeft},
+                                   {kDebit, "Dr.(Withdrawls)", 11, kAlignRight},
+                                   {kCredit, "Cr.(Deposits)", 11, kAlignRight},
+                                   {kBalance, "Balance", 14, kAlignRight},
+                               });
   GridPBook.Clear();
   GridPBook.RowHeightMin = kRowHeight;
 }

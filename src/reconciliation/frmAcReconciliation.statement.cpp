@@ -104,16 +104,14 @@ void frmAcReconciliation::SetStatementColumns() {
   GridStatement.Rows = 1;
   GridStatement.Cols = col::kCount;
   GridStatement.HideAllColumns();
-  const long unit = CharWidth(GridStatement);
-  const auto set = [&](int column, const char* title, int chars, int alignment) {
-    gStd->SetGridColumn(GridStatement, column, title, static_cast<double>(chars * unit), alignment);
-  };
-  set(col::kDate, "Date", 12, kAlignLeft);
-  set(col::kBook, "Book", 6, kAlignLeft);
-  set(col::kParticulars, "Particulars", 40, kAlignLeft);
-  set(col::kAmount, "", 14, kAlignRight);
-  set(col::kTotal, "Amount", 18, kAlignRight);
-  set(col::kClearedOn, "Cleared On", 12, kAlignRight);
+  SetColumnsInChars(GridStatement, {
+                                       {col::kDate, "Date", 12, kAlignLeft},
+                                       {col::kBook, "Book", 6, kAlignLeft},
+                                       {col::kParticulars, "Particulars", 40, kAlignLeft},
+                                       {col::kAmount, "", 14, kAlignRight},
+                                       {col::kTotal, "Amount", 18, kAlignRight},
+                                       {col::kClearedOn, "Cleared On", 12, kAlignRight},
+                                   });
   GridStatement.SetColEditable(col::kClearedOn, true);
   GridStatement.Clear();
   GridStatement.Rows = 2;

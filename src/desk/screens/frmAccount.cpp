@@ -145,18 +145,16 @@ void frmAccount::SetColumns() {
   Grid.Cols = col::kCount;
   gStd->SetupGrid(Grid);
   Grid.HideAllColumns();
-  const auto unit = static_cast<double>(CharWidth(Grid));
-  const auto set = [&](int column, const char* title, int chars, int alignment) {
-    gStd->SetGridColumn(Grid, column, title, chars * unit, alignment);
-  };
-  set(col::kSerial, "S.No.", 7, kAlignRight);
-  set(col::kDate, "Date", 13, kAlignLeft);
-  set(col::kBook, "Book", 6, kAlignCentre);
-  set(col::kVchNo, "Vch. No.", 10, kAlignLeft);
-  set(col::kNarration, "Narration", 56, kAlignLeft);
-  set(col::kDebit, "Debit", 17, kAlignRight);
-  set(col::kCredit, "Credit", 17, kAlignRight);
-  set(col::kBalance, "Balance", 20, kAlignRight);
+  SetColumnsInChars(Grid, {
+                              {col::kSerial, "S.No.", 7, kAlignRight},
+                              {col::kDate, "Date", 13, kAlignLeft},
+                              {col::kBook, "Book", 6, kAlignCentre},
+                              {col::kVchNo, "Vch. No.", 10, kAlignLeft},
+                              {col::kNarration, "Narration", 56, kAlignLeft},
+                              {col::kDebit, "Debit", 17, kAlignRight},
+                              {col::kCredit, "Credit", 17, kAlignRight},
+                              {col::kBalance, "Balance", 20, kAlignRight},
+                          });
 }
 
 void frmAccount::FillGrid() {
