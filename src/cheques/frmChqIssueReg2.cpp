@@ -12,8 +12,8 @@ constexpr ScreenSpec kScreen = {
     .caption = "   Cheque Issue Register",
     .titleSuffix = "",
     .rightKey = "",
-    .registerTitle = "Cheque Issue Register",
-    .iconKey = "Report",
+    .registerTitle = "",
+    .iconKey = "",
 };
 
 struct Column {
@@ -37,6 +37,7 @@ constexpr Column kTitled[] = {
 
 frmChqIssueReg2::frmChqIssueReg2()
     : ScreenForm(kScreen, Origin::Module), lblTitle2(*this, "lblTitle2"), Grid(*this, "Grid") {
+  Caption = "Cheque Issue Register";
   lblTitle2.Caption = "Period";
   Method("SetupGrid", [this](const Array&) {
     SetupGrid();

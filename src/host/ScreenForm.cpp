@@ -81,7 +81,7 @@ void ScreenForm::OnActivate() {
   }
   FirstShow();
   if (!IsLoaded()) return;
-  if (!QuillonForm) {
+  if (!QuillonForm && *spec_.registerTitle != '\0') {
     gApp->RegisterForm(*this, spec_.registerTitle, spec_.iconKey);
     registered_ = true;
   }

@@ -19,7 +19,7 @@ struct ScreenSpec {
   const char*
       titleSuffix;  ///< behind the caller's title, e.g. " -> Reconciliation"; empty leaves the design caption
   const char* rightKey;       ///< checked with "N" at the first activation; empty asks for none
-  const char* registerTitle;  ///< in the host's list of open windows
+  const char* registerTitle;  ///< in the host's list of open windows; empty keeps out of it
   const char* iconKey;
   int firstKey = 0;  ///< the function key of button 0
   int lastKey = 0;   ///< the last function key that presses a button

@@ -132,6 +132,7 @@ TEST_F(ReturnedCheques, TheIssueRegisterComesUpEmptyWithItsColumns) {
   for (int col = 0; col < shown->Grid.Cols; ++col) titles += shown->Grid.TextMatrix(0, col) + "|";
   EXPECT_EQ(titles, "||||Party|Bill No.|Vch.Date|Bill Amt.|R.D.|C.D. %|C.D.|B.C.||Net Amt.|||");
   EXPECT_TRUE(shown->Grid.HasFocus());
+  EXPECT_TRUE(desk_.App().Windows().empty()) << "it does not enter itself in the list of windows";
   Key(*shown, keys::kEscape);
   EXPECT_FALSE(shown->IsLoaded());
 }

@@ -129,9 +129,11 @@ void frmVoucher::ShowLeaves(CDbLink& db) {
                        " order by ChqNo",
                    db);
        !leaves.Eof(); leaves.MoveNext()) {
-    text += "   Cheque No. " + leaves.Field("ChqNo").ToText() + " of " +
-            leaves.Field("IsuDate").ToDate().Text() + " for " +
-            gStd->FormatAmount(leaves.Field("Amount").ToAmount(), "C2");
+    text += "   Cheque No. " + leaves.Field("ChqNo").ToText();
+    const Date issued = leaves.Field("IsuDate").ToDate();
+    if (!issued.IsEmpty()) text += " of " + issued.Text();
+    const Amount amount = leaves.Field("Amount").ToAmount();
+    if (!amount.IsZero()) text += " for " + gStd->FormatAmount(amount, "C2");
   }
   lblLeaf.Caption = text.empty() ? std::string("   No cheque leaf") : text;
 }
