@@ -113,7 +113,7 @@ void DeskWork::ReadyMassMarking() {
 void DeskWork::ReadyMarkings() {
   if (markings_) return;
   ReadyStatement();
-  Press(*statement_, "Markings");
+  Press(*statement_, "Marking");
   markings_ = runtime_.ActiveForm();
 }
 
