@@ -1,7 +1,8 @@
+#include "host/Amount.h"
+
 #include <gtest/gtest.h>
 #include <random>
 
-#include "host/Amount.h"
 #include "host/Errors.h"
 
 namespace quillon {

@@ -1,6 +1,7 @@
+#include "host/Date.h"
+
 #include <gtest/gtest.h>
 
-#include "host/Date.h"
 #include "host/Errors.h"
 
 namespace quillon {

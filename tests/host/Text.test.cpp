@@ -1,7 +1,8 @@
+#include "host/Text.h"
+
 #include <gtest/gtest.h>
 
 #include "host/Errors.h"
-#include "host/Text.h"
 #include "host/Variant.h"
 
 namespace quillon {

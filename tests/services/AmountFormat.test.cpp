@@ -1,7 +1,8 @@
+#include "desk/services/AmountFormat.h"
+
 #include <gtest/gtest.h>
 #include <random>
 
-#include "desk/services/AmountFormat.h"
 #include "host/Errors.h"
 
 namespace quillon {

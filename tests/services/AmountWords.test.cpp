@@ -1,9 +1,10 @@
+#include "desk/services/AmountWords.h"
+
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
 #include <sstream>
 
-#include "desk/services/AmountWords.h"
 #include "host/Errors.h"
 
 namespace quillon {

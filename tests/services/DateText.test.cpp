@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "desk/services/DateText.h"
+
+#include <gtest/gtest.h>
 
 namespace quillon {
 namespace {

@@ -1,6 +1,7 @@
+#include "desk/services/NameText.h"
+
 #include <gtest/gtest.h>
 
-#include "desk/services/NameText.h"
 #include "desk/services/NarrationText.h"
 #include "desk/services/SqlText.h"
 #include "host/Text.h"
