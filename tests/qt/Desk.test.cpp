@@ -13,8 +13,6 @@
 namespace quillon {
 namespace {
 
-constexpr int kCashCredit = 102;
-
 /// The message that shows, which the key answers.
 QString AnswerMessage(Qt::Key key) {
   auto* const box = dynamic_cast<MessageDialog*>(QApplication::activeModalWidget());
@@ -96,34 +94,6 @@ TEST_F(DeskTest, TheStatementIsAskedForADateAndShownOnPages) {
   EXPECT_GE(pages, 1U);
   EXPECT_TRUE(found);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-}
-
-TEST_F(DeskTest, InterestComesThroughItsThreeWindowsByKeysAlone) {
-  const FormPtr statement = gApp->GetForm("Account");
-  statement->Set("AccountCode", kCashCredit);
-  gApp->ShowForm(statement);
-  QString told;
-  std::vector<std::string> windows;
-  Soon([&] {
-    told = AnswerMessage(Qt::Key_Return);
-    Soon([&] {
-      windows.push_back(Top().Caption());
-      Soon([&] {
-        windows.push_back(Top().Caption());
-        Press(Qt::Key_F7);
-      });
-      Press(Qt::Key_Escape);
-    });
-  });
-  Press(Qt::Key_F5);
-  EXPECT_TRUE(told.startsWith("Contra entries found.")) << told.toStdString();
-  EXPECT_EQ(windows, (std::vector<std::string>{"Alert window", "Interest Options"}));
-  ASSERT_EQ(Top().Name(), "frmAcReconciliation");
-  auto& table = dynamic_cast<CGridPlus&>(Top().ControlAt("GridIntt"));
-  EXPECT_TRUE(table.HasFocus());
-  EXPECT_EQ(table.Footer.Rows(), 3);
-  Press(Qt::Key_Escape);
-  EXPECT_EQ(Top().Name(), "frmAccount");
 }
 
 TEST_F(DeskTest, AFirmThatDoesNotOpenIsToldInPlainWords) {

@@ -79,15 +79,7 @@ class Interest : public DeskTest {
   CGridPlus& PassBook() { return At<CGridPlus>(bench_, "GridPBook"); }
   CButtonBar& Bar() { return At<CButtonBar>(bench_, "BtnBar1"); }
 
-  Texts Rows() {
-    Texts rows;
-    for (int row = 1; row < View().Rows; ++row) {
-      std::string text;
-      for (int col = 0; col <= 8; ++col) text += (col == 0 ? "" : "|") + View().TextMatrix(row, col);
-      rows.push_back(text);
-    }
-    return rows;
-  }
+  Texts Rows() { return RowTexts(View(), {0, 1, 2, 3, 4, 5, 6, 7, 8}); }
   Texts Footer() {
     Texts rows;
     for (int row = 0; row < View().Footer.Rows(); ++row) {
@@ -285,14 +277,6 @@ TEST_F(Interest, MethodsWithoutARuleShowProductsAlone) {
       << "equal totals stand on the charge's side";
 }
 
-TEST_F(Interest, NothingAtAllIsADebitOfNothing) {
-  Db().Execute("delete from FAData");
-  OpenPassBook();
-  PressInterest({Confirm()});
-  EXPECT_EQ(Rows(), Texts{"|||||365|||"});
-  EXPECT_EQ(Footer(), (Texts{"Product (Cr)|0|||", "Product (Dr)|365|||", "Net Dr|365|0.00||0.00"}));
-}
-
 TEST_F(Interest, TheFirmChoosesTheYearAndTheDecimals) {
   gSession->CommonDb().Execute("insert into FirmParameters values (1025,'4')");
   gSession->CommonDb().Execute("insert into FirmParameters values (1029,'Jan-Dec')");
@@ -416,18 +400,6 @@ TEST_F(Interest, OpenedForItTheOtherViewsWorkToo) {
   EXPECT_TRUE(View().Title().starts_with("Pass Book Interest"));
   Key(*bench_, keys::kEscape);
   EXPECT_FALSE(bench_->IsLoaded());
-}
-
-TEST_F(Interest, AHostMayAskForTheInterestOfARow) {
-  OpenPassBook();
-  PressInterest({Method("CC Limit - Pay Only"), Confirm()});
-  const auto of = [&](const char* product) {
-    return bench_->Call("CalcInterest", {Amount::OfText(product)}).ToText();
-  };
-  EXPECT_EQ(of("372000"), "96.82") << "in the pass book the bank's charge";
-  EXPECT_EQ(of("-372000"), "0");
-  Key(*bench_, keys::kEscape);
-  EXPECT_EQ(of("-372000"), "96.82") << "in the books what the firm owes";
 }
 
 }  // namespace

@@ -61,19 +61,7 @@ class Marking : public DeskTest {
   bool Date(int row, const std::string& text) { return EditCell(Grid(), row, kClearDate, text); }
   bool Number(int row, const std::string& text) { return EditCell(Grid(), row, kChequeNo, text); }
 
-  /// The columns of a row, joined by bars.
-  std::string Row(int row) {
-    std::string text = Grid().TextMatrix(row, 0);
-    for (int col = 1; col < Grid().Cols; ++col) text += "|" + Grid().TextMatrix(row, col);
-    return text;
-  }
-  std::string Stored(int voucher, int line = 1) {
-    return Db()
-        .Lookup("FAData", "dBankDate",
-                "VoucherID=" + std::to_string(voucher) + " and dVchSubNo=" + std::to_string(line))
-        .ToDate()
-        .Text();
-  }
+  std::string Row(int row) { return RowText(Grid(), row, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}); }
   Texts Updates() {
     Texts updates = Statements();
     std::erase_if(updates, [](const std::string& sql) { return !sql.starts_with("UPDATE"); });
@@ -480,16 +468,6 @@ TEST_F(Marking, AFailedStoreLeavesTheRowUnmatched) {
   EXPECT_FALSE(Number(1, "470251"));
   EXPECT_EQ(Events("error").size(), 1U);
   EXPECT_EQ(Row(1), "||08-Apr-2024|||||||");
-}
-
-TEST_F(Marking, AHostMayAskForANumberWithoutADate) {
-  Open();
-  AnswerMessage();
-  EXPECT_FALSE(form_->Call("FindChequeNo", {"470259", 1}).ToFlag());
-  const Texts sent = Statements();
-  EXPECT_TRUE(sent.at(0).ends_with("LIKE '%470259%' ORDER BY A.DBANKDATE")) << sent.at(0);
-  EXPECT_TRUE(form_->Call("FindChequeNo", {"470253", 1}).ToFlag()) << "marked, so no date is needed";
-  EXPECT_EQ(Grid().TextMatrix(1, 0), "4");
 }
 
 TEST_F(Marking, OtherYearsAreMarkedInTheirOwnBooks) {

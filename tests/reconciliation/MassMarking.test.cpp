@@ -226,16 +226,5 @@ TEST_F(MassMarking, AFailureIsReportedAndWhatWasStoredStays) {
   EXPECT_EQ(Grid().TextMatrix(4, kCleared), "") << "a date stands in the grid when it stands in the books";
 }
 
-TEST_F(MassMarking, AHostMayCallIt) {
-  AnswerPeriod("05-Apr-2024", "05-Apr-2024");
-  AnswerMessage();
-  Do([&] { bench_->Call("massmarking", {false}); });
-  EXPECT_EQ(Stored(), (Texts{"05/04", "10/04", "", "", ""}));
-  AnswerPeriod("05-Apr-2024", "05-Apr-2024");
-  AnswerMessage();
-  Do([&] { bench_->Call("MassMarking", {true}); });
-  EXPECT_EQ(Stored(), (Texts{"", "10/04", "", "", ""}));
-}
-
 }  // namespace
 }  // namespace quillon

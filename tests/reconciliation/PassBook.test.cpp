@@ -35,17 +35,8 @@ class PassBook : public DeskTest {
   CGridPlus& View() { return At<CGridPlus>(bench_, "GridPBook"); }
   CButtonBar& Bar() { return At<CButtonBar>(bench_, "BtnBar1"); }
 
-  /// Voucher, date, book, narration, withdrawal, deposit and balance of each row, joined by bars.
-  Texts Rows() {
-    Texts rows;
-    for (int row = 1; row < View().Rows; ++row) {
-      std::string text;
-      for (const int col : {0, 8, 9, 11, 24, 25, 26})
-        text += (col == 0 ? "" : "|") + View().TextMatrix(row, col);
-      rows.push_back(text);
-    }
-    return rows;
-  }
+  /// Voucher, date, book, narration, withdrawal, deposit and balance of each row.
+  Texts Rows() { return RowTexts(View(), {0, 8, 9, 11, 24, 25, 26}); }
   std::string Footer() {
     std::string text;
     for (const int col : {11, 24, 25, 26}) text += (col == 11 ? "" : "|") + View().Footer.TextMatrix(0, col);

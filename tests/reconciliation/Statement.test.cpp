@@ -34,17 +34,9 @@ class Statement : public DeskTest {
   CGridPlus& Entries() { return At<CGridPlus>(bench_, "Grid"); }
   CGridPlus& View() { return At<CGridPlus>(bench_, "GridStatement"); }
 
-  /// The visible columns and the hidden sign of a row, joined by bars.
-  std::string Row(int row) {
-    std::string text;
-    for (const int col : {0, 1, 3, 4, 5, 6, 7}) text += (col == 0 ? "" : "|") + View().TextMatrix(row, col);
-    return text;
-  }
-  Texts Rows() {
-    Texts rows;
-    for (int row = 1; row < View().Rows; ++row) rows.push_back(Row(row));
-    return rows;
-  }
+  /// The visible columns and the hidden sign.
+  std::string Row(int row) { return RowText(View(), row, {0, 1, 3, 4, 5, 6, 7}); }
+  Texts Rows() { return RowTexts(View(), {0, 1, 3, 4, 5, 6, 7}); }
 
   FormPtr statement_;
   FormPtr bench_;

@@ -43,14 +43,6 @@ class Workbench : public DeskTest {
     Do([&] { At<ComboBox>(bench_, "cmbFilter").UserChoose(filter); });
   }
 
-  std::string Stored(int voucher, int line = 1) {
-    return Db()
-        .Lookup("FAData", "dBankDate",
-                "VoucherID=" + std::to_string(voucher) + " and dVchSubNo=" + std::to_string(line))
-        .ToDate()
-        .Text();
-  }
-
   /// What the footer must say, counted anew over all rows.
   void ExpectTotals(const std::string& when) {
     Amount debits;

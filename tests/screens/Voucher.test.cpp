@@ -36,14 +36,9 @@ TEST_F(Voucher, ShowsAllItsLinesAndEscReturnsToTheEntry) {
   const FormPtr statement = ShowStatement();
   const FormPtr voucher = OpenFrom(statement);
   const auto& grid = At<CGridPlus>(voucher, "Grid");
-  Texts lines;
-  for (int row = 1; row < grid.Rows; ++row) {
-    std::string text;
-    for (int col = 1; col < grid.Cols; ++col) text += grid.TextMatrix(row, col) + "|";
-    lines.push_back(text);
-  }
-  EXPECT_EQ(lines, (Texts{"Sahyadri Bank|Pune|Paid||1,500.25|25-Apr-2024|",
-                          "Asha Traders|Surat|Paid|1,490.00|||", "Bank Charges||Paid|10.25|||"}));
+  EXPECT_EQ(RowTexts(grid, {1, 2, 3, 4, 5, 6}),
+            (Texts{"Sahyadri Bank|Pune|Paid||1,500.25|25-Apr-2024", "Asha Traders|Surat|Paid|1,490.00||",
+                   "Bank Charges||Paid|10.25||"}));
   EXPECT_EQ(grid.Title(), "Voucher No. 9   Date 20-Apr-2024   Book BNK");
   EXPECT_EQ(grid.Footer.TextMatrix(0, 4), "1,500.25");
   EXPECT_EQ(grid.Footer.TextMatrix(0, 5), "1,500.25");

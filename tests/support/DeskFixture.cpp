@@ -89,6 +89,14 @@ void DeskTest::AddVoucher(const Voucher& voucher) {
   Db().Execute("insert into FADocs (VoucherID) values (" + id + ")");
 }
 
+std::string DeskTest::Stored(int voucher, int line) const {
+  return Db()
+      .Lookup("FAData", "dBankDate",
+              "VoucherID=" + std::to_string(voucher) + " and dVchSubNo=" + std::to_string(line))
+      .ToDate()
+      .Text();
+}
+
 void DeskTest::Do(const std::function<void()>& act) {
   runtime_.Act(act);
   runtime_.DeliverKeys();
@@ -146,6 +154,18 @@ std::vector<std::string> DeskTest::Take(const std::string& kind, const char* mem
   std::vector<std::string> texts;
   for (const Json& event : Events(kind)) texts.push_back(event.at(member).get<std::string>());
   return texts;
+}
+
+std::string RowText(const GridModel& grid, int row, const std::vector<int>& cols) {
+  std::vector<std::string> cells;
+  for (const int col : cols) cells.push_back(grid.TextMatrix(row, col));
+  return text::Join(cells, "|");
+}
+
+std::vector<std::string> RowTexts(const GridModel& grid, const std::vector<int>& cols) {
+  std::vector<std::string> rows;
+  for (int row = 1; row < grid.Rows(); ++row) rows.push_back(RowText(grid, row, cols));
+  return rows;
 }
 
 bool EditCell(EditableGrid& grid, int row, int col, const std::string& text) {

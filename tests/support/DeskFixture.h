@@ -45,6 +45,9 @@ class DeskTest : public testing::Test {
   };
   void AddVoucher(const Voucher& voucher);
 
+  /// The cleared date of a voucher's line as the books have it.
+  std::string Stored(int voucher, int line = 1) const;
+
   /// What a person does: errors come to the log, queued keys arrive afterwards.
   void Do(const std::function<void()>& act);
   void Key(Form& form, int code, int shift = 0);
@@ -81,6 +84,12 @@ template <class T>
 T& At(const FormPtr& form, const std::string& name, int index = Control::kNoIndex) {
   return dynamic_cast<T&>(form->ControlAt(name, index));
 }
+
+/// Cells of a grid's row, joined by bars.
+std::string RowText(const GridModel& grid, int row, const std::vector<int>& cols);
+
+/// Those of all rows below the headings.
+std::vector<std::string> RowTexts(const GridModel& grid, const std::vector<int>& cols);
 
 /// A cell from the person's first key to leaving it; whether it was left.
 bool EditCell(EditableGrid& grid, int row, int col, const std::string& text);
