@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "bench/BenchFirm.h"
-#include "host/CButtonBar.h"
-#include "host/CGridPlus.h"
-#include "host/Text.h"
+#include "host/controls/CButtonBar.h"
+#include "host/controls/CGridPlus.h"
+#include "host/values/Text.h"
 
 namespace quillon::bench {
 

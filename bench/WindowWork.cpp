@@ -5,12 +5,12 @@
 #include <QScrollBar>
 
 #include "bench/BenchFirm.h"
-#include "desk/qt/Acts.h"
-#include "desk/qt/Adapter.h"
-#include "desk/qt/FormView.h"
-#include "host/Errors.h"
-#include "host/Form.h"
-#include "host/IApp.h"
+#include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/Adapter.h"
+#include "desk/qt/windows/FormView.h"
+#include "host/forms/Form.h"
+#include "host/services/IApp.h"
+#include "host/values/Errors.h"
 
 namespace quillon::bench {
 

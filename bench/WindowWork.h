@@ -3,9 +3,9 @@
 #include <QPointer>
 #include <filesystem>
 
-#include "desk/qt/DeskWindow.h"
-#include "desk/qt/GridWidget.h"
-#include "desk/qt/QtRuntime.h"
+#include "desk/qt/adapters/GridWidget.h"
+#include "desk/qt/windows/DeskWindow.h"
+#include "desk/qt/windows/QtRuntime.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon::bench {

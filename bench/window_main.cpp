@@ -9,9 +9,9 @@
 #include "bench/BenchFirm.h"
 #include "bench/LoopWatch.h"
 #include "bench/WindowWork.h"
-#include "desk/qt/Theme.h"
+#include "desk/qt/adapters/Theme.h"
 #include "desk/tour/Tour.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
-# What every target of the house is built with, and how a folder becomes one.
+# What every target of the house is built with, and how folders become one.
 
 add_library(quillon_house INTERFACE)
 # GCC 12 sees overlapping copies in sums of strings that have none, in optimised builds only.
-target_compile_options(quillon_house INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror -Wno-restrict)
+target_compile_options(quillon_house INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+                                               $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_compile_definitions(quillon_house INTERFACE QT_NO_KEYWORDS)
 
 option(QUILLON_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
@@ -11,23 +12,67 @@ if(QUILLON_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# Declares the current folder as the link target NAME. A folder sees the headers of the targets in USES and of
-# what these use, and no others: each target offers its headers through a root of its own that holds a link to
-# just this folder, so a forbidden include does not compile.
-function(quillon_folder name)
-  cmake_parse_arguments(ARG "SHARED" "" "USES;LIBRARIES" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
-  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-  file(RELATIVE_PATH folder ${CMAKE_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
-  set(root ${CMAKE_BINARY_DIR}/headers/${name})
-  get_filename_component(parent ${root}/${folder} DIRECTORY)
-  file(MAKE_DIRECTORY ${parent})
-  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${folder} SYMBOLIC)
-  if(ARG_SHARED)
-    add_library(${name} SHARED ${sources})
-  else()
-    add_library(${name} STATIC ${sources})
+# Reads the table of arrows: QUILLON_TARGETS, and of each target its folders and what it uses.
+set(QUILLON_TARGETS)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/arrows.txt)
+file(STRINGS ${CMAKE_CURRENT_LIST_DIR}/arrows.txt lines REGEX "^[^#].*\\|")
+foreach(line ${lines})
+  if(NOT line MATCHES "^ *([^ |]+) *\\|([^|]*)\\|(.*)$")
+    message(FATAL_ERROR "arrows.txt: ${line}")
   endif()
-  target_include_directories(${name} PUBLIC ${root})
-  target_link_libraries(${name} PUBLIC quillon_house ${ARG_USES} PRIVATE ${ARG_LIBRARIES})
+  set(target ${CMAKE_MATCH_1})
+  list(APPEND QUILLON_TARGETS ${target})
+  separate_arguments(QUILLON_FOLDERS_${target} UNIX_COMMAND "${CMAKE_MATCH_2}")
+  separate_arguments(uses UNIX_COMMAND "${CMAKE_MATCH_3}")
+  list(TRANSFORM uses PREPEND quillon_)
+  set(QUILLON_USES_${target} ${uses})
+endforeach()
+
+# Gives a target the root through which it offers its headers: a folder that holds links to just its own folders, so
+# that a forbidden include does not compile.
+function(quillon_headers target root)
+  foreach(folder ${QUILLON_FOLDERS_${target}})
+    get_filename_component(parent ${root}/${folder} DIRECTORY)
+    file(MAKE_DIRECTORY ${parent})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
+  endforeach()
+endfunction()
+
+# Declares the link target quillon_NAME of the table's line NAME. It sees the headers of the targets that its line
+# names and of what these may see, and no others.
+function(quillon_folder name)
+  cmake_parse_arguments(ARG "SHARED" "" "LIBRARIES" ${ARGN})
+  if(NOT name IN_LIST QUILLON_TARGETS)
+    message(FATAL_ERROR "cmake/arrows.txt has no line for ${name}")
+  endif()
+  set(sources)
+  foreach(folder ${QUILLON_FOLDERS_${name}})
+    file(GLOB found CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp)
+    list(APPEND sources ${found})
+  endforeach()
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  set(root ${CMAKE_BINARY_DIR}/headers/${name})
+  quillon_headers(${name} ${root})
+  if(NOT sources)
+    add_library(quillon_${name} INTERFACE)
+    target_include_directories(quillon_${name} INTERFACE ${root})
+    target_link_libraries(quillon_${name} INTERFACE quillon_house ${QUILLON_USES_${name}})
+    return()
+  elseif(ARG_SHARED)
+    add_library(quillon_${name} SHARED ${sources})
+  else()
+    add_library(quillon_${name} STATIC ${sources})
+  endif()
+  target_include_directories(quillon_${name} PUBLIC ${root})
+  target_link_libraries(quillon_${name} PUBLIC quillon_house ${QUILLON_USES_${name}} PRIVATE ${ARG_LIBRARIES})
+endfunction()
+
+# A program made of the main.cpp in src/FOLDER, linked to that folder's target, with the module beside it.
+function(quillon_program program folder)
+  string(REPLACE "desk/" "" target ${folder})
+  string(REPLACE "/" "_" target ${target})
+  add_executable(${program} ${CMAKE_SOURCE_DIR}/src/${folder}/main.cpp)
+  target_compile_definitions(${program} PRIVATE QUILLON_VERSION="${PROJECT_VERSION}")
+  target_link_libraries(${program} PRIVATE quillon_${target} ${ARGN})
+  add_dependencies(${program} quillon_module)
 endfunction()

@@ -1,7 +1,7 @@
 #include "cheques/frmChqIssueReg2.h"
 
-#include "host/RedrawHold.h"
-#include "host/host_services.h"
+#include "host/controls/RedrawHold.h"
+#include "host/services/host_services.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/CGridPlus.h"
-#include "host/ScreenForm.h"
+#include "host/controls/CGridPlus.h"
+#include "host/forms/ScreenForm.h"
 
 namespace quillon {
 

@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "books/BooksNames.h"
 #include "books/SqlText.h"
-#include "host/Busy.h"
-#include "host/RedrawHold.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/controls/RedrawHold.h"
+#include "host/forms/Busy.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -55,9 +56,10 @@ std::string LinesQuery(const std::string& account, const std::string& period) {
          "ON A.VOUCHERID=D.VOUCHERID) INNER JOIN (" +
          vouchers +
          ") Q1 ON A.VOUCHERID=Q1.VOUCHERID) LEFT JOIN FAMASTER AG ON M.MAGENTCODE=AG.MCD WHERE A.DBOOK NOT "
-         "IN "
-         "('0B','MEM') AND D.CHQRETURN='Y' AND A.DCD<>" +
-         account + " AND A.DVCHDATE BETWEEN " + period + " ORDER BY A.DVCHDATE,A.DSRNO,A.DVCHSUBNO";
+         "IN (" +
+         books::SqlString(books::kOpeningBook) + "," + books::SqlString(books::kMemorandumBook) +
+         ") AND D.CHQRETURN='Y' AND A.DCD<>" + account + " AND A.DVCHDATE BETWEEN " + period +
+         " ORDER BY A.DVCHDATE,A.DSRNO,A.DVCHSUBNO";
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/CDataSet.h"
-#include "host/CGridPlus.h"
-#include "host/ScreenForm.h"
+#include "host/controls/CGridPlus.h"
+#include "host/data/CDataSet.h"
+#include "host/forms/ScreenForm.h"
 
 namespace quillon {
 

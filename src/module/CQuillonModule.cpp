@@ -2,35 +2,25 @@
 
 #include <exception>
 
-#include "cheques/frmChqRetReport.h"
-#include "host/IApp.h"
-#include "host/Runtime.h"
-#include "host/Text.h"
-#include "reconciliation/frmAcReconciliation.h"
-#include "reconciliation/frmAcReconciliationMark.h"
-#include "reconciliation/frmInttMethod.h"
+#include "cheques/ChequesForms.h"
+#include "correspondence/CorrespondenceForms.h"
+#include "entry/EntryForms.h"
+#include "envelopes/EnvelopesForms.h"
+#include "graph/GraphForms.h"
+#include "host/forms/Runtime.h"
+#include "host/services/IApp.h"
+#include "host/values/Text.h"
+#include "maintenance/MaintenanceForms.h"
+#include "reconciliation/ReconciliationForms.h"
 
 namespace quillon {
 
 namespace {
 
-template <class T>
-FormPtr Make() {
-  return std::make_shared<T>();
-}
-
-struct FormKey {
-  const char* key;
-  FormPtr (*make)();
-};
-
-/// The keys of GetForm, in lower case.
-constexpr FormKey kFormKeys[] = {
-    {"acreconciliation", Make<frmAcReconciliation>},
-    {"acreconciliationmark", Make<frmAcReconciliationMark>},
-    {"inttmethod", Make<frmInttMethod>},
-    {"chqretreport", Make<frmChqRetReport>},
-};
+/// The subsystems' own lists of form keys.
+std::span<const FormKey> (*const kFormKeys[])() = {ReconciliationForms, ChequesForms, EnvelopesForms,
+                                                   CorrespondenceForms, GraphForms,   MaintenanceForms,
+                                                   EntryForms};
 
 struct MenuKey {
   const char* menu;
@@ -78,8 +68,10 @@ std::string CQuillonModule::Description() const { return QUILLON_DESCRIPTION; }
 
 FormPtr CQuillonModule::GetForm(const std::string& formName) {
   const std::string wanted = text::Lower(formName);
-  for (const FormKey& known : kFormKeys) {
-    if (wanted == known.key) return known.make();
+  for (const auto keysOf : kFormKeys) {
+    for (const FormKey& known : keysOf()) {
+      if (wanted == known.Key) return known.Make();
+    }
   }
   return nullptr;
 }

@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "host/HostApp.h"
-#include "host/IModule.h"
+#include "host/services/HostApp.h"
+#include "host/services/IModule.h"
 
 namespace quillon {
 

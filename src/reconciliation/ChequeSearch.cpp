@@ -1,8 +1,8 @@
 #include "reconciliation/ChequeSearch.h"
 
 #include "books/SqlText.h"
-#include "host/IStd.h"
-#include "host/Text.h"
+#include "host/services/IStd.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

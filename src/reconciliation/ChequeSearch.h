@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "host/Date.h"
+#include "host/values/Date.h"
 
 namespace quillon {
 

@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "books/BooksNames.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

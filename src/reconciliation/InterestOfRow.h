@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "host/Amount.h"
-#include "host/Date.h"
+#include "host/values/Amount.h"
+#include "host/values/Date.h"
 
 namespace quillon {
 

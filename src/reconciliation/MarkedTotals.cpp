@@ -1,9 +1,9 @@
 #include "reconciliation/MarkedTotals.h"
 
 #include "books/BooksNames.h"
-#include "host/GridModel.h"
-#include "host/IStd.h"
-#include "host/StatementColumns.h"
+#include "host/controls/GridModel.h"
+#include "host/services/IStd.h"
+#include "host/services/StatementColumns.h"
 
 namespace quillon {
 

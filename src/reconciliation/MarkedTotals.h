@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "host/Amount.h"
+#include "host/values/Amount.h"
 
 namespace quillon {
 

@@ -3,12 +3,12 @@
 #include <optional>
 
 #include "books/SqlText.h"
-#include "host/Busy.h"
-#include "host/CAlertLog.h"
-#include "host/Progress.h"
-#include "host/RedrawHold.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/controls/RedrawHold.h"
+#include "host/forms/Busy.h"
+#include "host/forms/CAlertLog.h"
+#include "host/forms/Progress.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -4,9 +4,9 @@
 
 #include "books/BooksNames.h"
 #include "books/SqlText.h"
-#include "host/RedrawHold.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/controls/RedrawHold.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

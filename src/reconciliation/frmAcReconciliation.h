@@ -5,14 +5,14 @@
 #include <string>
 #include <utility>
 
-#include "host/CGridPlus.h"
-#include "host/CReportOptions.h"
-#include "host/CheckBox.h"
-#include "host/ComboBox.h"
-#include "host/ControlArray.h"
-#include "host/Menu.h"
-#include "host/ScreenForm.h"
-#include "host/StatementColumns.h"
+#include "host/controls/CGridPlus.h"
+#include "host/controls/CheckBox.h"
+#include "host/controls/ComboBox.h"
+#include "host/controls/ControlArray.h"
+#include "host/controls/Menu.h"
+#include "host/forms/ScreenForm.h"
+#include "host/services/CReportOptions.h"
+#include "host/services/StatementColumns.h"
 #include "reconciliation/InterestOfRow.h"
 #include "reconciliation/MarkedTotals.h"
 

@@ -2,12 +2,12 @@
 
 #include "books/BooksNames.h"
 #include "books/SqlText.h"
-#include "host/Busy.h"
-#include "host/CAlertLog.h"
-#include "host/CDataSet.h"
-#include "host/RedrawHold.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/controls/RedrawHold.h"
+#include "host/data/CDataSet.h"
+#include "host/forms/Busy.h"
+#include "host/forms/CAlertLog.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 #include "reconciliation/DayProducts.h"
 #include "reconciliation/frmInttMethod.h"
 

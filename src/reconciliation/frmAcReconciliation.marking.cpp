@@ -1,10 +1,10 @@
 #include "reconciliation/frmAcReconciliation.h"
 
 #include "books/SqlText.h"
-#include "host/CDateDialog.h"
-#include "host/Progress.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/forms/CDateDialog.h"
+#include "host/forms/Progress.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "books/SqlText.h"
-#include "host/CDataSet.h"
-#include "host/Progress.h"
-#include "host/RedrawHold.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/controls/RedrawHold.h"
+#include "host/data/CDataSet.h"
+#include "host/forms/Progress.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -82,14 +82,14 @@ void frmAcReconciliation::FillPassBook() {
   CDbLink& db = gSession->Year().Db();
   const std::string account = books::SqlNumber(AccountCode);
   const Amount opening = db.Lookup("FADATA", "Sum(dAmt)",
-                                   "dcd=" + account + " and (dBankDate<" + gStd->SqlDate(Date1) +
-                                       " or dBook='0B') and dBook<>'MEM'")
+                                   "dcd=" + account + " and (dBankDate<" + gStd->SqlDate(Date1) + " or " +
+                                       books::IsOpening() + ") and " + books::InBalances())
                              .ToAmount();
   CDataSet entries;
   entries.Open(
       "Select a.*,n.Narration from FAData a Left Join FANar n on a.NarrationID=n.NarrationID where a.dcd=" +
-          account + " and a.dBankDate between " + gStd->SqlDate(Date1, Date2) +
-          " and a.dBook<>'MEM' and a.dBook<>'0B' order by a.dBankDate,a.dVchNo,a.dSrNo",
+          account + " and a.dBankDate between " + gStd->SqlDate(Date1, Date2) + " and " +
+          books::InLists("a.dBook") + " order by a.dBankDate,a.dVchNo,a.dSrNo",
       db);
   SetPassBookColumns();
   int row = 0;

@@ -1,10 +1,10 @@
 #include "reconciliation/frmAcReconciliation.h"
 
 #include "books/SqlText.h"
-#include "host/Progress.h"
-#include "host/RedrawHold.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/controls/RedrawHold.h"
+#include "host/forms/Progress.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -123,7 +123,8 @@ void frmAcReconciliation::FillStatement() {
   const std::string account = books::SqlNumber(AccountCode);
   const std::string date = gStd->SqlDate(asOn_);
   const Amount balance =
-      db.Lookup("FADATA", "Sum(dAmt)", "dcd=" + account + " and dvchdate<=" + date + " and dBook<>'MEM'")
+      db.Lookup("FADATA", "Sum(dAmt)",
+                "dcd=" + account + " and dvchdate<=" + date + " and " + books::InBalances())
           .ToAmount();
   GridStatement.SetTextMatrix(1, col::kDate, asOn_.Text());
   GridStatement.SetTextMatrix(1, col::kParticulars, "Balance as per Our Books");
@@ -135,7 +136,7 @@ void frmAcReconciliation::FillStatement() {
 
   const std::string lines =
       "Select a.*,n.Narration from FAData a,FANar n where a.NarrationID=n.NarrationID and a.dcd=" + account +
-      " and a.dBook<>'MEM' and a.dBook<>'0B' and ";
+      " and " + books::InLists("a.dBook") + " and ";
   const std::string order = " order by a.dvchdate,a.dbook";
   Section debitedByUs{"Amounts Debited by us only:-", true, "1", " Cr.", {}};
   Section creditedByUs{"Amounts Credited by us only:-", false, "-1", " Dr.", {}};

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "books/SqlText.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 #include "reconciliation/ChequeSearch.h"
 
 namespace quillon {

@@ -3,13 +3,13 @@
 #include <memory>
 #include <string>
 
-#include "host/CDataSet.h"
-#include "host/CGridPlus.h"
-#include "host/CMStrip.h"
-#include "host/CTextPlus.h"
-#include "host/FinYear.h"
-#include "host/PictureBox.h"
-#include "host/ScreenForm.h"
+#include "host/controls/CGridPlus.h"
+#include "host/controls/CMStrip.h"
+#include "host/controls/CTextPlus.h"
+#include "host/controls/PictureBox.h"
+#include "host/data/CDataSet.h"
+#include "host/forms/ScreenForm.h"
+#include "host/services/FinYear.h"
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #include "reconciliation/frmInttMethod.h"
 
-#include "host/Runtime.h"
+#include "host/forms/Runtime.h"
 
 namespace quillon {
 

@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "host/CButton.h"
-#include "host/CTextPlus.h"
-#include "host/ComboBox.h"
-#include "host/ControlArray.h"
-#include "host/Form.h"
-#include "host/Frame.h"
-#include "host/Label.h"
+#include "host/controls/CButton.h"
+#include "host/controls/CTextPlus.h"
+#include "host/controls/ComboBox.h"
+#include "host/controls/ControlArray.h"
+#include "host/controls/Frame.h"
+#include "host/controls/Label.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

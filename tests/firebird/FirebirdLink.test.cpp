@@ -3,8 +3,8 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
-#include "host/CDataSet.h"
-#include "host/Errors.h"
+#include "host/data/CDataSet.h"
+#include "host/values/Errors.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "desk/firebird/FirebirdLink.h"
-#include "host/CDataSet.h"
-#include "host/Errors.h"
+#include "host/data/CDataSet.h"
+#include "host/values/Errors.h"
 #include "tests/support/FirebirdServer.h"
 
 namespace quillon {

@@ -5,8 +5,8 @@
 #include <unistd.h>
 
 #include "desk/firm/Schema.h"
-#include "host/CDataSet.h"
-#include "host/Errors.h"
+#include "host/data/CDataSet.h"
+#include "host/values/Errors.h"
 #include "tests/support/FirebirdServer.h"
 #include "tests/support/TempFolder.h"
 

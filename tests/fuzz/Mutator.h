@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include "desk/services/AmountFormat.h"
 #include "desk/services/AmountWords.h"
 #include "desk/services/DateText.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 #include "tests/fuzz/Mutator.h"
 
 namespace quillon {

@@ -3,10 +3,10 @@
 
 #include "desk/services/NameText.h"
 #include "desk/services/NarrationText.h"
-#include "host/CNameValues.h"
-#include "host/CTextTable.h"
-#include "host/CXmlTable.h"
-#include "host/Text.h"
+#include "host/data/CNameValues.h"
+#include "host/data/CTextTable.h"
+#include "host/data/CXmlTable.h"
+#include "host/values/Text.h"
 #include "tests/fuzz/Mutator.h"
 
 namespace quillon {

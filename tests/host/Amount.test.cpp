@@ -1,9 +1,9 @@
-#include "host/Amount.h"
+#include "host/values/Amount.h"
 
 #include <gtest/gtest.h>
 #include <random>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 namespace {

@@ -1,8 +1,8 @@
-#include "host/Date.h"
+#include "host/values/Date.h"
 
 #include <gtest/gtest.h>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "host/CReportOptions.h"
-#include "host/Errors.h"
+#include "host/services/CReportOptions.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 namespace {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "host/CNameValues.h"
-#include "host/CTextTable.h"
-#include "host/Errors.h"
-#include "host/Text.h"
+#include "host/data/CNameValues.h"
+#include "host/data/CTextTable.h"
+#include "host/values/Errors.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 namespace {

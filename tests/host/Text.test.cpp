@@ -1,9 +1,9 @@
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 #include <gtest/gtest.h>
 
-#include "host/Errors.h"
-#include "host/Variant.h"
+#include "host/values/Errors.h"
+#include "host/values/Variant.h"
 
 namespace quillon {
 namespace {

@@ -2,7 +2,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
-#include "host/CXmlTable.h"
+#include "host/data/CXmlTable.h"
 
 namespace quillon {
 namespace {

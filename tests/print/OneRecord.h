@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "host/CDbLink.h"
-#include "host/Errors.h"
-#include "host/RowSet.h"
+#include "host/data/CDbLink.h"
+#include "host/data/RowSet.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -9,7 +9,7 @@
 #include "desk/print/PdfPrinter.h"
 #include "desk/print/PrintObserver.h"
 #include "desk/print/TextMeasure.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 #include "tests/support/PdfReader.h"
 #include "tests/support/TempFolder.h"
 

@@ -14,8 +14,8 @@
 #include "desk/print/PlainReport.h"
 #include "desk/print/ReportLayout.h"
 #include "desk/print/TextMeasure.h"
-#include "host/Errors.h"
-#include "host/Text.h"
+#include "host/values/Errors.h"
+#include "host/values/Text.h"
 #include "tests/print/OneRecord.h"
 #include "tests/print/ReportForm.h"
 #include "tests/support/PdfReader.h"
@@ -55,16 +55,15 @@ class ReportTest : public testing::Test {
   }
   void TearDown() override { runtime.Unload(*form); }
 
-  PdfReader Show(GridModel& grid, CReportOptions& options, const std::string& title,
+  PdfReader Show(GridModel& grid, CReportOptions& given, const std::string& title,
                  const std::string& subtitle = "", int ruling = -1, const std::string& optionText = "") {
-    reports.ShowGrid(grid, &options, title, subtitle, ruling, false, "", optionText);
+    reports.ShowGrid(grid, &given, title, subtitle, ruling, false, "", optionText);
     return PdfReader(preview.file);
   }
 
-  std::string ShowPlain(GridModel& grid, CReportOptions& options, const std::string& optionText = "") {
+  std::string ShowPlain(GridModel& grid, CReportOptions& given, const std::string& optionText = "") {
     mode = 2;
-    reports.ShowGrid(grid, &options, "Pass Book", "Period: 01/04/2024 to 30/04/2024", 3, false, "",
-                     optionText);
+    reports.ShowGrid(grid, &given, "Pass Book", "Period: 01/04/2024 to 30/04/2024", 3, false, "", optionText);
     mode = 0;
     std::ostringstream text;
     text << std::ifstream(preview.file).rdbuf();

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "host/CGridPlus.h"
-#include "host/Form.h"
-#include "host/MSHFlexGrid.h"
+#include "host/controls/CGridPlus.h"
+#include "host/controls/MSHFlexGrid.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

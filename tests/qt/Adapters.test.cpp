@@ -11,9 +11,9 @@
 #include <QScrollBar>
 #include <QToolButton>
 
-#include "desk/qt/FormPicture.h"
-#include "desk/qt/GridWidget.h"
-#include "desk/qt/Scale.h"
+#include "desk/qt/adapters/GridWidget.h"
+#include "desk/qt/adapters/Scale.h"
+#include "desk/qt/windows/FormPicture.h"
 #include "tests/qt/FormTest.h"
 #include "tests/qt/frmEveryKind.h"
 

@@ -1,13 +1,13 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 
-#include "desk/qt/DateDialog.h"
-#include "desk/qt/MessageDialog.h"
-#include "desk/qt/PageView.h"
-#include "desk/qt/PreviewWindow.h"
-#include "host/ISession.h"
-#include "host/Progress.h"
-#include "host/Text.h"
+#include "desk/qt/dialogs/DateDialog.h"
+#include "desk/qt/dialogs/MessageDialog.h"
+#include "desk/qt/windows/PageView.h"
+#include "desk/qt/windows/PreviewWindow.h"
+#include "host/forms/Progress.h"
+#include "host/services/ISession.h"
+#include "host/values/Text.h"
 #include "tests/qt/DeskTest.h"
 
 namespace quillon {

@@ -5,14 +5,14 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "desk/qt/Acts.h"
-#include "desk/qt/Adapter.h"
-#include "desk/qt/DeskArea.h"
-#include "desk/qt/DeskWindow.h"
-#include "desk/qt/FormView.h"
-#include "desk/qt/QtRuntime.h"
+#include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/Adapter.h"
+#include "desk/qt/windows/DeskArea.h"
+#include "desk/qt/windows/DeskWindow.h"
+#include "desk/qt/windows/FormView.h"
+#include "desk/qt/windows/QtRuntime.h"
 #include "desk/sample/SampleFirm.h"
-#include "host/CGridPlus.h"
+#include "host/controls/CGridPlus.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {

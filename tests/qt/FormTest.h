@@ -5,9 +5,9 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "desk/qt/Adapter.h"
-#include "desk/qt/FormView.h"
-#include "desk/qt/QtRuntime.h"
+#include "desk/qt/adapters/Adapter.h"
+#include "desk/qt/windows/FormView.h"
+#include "desk/qt/windows/QtRuntime.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {

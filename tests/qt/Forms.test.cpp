@@ -2,12 +2,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "desk/qt/DateDialog.h"
-#include "desk/qt/MessageDialog.h"
-#include "desk/qt/PageView.h"
-#include "host/CButton.h"
-#include "host/ControlArray.h"
-#include "host/TextBox.h"
+#include "desk/qt/dialogs/DateDialog.h"
+#include "desk/qt/dialogs/MessageDialog.h"
+#include "desk/qt/windows/PageView.h"
+#include "host/controls/CButton.h"
+#include "host/controls/ControlArray.h"
+#include "host/controls/TextBox.h"
 #include "tests/qt/FormTest.h"
 
 namespace quillon {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-#include "desk/qt/Theme.h"
+#include "desk/qt/adapters/Theme.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {

@@ -6,14 +6,14 @@
 #include <algorithm>
 #include <set>
 
-#include "desk/qt/MessageDialog.h"
-#include "desk/qt/PartyDialog.h"
-#include "host/CDataSet.h"
-#include "host/CMStrip.h"
-#include "host/CPartyFilter.h"
-#include "host/CPeriod.h"
-#include "host/ISession.h"
-#include "host/IStd.h"
+#include "desk/qt/dialogs/MessageDialog.h"
+#include "desk/qt/dialogs/PartyDialog.h"
+#include "host/controls/CMStrip.h"
+#include "host/controls/CPeriod.h"
+#include "host/data/CDataSet.h"
+#include "host/forms/CPartyFilter.h"
+#include "host/services/ISession.h"
+#include "host/services/IStd.h"
 #include "tests/qt/DeskTest.h"
 
 namespace quillon {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host_controls.h"
+#include "host/controls/host_controls.h"
 
 namespace quillon {
 

@@ -2,7 +2,7 @@
 #include <random>
 
 #include "desk/sample/SampleFirm.h"
-#include "host/CDataSet.h"
+#include "host/data/CDataSet.h"
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {
@@ -184,7 +184,7 @@ TEST_P(BankBalances, ProductsAreTheSumOfTheDays) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, BankBalances, testing::Values(1U, 7U, 2024U),
-                         [](const auto& info) { return std::to_string(info.param); });
+                         [](const auto& seed) { return std::to_string(seed.param); });
 
 }  // namespace
 }  // namespace quillon

@@ -1,4 +1,4 @@
-#include "host/Text.h"
+#include "host/values/Text.h"
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 #include "reconciliation/DayProducts.h"
 #include "reconciliation/InterestOfRow.h"
 

@@ -1,7 +1,7 @@
 #include <random>
 
-#include "host/CDataSet.h"
-#include "host/Text.h"
+#include "host/data/CDataSet.h"
+#include "host/values/Text.h"
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {

@@ -2,7 +2,7 @@
 
 #include "desk/services/DeskApp.h"
 #include "desk/services/Users.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {

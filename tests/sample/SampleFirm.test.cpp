@@ -5,8 +5,8 @@
 #include <sys/wait.h>
 
 #include "desk/firm/Firm.h"
-#include "host/CDataSet.h"
-#include "host/Errors.h"
+#include "host/data/CDataSet.h"
+#include "host/values/Errors.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 namespace {

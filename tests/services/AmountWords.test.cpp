@@ -5,7 +5,7 @@
 #include <random>
 #include <sstream>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 namespace {

@@ -2,22 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include "books/SqlText.h"
 #include "desk/services/NarrationText.h"
-#include "desk/services/SqlText.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 namespace {
 
 TEST(SqlText, DatesAndTextsAsLiterals) {
-  EXPECT_EQ(SqlDate(Date::Of(2024, 4, 1)), "'2024-04-01'");
-  EXPECT_EQ(SqlDate(Date()), "");
-  EXPECT_EQ(SqlDate(Date::Of(2024, 4, 1), Date::Of(2025, 3, 31)), "'2024-04-01' and '2025-03-31'");
-  EXPECT_EQ(SqlDate(Date::Of(2024, 4, 1), Date()), "'2024-04-01'");
-  EXPECT_EQ(SqlDate(Date(), Date::Of(2025, 3, 31)), "");
-  EXPECT_EQ(SqlString("O'Brien's ''"), "'O''Brien''s '''''");
-  EXPECT_EQ(SqlString(""), "''");
-  EXPECT_EQ(SqlString("हिन्दी"), "'हिन्दी'");
+  EXPECT_EQ(books::SqlDate(Date::Of(2024, 4, 1)), "'2024-04-01'");
+  EXPECT_EQ(books::SqlDate(Date()), "");
+  EXPECT_EQ(books::SqlDate(Date::Of(2024, 4, 1), Date::Of(2025, 3, 31)), "'2024-04-01' and '2025-03-31'");
+  EXPECT_EQ(books::SqlDate(Date::Of(2024, 4, 1), Date()), "'2024-04-01'");
+  EXPECT_EQ(books::SqlDate(Date(), Date::Of(2025, 3, 31)), "");
+  EXPECT_EQ(books::SqlString("O'Brien's ''"), "'O''Brien''s '''''");
+  EXPECT_EQ(books::SqlString(""), "''");
+  EXPECT_EQ(books::SqlString("हिन्दी"), "'हिन्दी'");
 }
 
 TEST(NameText, PressedHeadsKeepLettersAndDigitsOfEveryScript) {

@@ -2,9 +2,9 @@
 
 #include <set>
 
+#include "books/SqlText.h"
 #include "desk/firm/Firm.h"
-#include "desk/services/SqlText.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -68,7 +68,7 @@ void DeskTest::OpenNewFirm() {
 
 void DeskTest::AddAccount(int code, const std::string& head, int group, const std::string& station) {
   Db().Execute("insert into FAMaster (mcd,mhd,mst,mbshno) values (" + std::to_string(code) + "," +
-               SqlString(head) + "," + SqlString(station) + "," + std::to_string(group) + ")");
+               books::SqlString(head) + "," + books::SqlString(station) + "," + std::to_string(group) + ")");
 }
 
 void DeskTest::AddVoucher(const Voucher& voucher) {
@@ -83,7 +83,7 @@ void DeskTest::AddVoucher(const Voucher& voucher) {
         DateOrNull(cleared) + "," + id + ")");
   };
   Db().Execute("insert into FANar (NarrationID,Narration) values (" + id + "," +
-               SqlString(voucher.narration) + ")");
+               books::SqlString(voucher.narration) + ")");
   line(voucher.line, voucher.account, voucher.other, voucher.amount, voucher.cleared);
   line(voucher.line + 1, voucher.other, voucher.account, "-(" + std::string(voucher.amount) + ")", "");
   Db().Execute("insert into FADocs (VoucherID) values (" + id + ")");

@@ -8,7 +8,7 @@
 
 #include "desk/driver/DriverRuntime.h"
 #include "desk/shell/Desk.h"
-#include "host/host_controls.h"
+#include "host/controls/host_controls.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {

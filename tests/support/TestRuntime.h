@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "host/CPickList.h"
-#include "host/IPrinter.h"
-#include "host/PrintSetup.h"
-#include "host/Runtime.h"
+#include "host/forms/CPickList.h"
+#include "host/forms/Runtime.h"
+#include "host/services/IPrinter.h"
+#include "host/services/PrintSetup.h"
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #include "desk/driver/Answers.h"
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <climits>
 
-#include "host/GridModel.h"
+#include "host/controls/GridModel.h"
 
 namespace quillon {
 

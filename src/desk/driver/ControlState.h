@@ -2,7 +2,7 @@
 
 #include "desk/driver/EventLog.h"
 #include "desk/driver/JsonText.h"
-#include "host/Form.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

@@ -5,10 +5,10 @@
 
 #include "desk/print/Spooler.h"
 #include "desk/print/TextMeasure.h"
-#include "host/CPickList.h"
-#include "host/IStd.h"
-#include "host/Menu.h"
-#include "host/PrintSetup.h"
+#include "host/controls/Menu.h"
+#include "host/forms/CPickList.h"
+#include "host/services/IStd.h"
+#include "host/services/PrintSetup.h"
 
 namespace quillon {
 

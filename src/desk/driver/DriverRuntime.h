@@ -8,7 +8,7 @@
 #include "desk/driver/Answers.h"
 #include "desk/driver/EventLog.h"
 #include "desk/print/PdfPrinter.h"
-#include "host/Runtime.h"
+#include "host/forms/Runtime.h"
 
 namespace quillon {
 

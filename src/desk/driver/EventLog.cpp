@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "host/ISession.h"
+#include "host/services/ISession.h"
 
 namespace quillon {
 

@@ -9,7 +9,7 @@
 #include "desk/firebird/SqlObserver.h"
 #include "desk/print/DeskReports.h"
 #include "desk/print/PrintObserver.h"
-#include "host/Form.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

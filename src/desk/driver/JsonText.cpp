@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

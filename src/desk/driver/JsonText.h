@@ -2,8 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/Control.h"
-#include "host/Variant.h"
+#include "host/controls/Control.h"
+#include "host/values/Variant.h"
 
 namespace quillon {
 

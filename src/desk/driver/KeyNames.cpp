@@ -2,9 +2,9 @@
 
 #include <map>
 
-#include "host/Errors.h"
-#include "host/Keys.h"
-#include "host/Text.h"
+#include "host/controls/Keys.h"
+#include "host/values/Errors.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

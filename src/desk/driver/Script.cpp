@@ -3,8 +3,8 @@
 #include <map>
 #include <set>
 
-#include "host/CPeriod.h"
-#include "host/host_controls.h"
+#include "host/controls/CPeriod.h"
+#include "host/controls/host_controls.h"
 
 namespace quillon {
 

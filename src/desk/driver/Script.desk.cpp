@@ -1,8 +1,8 @@
 #include "desk/driver/Script.h"
 
 #include "desk/driver/ControlState.h"
-#include "desk/qt/FormPicture.h"
-#include "host/CDataSet.h"
+#include "desk/qt/windows/FormPicture.h"
+#include "host/data/CDataSet.h"
 
 namespace quillon {
 

@@ -1,8 +1,8 @@
 #include "desk/driver/Script.h"
 
 #include "desk/driver/KeyNames.h"
-#include "host/Text.h"
-#include "host/host_controls.h"
+#include "host/controls/host_controls.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

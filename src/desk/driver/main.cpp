@@ -5,7 +5,7 @@
 #include <iostream>
 
 #include "desk/driver/Script.h"
-#include "desk/qt/Theme.h"
+#include "desk/qt/adapters/Theme.h"
 #include "desk/shell/RuntimeFolder.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

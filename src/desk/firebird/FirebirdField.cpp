@@ -6,8 +6,8 @@
 #include <cstring>
 
 #include "desk/firebird/FirebirdStatus.h"
-#include "host/Errors.h"
-#include "host/Text.h"
+#include "host/values/Errors.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "host/Variant.h"
+#include "host/values/Variant.h"
 
 namespace Firebird {
 class IMessageMetadata;

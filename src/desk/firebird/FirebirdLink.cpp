@@ -3,8 +3,8 @@
 #include "desk/firebird/FirebirdRows.h"
 #include "desk/firebird/FirebirdStatus.h"
 #include "desk/firebird/LiftedSql.h"
-#include "desk/firebird/SqlText.h"
-#include "host/Errors.h"
+#include "desk/firebird/QueryText.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

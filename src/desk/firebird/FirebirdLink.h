@@ -12,7 +12,7 @@
 #include "desk/firebird/FirebirdStatement.h"
 #include "desk/firebird/FirebirdTransaction.h"
 #include "desk/firebird/SqlObserver.h"
-#include "host/CDbLink.h"
+#include "host/data/CDbLink.h"
 
 namespace quillon {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "desk/firebird/FirebirdLink.h"
-#include "desk/firebird/SqlText.h"
-#include "host/Errors.h"
-#include "host/Text.h"
+#include "desk/firebird/QueryText.h"
+#include "host/values/Errors.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

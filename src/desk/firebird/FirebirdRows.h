@@ -7,7 +7,7 @@
 
 #include "desk/firebird/FirebirdStatement.h"
 #include "desk/firebird/RowStore.h"
-#include "host/RowSet.h"
+#include "host/data/RowSet.h"
 
 namespace quillon {
 

@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "desk/firebird/FirebirdStatus.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "desk/firebird/FirebirdEngine.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

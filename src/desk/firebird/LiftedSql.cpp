@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "desk/firebird/FirebirdStatement.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/Variant.h"
+#include "host/values/Variant.h"
 
 namespace quillon {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "desk/firebird/FirebirdField.h"
-#include "host/Variant.h"
+#include "host/values/Variant.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "host/CDbLink.h"
+#include "host/data/CDbLink.h"
 
 namespace quillon {
 

@@ -4,8 +4,8 @@
 #include <unistd.h>
 
 #include "desk/firm/Schema.h"
-#include "host/CDataSet.h"
-#include "host/Errors.h"
+#include "host/data/CDataSet.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

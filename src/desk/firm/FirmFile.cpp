@@ -3,7 +3,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

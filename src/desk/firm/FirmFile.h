@@ -5,7 +5,7 @@
 #include <string>
 
 #include "desk/firebird/FirebirdAttachment.h"
-#include "host/Date.h"
+#include "host/values/Date.h"
 
 namespace quillon {
 

@@ -8,7 +8,7 @@
 #include <unistd.h>
 
 #include "desk/firebird/FirebirdEngine.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 #include "desk/firm/Schema.h"
 
 #include "desk/firm/FirmFile.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

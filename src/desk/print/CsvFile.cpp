@@ -3,8 +3,8 @@
 #include <QSaveFile>
 
 #include "desk/print/ReportTable.h"
-#include "host/Errors.h"
-#include "host/Text.h"
+#include "host/values/Errors.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -5,8 +5,8 @@
 
 #include "desk/print/ReportFirm.h"
 #include "desk/print/ReportPages.h"
-#include "host/GridModel.h"
-#include "host/IReports.h"
+#include "host/controls/GridModel.h"
+#include "host/services/IReports.h"
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/Font.h"
+#include "host/values/Font.h"
 
 class QFont;
 

@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QUuid>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -5,7 +5,7 @@
 
 #include "desk/print/ColumnWidths.h"
 #include "desk/print/TextMeasure.h"
-#include "host/IPrinter.h"
+#include "host/services/IPrinter.h"
 
 namespace quillon {
 

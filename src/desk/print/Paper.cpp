@@ -4,7 +4,7 @@
 #include <QPageSize>
 #include <QRectF>
 
-#include "host/IPrinter.h"
+#include "host/services/IPrinter.h"
 
 namespace quillon {
 

@@ -6,7 +6,7 @@
 
 #include "desk/print/OutputFile.h"
 #include "desk/print/Paper.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -9,7 +9,7 @@
 #include "desk/print/PrintObserver.h"
 #include "desk/print/Spooler.h"
 #include "desk/print/TextMeasure.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

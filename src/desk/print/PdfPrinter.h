@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "host/IPrinter.h"
+#include "host/services/IPrinter.h"
 
 class QPainter;
 

@@ -11,7 +11,7 @@
 #include "desk/print/RecordFields.h"
 #include "desk/print/ReportTable.h"
 #include "desk/print/TextWrap.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/Font.h"
+#include "host/values/Font.h"
 
 namespace quillon {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "host/CDataSet.h"
+#include "host/data/CDataSet.h"
 
 namespace quillon {
 

@@ -3,8 +3,8 @@
 #include <initializer_list>
 
 #include "desk/print/RecordFields.h"
-#include "host/IApp.h"
-#include "host/Text.h"
+#include "host/services/IApp.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -7,8 +7,8 @@
 #include "desk/print/ReportHeading.h"
 #include "desk/print/ReportTable.h"
 #include "desk/print/RowSetter.h"
-#include "host/Progress.h"
-#include "host/Text.h"
+#include "host/forms/Progress.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "host/Font.h"
-#include "host/IPrinter.h"
+#include "host/services/IPrinter.h"
+#include "host/values/Font.h"
 
 namespace quillon {
 

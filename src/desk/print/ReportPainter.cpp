@@ -5,7 +5,7 @@
 
 #include "desk/print/Fonts.h"
 #include "desk/print/PdfDocument.h"
-#include "host/Progress.h"
+#include "host/forms/Progress.h"
 
 namespace quillon {
 

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "desk/print/ReportFirm.h"
-#include "host/CReportOptions.h"
-#include "host/Date.h"
-#include "host/GridModel.h"
+#include "host/controls/GridModel.h"
+#include "host/services/CReportOptions.h"
+#include "host/values/Date.h"
 
 namespace quillon {
 

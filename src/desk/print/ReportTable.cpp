@@ -1,7 +1,7 @@
 #include "desk/print/ReportTable.h"
 
-#include "host/CGridPlus.h"
-#include "host/Text.h"
+#include "host/controls/CGridPlus.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

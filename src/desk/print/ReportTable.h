@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/CReportOptions.h"
-#include "host/GridModel.h"
+#include "host/controls/GridModel.h"
+#include "host/services/CReportOptions.h"
 
 namespace quillon {
 

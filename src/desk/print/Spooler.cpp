@@ -3,7 +3,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #include "desk/print/TextWrap.h"
 
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -7,7 +7,7 @@
 #include "desk/sample/SampleMasters.h"
 #include "desk/sample/SampleRandom.h"
 #include "desk/sample/SampleYear.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

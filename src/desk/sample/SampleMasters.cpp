@@ -4,7 +4,7 @@
 
 #include "desk/firebird/FirebirdLink.h"
 #include "desk/sample/SampleRandom.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "host/Amount.h"
+#include "host/values/Amount.h"
 
 namespace quillon {
 

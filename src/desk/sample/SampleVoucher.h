@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "host/Amount.h"
-#include "host/Date.h"
+#include "host/values/Amount.h"
+#include "host/values/Date.h"
 
 namespace quillon {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "desk/sample/SampleFirm.h"
-#include "host/Errors.h"
-#include "host/Text.h"
+#include "host/values/Errors.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

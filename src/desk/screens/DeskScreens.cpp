@@ -6,7 +6,7 @@
 #include "desk/screens/frmMain.h"
 #include "desk/screens/frmSelectAc.h"
 #include "desk/screens/frmVoucher.h"
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

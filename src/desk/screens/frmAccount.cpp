@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "host/Busy.h"
-#include "host/Progress.h"
-#include "host/RedrawHold.h"
-#include "host/StatementColumns.h"
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "books/BooksNames.h"
+#include "books/SqlText.h"
+#include "host/controls/RedrawHold.h"
+#include "host/forms/Busy.h"
+#include "host/forms/Progress.h"
+#include "host/services/StatementColumns.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -27,8 +29,6 @@ constexpr ScreenSpec kScreen = {
 };
 
 namespace col = statement_col;
-
-constexpr const char* kOpeningBook = "0B";
 
 std::string BalanceText(Amount balance) {
   return gStd->FormatAmount(balance.Abs(), "C2") + (balance < Amount() ? " Cr." : " Dr.");
@@ -178,18 +178,19 @@ void frmAccount::FillGrid() {
 }
 
 void frmAccount::AddOpening(int& row, Sums& sums) {
-  const Amount opening = gSession->MainDb()
-                             .Lookup("FADATA", "Sum(dAmt)",
-                                     "dcd=" + std::to_string(AccountCode) + " and (dVchDate<" +
-                                         gStd->SqlDate(Date1) + " or dBook='0B') and dBook<>'MEM'")
-                             .ToAmount();
+  const Amount opening =
+      gSession->MainDb()
+          .Lookup("FADATA", "Sum(dAmt)",
+                  "dcd=" + std::to_string(AccountCode) + " and (dVchDate<" + gStd->SqlDate(Date1) + " or " +
+                      books::IsOpening() + ") and " + books::InBalances())
+          .ToAmount();
   if (opening.IsZero()) return;
   Grid.Rows = ++row + 1;
   sums.Add(opening);
-  Grid.SetTextMatrix(row, col::kBookCode, kOpeningBook);
+  Grid.SetTextMatrix(row, col::kBookCode, books::kOpeningBook);
   Grid.SetTextMatrix(row, col::kSerial, std::to_string(row));
   Grid.SetTextMatrix(row, col::kDate, Date1.Text());
-  Grid.SetTextMatrix(row, col::kBook, kOpeningBook);
+  Grid.SetTextMatrix(row, col::kBook, books::kOpeningBook);
   Grid.SetTextMatrix(row, col::kNarration, "Opening Balance");
   Grid.SetTextMatrix(row, opening < Amount() ? col::kCredit : col::kDebit,
                      gStd->FormatAmount(opening.Abs(), "c2"));
@@ -208,8 +209,8 @@ void frmAccount::AddEntries(int& row, Sums& sums) {
       "Select "
       "a.VoucherID,a.dVchSubNo,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dTrnNature,a.dBankDate,n.Narration "
       "from FAData a left join FANar n on a.NarrationID=n.NarrationID where a.dcd=" +
-          std::to_string(AccountCode) + " and a.dVchDate between " + gStd->SqlDate(Date1, Date2) +
-          " and a.dBook<>'MEM' and a.dBook<>'0B' order by a.dVchDate,a.dSrNo,a.VoucherID,a.dVchSubNo",
+          std::to_string(AccountCode) + " and a.dVchDate between " + gStd->SqlDate(Date1, Date2) + " and " +
+          books::InLists("a.dBook") + " order by a.dVchDate,a.dSrNo,a.VoucherID,a.dVchSubNo",
       gSession->MainDb());
   constexpr int kMoreRows = 1000;
   Progress progress("Reading the entries", 0);

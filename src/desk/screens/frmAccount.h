@@ -3,10 +3,10 @@
 #include <memory>
 #include <string>
 
-#include "host/CDataSet.h"
-#include "host/CGridPlus.h"
-#include "host/ControlArray.h"
-#include "host/ScreenForm.h"
+#include "host/controls/CGridPlus.h"
+#include "host/controls/ControlArray.h"
+#include "host/data/CDataSet.h"
+#include "host/forms/ScreenForm.h"
 
 namespace quillon {
 

@@ -1,9 +1,9 @@
 #include "desk/screens/frmAccountView.h"
 
-#include "host/CDataSet.h"
-#include "host/ISession.h"
-#include "host/IStd.h"
-#include "host/Runtime.h"
+#include "host/data/CDataSet.h"
+#include "host/forms/Runtime.h"
+#include "host/services/ISession.h"
+#include "host/services/IStd.h"
 
 namespace quillon {
 

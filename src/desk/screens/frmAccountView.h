@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "host/CButton.h"
-#include "host/CGridPlus.h"
-#include "host/ControlArray.h"
-#include "host/Form.h"
+#include "host/controls/CButton.h"
+#include "host/controls/CGridPlus.h"
+#include "host/controls/ControlArray.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

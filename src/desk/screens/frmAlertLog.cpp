@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "host/IStd.h"
-#include "host/Runtime.h"
-#include "host/Text.h"
+#include "host/forms/Runtime.h"
+#include "host/services/IStd.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -4,12 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "host/CAlertLog.h"
-#include "host/CButton.h"
-#include "host/CGridPlus.h"
-#include "host/ControlArray.h"
-#include "host/Form.h"
-#include "host/Label.h"
+#include "host/controls/CButton.h"
+#include "host/controls/CGridPlus.h"
+#include "host/controls/ControlArray.h"
+#include "host/controls/Label.h"
+#include "host/forms/CAlertLog.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/Form.h"
-#include "host/Label.h"
+#include "host/controls/Label.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

@@ -1,9 +1,9 @@
 #include "desk/screens/frmSelectAc.h"
 
-#include "host/ISession.h"
-#include "host/IStd.h"
-#include "host/Runtime.h"
-#include "host/Text.h"
+#include "host/forms/Runtime.h"
+#include "host/services/ISession.h"
+#include "host/services/IStd.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

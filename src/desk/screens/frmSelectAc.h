@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "host/CButton.h"
-#include "host/CSelGrid.h"
-#include "host/CTextPlus.h"
-#include "host/ControlArray.h"
-#include "host/Form.h"
-#include "host/Label.h"
+#include "host/controls/CButton.h"
+#include "host/controls/CSelGrid.h"
+#include "host/controls/CTextPlus.h"
+#include "host/controls/ControlArray.h"
+#include "host/controls/Label.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

@@ -1,7 +1,7 @@
 #include "desk/screens/frmVoucher.h"
 
-#include "host/Text.h"
-#include "host/host_services.h"
+#include "host/services/host_services.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

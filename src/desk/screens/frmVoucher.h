@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "host/CDbLink.h"
-#include "host/CGridPlus.h"
-#include "host/ScreenForm.h"
+#include "host/controls/CGridPlus.h"
+#include "host/data/CDbLink.h"
+#include "host/forms/ScreenForm.h"
 
 namespace quillon {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/Amount.h"
-#include "host/Variant.h"
+#include "host/values/Amount.h"
+#include "host/values/Variant.h"
 
 namespace quillon {
 

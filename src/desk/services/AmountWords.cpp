@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "desk/services/AmountFormat.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

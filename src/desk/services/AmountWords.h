@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/Amount.h"
+#include "host/values/Amount.h"
 
 namespace quillon {
 

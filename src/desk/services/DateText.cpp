@@ -4,7 +4,7 @@
 #include <tuple>
 #include <vector>
 
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

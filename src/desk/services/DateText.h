@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/Date.h"
+#include "host/values/Date.h"
 
 namespace quillon {
 

@@ -7,9 +7,9 @@
 #include "desk/services/DateText.h"
 #include "desk/services/DeskStd.h"
 #include "desk/services/PartyAddress.h"
-#include "host/CMStrip.h"
-#include "host/ErrorText.h"
-#include "host/Runtime.h"
+#include "host/controls/CMStrip.h"
+#include "host/forms/Runtime.h"
+#include "host/values/ErrorText.h"
 
 namespace quillon {
 

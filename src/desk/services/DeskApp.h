@@ -6,7 +6,7 @@
 #include "desk/services/DeskSession.h"
 #include "desk/services/IDeskScreens.h"
 #include "desk/services/Settings.h"
-#include "host/IApp.h"
+#include "host/services/IApp.h"
 
 namespace quillon {
 

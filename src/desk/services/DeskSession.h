@@ -6,7 +6,7 @@
 
 #include "desk/services/DeskYear.h"
 #include "desk/services/Users.h"
-#include "host/ISession.h"
+#include "host/services/ISession.h"
 
 namespace quillon {
 
@@ -50,7 +50,7 @@ class DeskSession : public ISession {
 
  private:
   struct Parameters : CFirm {
-    explicit Parameters(CDbLink& common) : common(common) {}
+    explicit Parameters(CDbLink& link) : common(link) {}
     std::string Parameter(int number) override;
     CDbLink& common;
   };

@@ -2,14 +2,14 @@
 
 #include <filesystem>
 
+#include "books/SqlText.h"
 #include "desk/services/AmountFormat.h"
 #include "desk/services/AmountWords.h"
 #include "desk/services/NameText.h"
 #include "desk/services/NarrationText.h"
-#include "desk/services/SqlText.h"
-#include "host/GridModel.h"
-#include "host/ISession.h"
-#include "host/Runtime.h"
+#include "host/controls/GridModel.h"
+#include "host/forms/Runtime.h"
+#include "host/services/ISession.h"
 
 namespace quillon {
 
@@ -80,11 +80,11 @@ std::string DeskStd::ParseDateText(const std::string& text, const std::string& r
   return quillon::ParseDateText(text, reference, OpenDateFrame());
 }
 
-std::string DeskStd::SqlDate(Date date) { return quillon::SqlDate(date); }
+std::string DeskStd::SqlDate(Date date) { return books::SqlDate(date); }
 
-std::string DeskStd::SqlDate(Date first, Date second) { return quillon::SqlDate(first, second); }
+std::string DeskStd::SqlDate(Date first, Date second) { return books::SqlDate(first, second); }
 
-std::string DeskStd::SqlString(const std::string& text) { return quillon::SqlString(text); }
+std::string DeskStd::SqlString(const std::string& text) { return books::SqlString(text); }
 
 void DeskStd::SetupGrid(GridModel& grid) {
   grid.RowHeightMin = 330;

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "desk/services/DateText.h"
-#include "host/IStd.h"
+#include "host/services/IStd.h"
 
 namespace quillon {
 

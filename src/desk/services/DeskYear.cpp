@@ -1,6 +1,6 @@
 #include "desk/services/DeskYear.h"
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "desk/firm/Firm.h"
-#include "host/FinYear.h"
+#include "host/services/FinYear.h"
 
 namespace quillon {
 

@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "host/CAlertLog.h"
-#include "host/Form.h"
+#include "host/forms/CAlertLog.h"
+#include "host/forms/Form.h"
 
 namespace quillon {
 

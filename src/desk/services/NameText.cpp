@@ -3,7 +3,7 @@
 #include <unicode/uchar.h>
 #include <unicode/utf8.h>
 
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

@@ -1,6 +1,6 @@
 #include "desk/services/PartyAddress.h"
 
-#include "host/Text.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

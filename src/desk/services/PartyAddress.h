@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "host/CDataSet.h"
+#include "host/data/CDataSet.h"
 
 namespace quillon {
 

@@ -1,15 +1,15 @@
 #include "desk/services/Users.h"
 
-#include "desk/services/SqlText.h"
-#include "host/CDataSet.h"
-#include "host/Errors.h"
+#include "books/SqlText.h"
+#include "host/data/CDataSet.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 
 User FindUser(CDbLink& common, const std::string& name) {
   CDataSet users;
   users.Open("Select UserName,UserLevel from Users" +
-                 (name.empty() ? "" : " where UserName=" + SqlString(name)) +
+                 (name.empty() ? "" : " where UserName=" + books::SqlString(name)) +
                  " order by UserLevel desc,UserName",
              common);
   if (!users.Eof()) {
@@ -24,15 +24,16 @@ bool MayDo(CDbLink& common, const User& user, const std::string& rightKey, const
   const std::string granted =
       common
           .Lookup("UserRights", "Actions",
-                  "UserName=" + SqlString(user.Name) + " and RightKey=" + SqlString(rightKey))
+                  "UserName=" + books::SqlString(user.Name) + " and RightKey=" + books::SqlString(rightKey))
           .ToText();
   return granted.find(action) != std::string::npos;
 }
 
 void Grant(CDbLink& common, const std::string& user, const std::string& rightKey,
            const std::string& actions) {
-  common.Execute("Update or insert into UserRights (UserName,RightKey,Actions) values (" + SqlString(user) +
-                 "," + SqlString(rightKey) + "," + SqlString(actions) + ")");
+  common.Execute("Update or insert into UserRights (UserName,RightKey,Actions) values (" +
+                 books::SqlString(user) + "," + books::SqlString(rightKey) + "," + books::SqlString(actions) +
+                 ")");
 }
 
 }  // namespace quillon

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/CDbLink.h"
+#include "host/data/CDbLink.h"
 
 namespace quillon {
 

@@ -1,8 +1,8 @@
 #include "desk/shell/Desk.h"
 
 #include "desk/shell/ModuleLibrary.h"
-#include "host/Runtime.h"
-#include "host/Text.h"
+#include "host/forms/Runtime.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 

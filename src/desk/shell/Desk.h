@@ -8,7 +8,7 @@
 #include "desk/services/DeskApp.h"
 #include "desk/services/DeskSession.h"
 #include "desk/services/DeskStd.h"
-#include "host/IModule.h"
+#include "host/services/IModule.h"
 
 namespace quillon {
 

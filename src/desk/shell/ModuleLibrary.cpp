@@ -3,7 +3,7 @@
 #include <dlfcn.h>
 #include <filesystem>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

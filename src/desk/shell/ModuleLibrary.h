@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "host/IModule.h"
+#include "host/services/IModule.h"
 
 namespace quillon {
 

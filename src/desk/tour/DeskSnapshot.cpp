@@ -6,8 +6,8 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "desk/qt/Scale.h"
-#include "desk/qt/Theme.h"
+#include "desk/qt/adapters/Scale.h"
+#include "desk/qt/adapters/Theme.h"
 
 namespace quillon {
 

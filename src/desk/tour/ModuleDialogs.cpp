@@ -3,15 +3,15 @@
 #include <functional>
 #include <map>
 
-#include "host/CDateDialog.h"
-#include "host/CPartyFilter.h"
-#include "host/CPickList.h"
-#include "host/Errors.h"
-#include "host/IApp.h"
-#include "host/ISession.h"
-#include "host/IStd.h"
-#include "host/PrintSetup.h"
-#include "host/Runtime.h"
+#include "host/forms/CDateDialog.h"
+#include "host/forms/CPartyFilter.h"
+#include "host/forms/CPickList.h"
+#include "host/forms/Runtime.h"
+#include "host/services/IApp.h"
+#include "host/services/ISession.h"
+#include "host/services/IStd.h"
+#include "host/services/PrintSetup.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

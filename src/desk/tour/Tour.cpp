@@ -6,11 +6,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "desk/qt/DeskWindow.h"
-#include "desk/qt/QtRuntime.h"
+#include "desk/qt/windows/DeskWindow.h"
+#include "desk/qt/windows/QtRuntime.h"
 #include "desk/tour/DeskSnapshot.h"
 #include "desk/tour/ModuleDialogs.h"
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

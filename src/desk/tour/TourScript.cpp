@@ -3,7 +3,7 @@
 #include <QStringList>
 #include <string>
 
-#include "host/Errors.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
 

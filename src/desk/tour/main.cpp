@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "desk/qt/DeskWindow.h"
-#include "desk/qt/QtRuntime.h"
-#include "desk/qt/Scale.h"
-#include "desk/qt/Theme.h"
+#include "desk/qt/adapters/Scale.h"
+#include "desk/qt/adapters/Theme.h"
+#include "desk/qt/windows/DeskWindow.h"
+#include "desk/qt/windows/QtRuntime.h"
 #include "desk/shell/RuntimeFolder.h"
 #include "desk/tour/Tour.h"
 

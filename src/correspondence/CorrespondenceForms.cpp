@@ -1,0 +1,7 @@
+#include "correspondence/CorrespondenceForms.h"
+
+namespace quillon {
+
+std::span<const FormKey> CorrespondenceForms() { return {}; }
+
+}  // namespace quillon

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <span>
+
+#include "host/forms/FormKey.h"
+
+namespace quillon {
+
+/// The form keys of labels and letters.
+std::span<const FormKey> CorrespondenceForms();
+
+}  // namespace quillon

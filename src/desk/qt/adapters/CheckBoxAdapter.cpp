@@ -1,0 +1,18 @@
+#include "desk/qt/adapters/CheckBoxAdapter.h"
+
+#include <QCheckBox>
+
+namespace quillon {
+
+CheckBoxAdapter::CheckBoxAdapter(CheckBox& model, QWidget* parent)
+    : Adapter(model, new QCheckBox(parent)), box_(model) {
+  TakeClicks();
+}
+
+void CheckBoxAdapter::Draw() {
+  auto& shown = static_cast<QCheckBox&>(Widget());
+  shown.setText(QString::fromStdString(box_.Caption).replace(QLatin1Char('&'), QLatin1String("&&")));
+  shown.setChecked(box_.CheckValue != 0);
+}
+
+}  // namespace quillon

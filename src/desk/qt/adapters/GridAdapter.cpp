@@ -1,0 +1,79 @@
+#include "desk/qt/adapters/GridAdapter.h"
+
+#include <QApplication>
+#include <QScrollBar>
+
+#include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/BoxEdit.h"
+#include "desk/qt/adapters/GridWidget.h"
+#include "host/forms/Form.h"
+#include "host/forms/Runtime.h"
+
+namespace quillon {
+
+GridAdapter::GridAdapter(GridModel& model, QWidget* parent)
+    : Adapter(model, new GridWidget(model, parent)),
+      grid_(model),
+      editable_(dynamic_cast<EditableGrid*>(&model)),
+      shown_(static_cast<GridWidget*>(&Widget())) {
+  shown_->OnPress = [this](int row, int col) { Acts::Run([&] { grid_.UserMoveTo(row, col); }); };
+  shown_->OnDrag = [this](int row, int col, int toRow, int toCol) {
+    Acts::Run([&] { grid_.UserSelect(row, col, toRow, toCol); });
+  };
+  shown_->OnDoubleClick = [this](int row, int col) { DoubleClick(row, col); };
+  shown_->OnMoved = [this] { PlaceEditor(); };
+  if (editable_ == nullptr) return;
+  editor_ = new BoxEdit(editable_->EditBox, grid_, shown_->viewport());
+  editor_->hide();
+  editable_->EditBox.AddListener(*this);
+}
+
+GridAdapter::~GridAdapter() {
+  if (editable_ != nullptr) editable_->EditBox.RemoveListener(*this);
+}
+
+void GridAdapter::DoubleClick(int row, int col) {
+  Acts::Run([&] {
+    const FormPtr form = grid_.OwnerForm().Self();
+    grid_.UserMoveTo(row, col);
+    grid_.UserDoubleClickRow(row);
+    const bool stays = gRuntime->ActiveForm() == form && row < grid_.Rows && col < grid_.Cols;
+    if (editable_ != nullptr && editable_->BeforeEdit && stays) editable_->UserEnterCell(row, col);
+  });
+}
+
+std::string GridAdapter::SpokenName() const { return grid_.Title().empty() ? grid_.Name() : grid_.Title(); }
+
+QWidget* GridAdapter::FocusWidget() {
+  return editable_ != nullptr && editable_->EditMode() ? static_cast<QWidget*>(editor_) : shown_;
+}
+
+void GridAdapter::Dress() {
+  Adapter::Dress();
+  Widget().setAutoFillBackground(false);
+  // The form's colours are the cells'; the bars keep the desk's.
+  shown_->verticalScrollBar()->setPalette(QApplication::palette());
+  shown_->horizontalScrollBar()->setPalette(QApplication::palette());
+}
+
+void GridAdapter::Draw() { shown_->Touch(); }
+
+void GridAdapter::Settle() { shown_->Settle(); }
+
+void GridAdapter::PlaceEditor() {
+  if (editor_ == nullptr) return;
+  const QRect cell =
+      editable_->EditMode() ? shown_->CellRect(editable_->EditRow(), editable_->EditCol()) : QRect();
+  const bool inSight = !cell.isEmpty() && shown_->Body().contains(cell.center());
+  if (inSight) {
+    editor_->setFont(Widget().font());
+    editor_->setAlignment(grid_.ColAlignment(editable_->EditCol()) == kAlignRight ? Qt::AlignRight
+                                                                                  : Qt::AlignLeft);
+    editor_->setGeometry(cell);
+    editor_->setAccessibleName(QString::fromStdString(grid_.TextMatrix(0, editable_->EditCol())));
+    editor_->ShowBox();
+  }
+  editor_->setVisible(inSight);
+}
+
+}  // namespace quillon

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "desk/qt/adapters/Adapter.h"
+#include "host/controls/EditableGrid.h"
+
+namespace quillon {
+
+class BoxEdit;
+class GridWidget;
+
+/// Shows a grid of any kind, with the cell editor of an editable one.
+class GridAdapter : public Adapter {
+ public:
+  GridAdapter(GridModel& model, QWidget* parent);
+  ~GridAdapter() override;
+
+  QWidget* FocusWidget() override;
+  void Settle() override;
+
+ protected:
+  void Draw() override;
+  void Dress() override;
+  std::string SpokenName() const override;
+
+ private:
+  void PlaceEditor();
+  void DoubleClick(int row, int col);
+
+  GridModel& grid_;
+  EditableGrid* editable_;
+  GridWidget* shown_;
+  BoxEdit* editor_ = nullptr;
+};
+
+}  // namespace quillon

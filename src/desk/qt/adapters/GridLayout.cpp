@@ -1,0 +1,73 @@
+#include "desk/qt/adapters/GridLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "desk/qt/adapters/Scale.h"
+
+namespace quillon {
+
+namespace {
+
+/// Titles that say nothing are no line on the screen.
+bool SaysSomething(const GridModel& grid, int row) {
+  for (int col = 0; col < grid.Cols; ++col) {
+    if (grid.IsColVisible(col) && !grid.Cell(row, col).empty()) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void GridLayout::Measure(const GridModel& grid, int room) {
+  modelRows_ = grid.Rows;
+  rows_.clear();
+  tops_.assign(1, 0);
+  titles_.clear();
+  titleTops_.assign(1, 0);
+  const int fixed = std::min(grid.FixedRows(), grid.Rows());
+  long twips = 0;
+  for (int row = 0; row < fixed; ++row) {
+    if (!grid.IsRowVisible(row) || !SaysSomething(grid, row)) continue;
+    titles_.push_back(row);
+    titleTops_.push_back(Scale::Px(twips += grid.RowHeight(row)));
+  }
+  twips = 0;
+  for (int row = fixed; row < grid.Rows; ++row) {
+    const long height = grid.RowHeight(row);
+    if (height <= 0) continue;
+    rows_.push_back(row);
+    tops_.push_back(Scale::Px(twips += height));
+  }
+  MeasureColumns(grid, room);
+}
+
+void GridLayout::MeasureColumns(const GridModel& grid, int room) {
+  long whole = 0;
+  for (int col = 0; col < grid.Cols; ++col) whole += std::max(grid.ColWidth(col), 0L);
+  const double stretch = whole > 0 ? std::max(1.0, static_cast<double>(room) / Scale::Px(whole)) : 1;
+  lefts_.assign(1, 0);
+  long twips = 0;
+  for (int col = 0; col < grid.Cols; ++col) {
+    twips += std::max(grid.ColWidth(col), 0L);
+    lefts_.push_back(static_cast<int>(std::lround(Scale::Px(twips) * stretch)));
+  }
+}
+
+bool GridLayout::Fits(const GridModel& grid) const { return modelRows_ == grid.Rows && Cols() == grid.Cols; }
+
+std::size_t GridLayout::PlaceAt(int y) const {
+  const auto after = std::upper_bound(tops_.begin(), tops_.end(), std::max(y, 0));
+  return static_cast<std::size_t>(after - tops_.begin()) - 1;
+}
+
+std::size_t GridLayout::PlaceOf(int row) const {
+  return static_cast<std::size_t>(std::lower_bound(rows_.begin(), rows_.end(), row) - rows_.begin());
+}
+
+int GridLayout::ColAt(int x) const {
+  if (x < 0 || x >= Width()) return -1;
+  return static_cast<int>(std::upper_bound(lefts_.begin(), lefts_.end(), x) - lefts_.begin()) - 1;
+}
+
+}  // namespace quillon

@@ -1,0 +1,369 @@
+#include "desk/qt/adapters/GridWidget.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+#include <algorithm>
+
+#include "desk/qt/adapters/GridAccessible.h"
+#include "desk/qt/adapters/Scale.h"
+#include "desk/qt/adapters/Theme.h"
+#include "host/controls/CGridPlus.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr int kPadding = 6;
+constexpr long kTitleLine = 345;
+constexpr const char* kRuled = "*hline1*";
+
+QColor Translucent(QColor color, int alpha) {
+  color.setAlpha(alpha);
+  return color;
+}
+
+Qt::Alignment AlignmentOf(int alignment) {
+  switch (alignment) {
+    case kAlignRight:
+      return Qt::AlignRight | Qt::AlignVCenter;
+    case kAlignCentre:
+      return Qt::AlignHCenter | Qt::AlignVCenter;
+    default:
+      return Qt::AlignLeft | Qt::AlignVCenter;
+  }
+}
+
+}  // namespace
+
+GridWidget::GridWidget(GridModel& model, QWidget* parent) : QAbstractScrollArea(parent), model_(model) {
+  setFrameShape(QFrame::NoFrame);
+  viewport()->setAutoFillBackground(false);
+  GridAccessible::Offer();
+}
+
+void GridWidget::Touch() {
+  stale_ = true;
+  if (waiting_) return;
+  waiting_ = true;
+  QMetaObject::invokeMethod(
+      this, [this] { Settle(); }, Qt::QueuedConnection);
+}
+
+void GridWidget::Measure() {
+  layout_.Measure(model_, viewport()->width());
+  stale_ = false;
+  UpdateBars();
+}
+
+void GridWidget::Settle() {
+  waiting_ = false;
+  if (stale_ || !layout_.Fits(model_)) Measure();
+  const CellPlace cursor{model_.Row, model_.Col};
+  if (cursor != cursor_) {
+    cursor_ = cursor;
+    ScrollTo(cursor.row, cursor.col);
+    QAccessibleEvent moved(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&moved);
+  }
+  if (OnMoved) OnMoved();
+  viewport()->update();
+}
+
+void GridWidget::UpdateBars() {
+  const QRect body = Body();
+  verticalScrollBar()->setRange(0, std::max(0, layout_.Height() - body.height()));
+  verticalScrollBar()->setPageStep(std::max(1, body.height()));
+  verticalScrollBar()->setSingleStep(Scale::Px(model_.RowHeightMin() > 0 ? model_.RowHeightMin() : 330));
+  horizontalScrollBar()->setRange(0, std::max(0, layout_.Width() - body.width()));
+  horizontalScrollBar()->setPageStep(std::max(1, body.width()));
+  horizontalScrollBar()->setSingleStep(Scale::Px(600));
+}
+
+void GridWidget::ScrollTo(int row, int col) {
+  const QRect body = Body();
+  const std::size_t place = layout_.PlaceOf(row);
+  QScrollBar& down = *verticalScrollBar();
+  if (place < layout_.Rows().size()) {
+    const int top = layout_.RowTop(place);
+    const int bottom = top + layout_.RowHeight(place);
+    if (top < down.value()) down.setValue(top);
+    if (bottom > down.value() + body.height()) down.setValue(bottom - body.height());
+  }
+  if (col < 0 || col >= layout_.Cols() || layout_.ColWidth(col) == 0) return;
+  QScrollBar& right = *horizontalScrollBar();
+  const int left = layout_.ColLeft(col);
+  if (left + layout_.ColWidth(col) > right.value() + body.width()) {
+    right.setValue(left + layout_.ColWidth(col) - body.width());
+  }
+  if (left < right.value()) right.setValue(left);
+}
+
+int GridWidget::TitleLine() const { return model_.Title().empty() ? 0 : Scale::Px(kTitleLine); }
+
+int GridWidget::FooterHeight() const {
+  const auto* plus = dynamic_cast<const CGridPlus*>(&model_);
+  return plus != nullptr ? FooterLine() * plus->Footer.Rows() : 0;
+}
+
+int GridWidget::FooterLine() const {
+  const auto* plus = dynamic_cast<const CGridPlus*>(&model_);
+  if (plus == nullptr || plus->Footer.Rows() == 0) return 0;
+  const long own = plus->Footer.Height() / plus->Footer.Rows();
+  const long line = own > 0 ? own : std::max(GridModel::kDefaultRowHeight, model_.RowHeightMin());
+  return std::max(Scale::Px(line), fontMetrics().height() + kPadding);
+}
+
+QRect GridWidget::Body() const {
+  const int top = TitleLine() + layout_.TitleHeight();
+  return {0, top, viewport()->width(), std::max(0, viewport()->height() - top - FooterHeight())};
+}
+
+int GridWidget::X(int col) const {
+  return layout_.ColLeft(col) - (col < model_.FixedCols ? 0 : horizontalScrollBar()->value());
+}
+
+QRect GridWidget::CellRect(int row, int col) const {
+  const std::size_t place = layout_.PlaceOf(row);
+  if (place >= layout_.Rows().size() || layout_.Rows()[place] != row) return {};
+  if (col < 0 || col >= layout_.Cols() || layout_.ColWidth(col) == 0) return {};
+  const int y = Body().top() + layout_.RowTop(place) - verticalScrollBar()->value();
+  return {X(col), y, layout_.ColWidth(col), layout_.RowHeight(place)};
+}
+
+QString GridWidget::CursorText() const {
+  const int row = model_.Row;
+  if (row < model_.FixedRows || row >= model_.Rows || model_.Col >= model_.Cols) return {};
+  QStringList cells;
+  for (int col = 0; col < model_.Cols; ++col) {
+    const bool wanted = model_.IsColVisible(model_.Col) ? col == model_.Col : model_.IsColVisible(col);
+    if (!wanted || model_.Cell(row, col).empty()) continue;
+    const std::string title = model_.FixedRows > 0 ? model_.TextMatrix(0, col) + ": " : std::string();
+    cells << QString::fromStdString(title + model_.TextMatrix(row, col));
+  }
+  return QStringLiteral("Row %1, %2").arg(row).arg(cells.join(QStringLiteral(", ")));
+}
+
+GridWidget::CellPlace GridWidget::CellAt(const QPoint& point) const {
+  const QRect body = Body();
+  if (!body.contains(point)) return {};
+  const std::size_t place = layout_.PlaceAt(point.y() - body.top() + verticalScrollBar()->value());
+  if (place >= layout_.Rows().size()) return {};
+  int col = layout_.ColAt(point.x());
+  if (col >= model_.FixedCols || col < 0) col = layout_.ColAt(point.x() + horizontalScrollBar()->value());
+  return {layout_.Rows()[place], col};
+}
+
+bool GridWidget::HasKeys() const { return leads_ || model_.HasFocus(); }
+
+QColor GridWidget::Back() const {
+  return model_.BackColor == Control::kDefaultColor ? Theme::Surface() : Theme::ColorOf(model_.BackColor);
+}
+
+template <class DrawCell>
+void GridWidget::EachCol(QPainter& painter, const QRect& band, const DrawCell& draw) const {
+  const int fixed = std::min(model_.FixedCols(), layout_.Cols());
+  const int edge = layout_.ColLeft(fixed);
+  for (int col = 0; col < layout_.Cols(); ++col) {
+    const int width = layout_.ColWidth(col);
+    const int x = X(col);
+    if (width == 0 || x + width < 0 || x > band.right()) continue;
+    if (col >= fixed && x + width <= edge) continue;
+    const bool slidUnder = col >= fixed && x < edge;
+    if (slidUnder) {
+      painter.save();
+      painter.setClipRect(band.adjusted(edge, 0, 0, 0), Qt::IntersectClip);
+    }
+    draw(col, QRect(x, band.top(), width, band.height()));
+    if (slidUnder) painter.restore();
+  }
+}
+
+void GridWidget::DrawText(QPainter& painter, QRect cell, std::string_view text, int alignment) const {
+  if (text.empty()) return;
+  cell.adjust(kPadding, 0, -kPadding, 0);
+  QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  const QFontMetrics metrics(painter.font());
+  const int width = metrics.horizontalAdvance(shown);
+  if (width > cell.width() && alignment == kAlignRight && cell.width() > 0) {
+    // A figure that lost its end would be another figure: it is drawn narrower, but whole.
+    painter.save();
+    painter.translate(cell.left(), cell.top());
+    painter.scale(static_cast<double>(cell.width()) / width, 1);
+    painter.drawText(QRect(0, 0, width, cell.height()), Qt::AlignLeft | Qt::AlignVCenter, shown);
+    painter.restore();
+    return;
+  }
+  if (width > cell.width()) shown = metrics.elidedText(shown, Qt::ElideRight, cell.width());
+  painter.drawText(cell, static_cast<int>(AlignmentOf(alignment)) | Qt::TextSingleLine, shown);
+}
+
+void GridWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(viewport());
+  painter.setFont(font());
+  painter.fillRect(viewport()->rect(), Back());
+  // While a form fills the grid, its rows are not for showing.
+  if (!model_.Redraw) return;
+  if (stale_ || !layout_.Fits(model_)) Measure();
+  PaintRows(painter);
+  PaintCursor(painter);
+  PaintTitles(painter);
+  PaintFooter(painter);
+  painter.setPen(HasKeys() ? Theme::Accent() : Theme::Border());
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+void GridWidget::PaintTitles(QPainter& painter) const {
+  const int line = TitleLine();
+  const int width = viewport()->width();
+  if (line > 0) {
+    const QRect band(0, 0, width, line);
+    painter.fillRect(band, Theme::Heading());
+    painter.setPen(Theme::Accent());
+    DrawText(painter, band, model_.Title(), kAlignCentre);
+  }
+  for (std::size_t place = 0; place < layout_.Titles().size(); ++place) {
+    const QRect band(0, line + layout_.TitleTop(place), width, layout_.TitleRowHeight(place));
+    painter.fillRect(band, Theme::Heading());
+    painter.setPen(Theme::Border());
+    painter.drawLine(band.bottomLeft(), band.bottomRight());
+    const int row = layout_.Titles()[place];
+    EachCol(painter, band, [&](int col, const QRect& cell) {
+      painter.setPen(Theme::Border());
+      painter.drawLine(cell.right(), cell.top() + kPadding, cell.right(), cell.bottom() - kPadding);
+      painter.setPen(Theme::Text());
+      DrawText(painter, cell, model_.Cell(row, col), model_.HeadingAlignment(col));
+    });
+  }
+}
+
+void GridWidget::PaintRows(QPainter& painter) const {
+  const QRect body = Body();
+  painter.save();
+  painter.setClipRect(body);
+  const int scrolled = verticalScrollBar()->value();
+  for (std::size_t place = layout_.PlaceAt(scrolled); place < layout_.Rows().size(); ++place) {
+    const int top = body.top() + layout_.RowTop(place) - scrolled;
+    if (top > body.bottom()) break;
+    PaintRow(painter, layout_.Rows()[place], {0, top, body.width(), layout_.RowHeight(place)});
+  }
+  painter.restore();
+}
+
+void GridWidget::PaintRow(QPainter& painter, int row, const QRect& band) const {
+  const std::vector<GridModel::Paint>& paints = model_.Paints(row);
+  const QColor own =
+      model_.ForeColor == Control::kDefaultColor ? Theme::Text() : Theme::ColorOf(model_.ForeColor);
+  const auto [firstRow, lastRow] = std::minmax(model_.Row(), model_.RowSel());
+  const auto [firstCol, lastCol] = std::minmax(model_.Col(), model_.ColSel());
+  const bool block = firstRow != lastRow || firstCol != lastCol;
+  EachCol(painter, band, [&](int col, const QRect& cell) {
+    QColor fore = own;
+    for (const GridModel::Paint& paint : paints) {
+      if (col < paint.firstCol || col > paint.lastCol) continue;
+      if (paint.backColor != Control::kDefaultColor) painter.fillRect(cell, Theme::ColorOf(paint.backColor));
+      if (paint.foreColor != Control::kDefaultColor) fore = Theme::ColorOf(paint.foreColor);
+    }
+    if (block && row >= firstRow && row <= lastRow && col >= firstCol && col <= lastCol) {
+      painter.fillRect(cell, Translucent(Theme::Accent(), 60));
+    }
+    const bool command = col == layout_.Cols() - 1 && model_.Cell(row, col) == kRuled;
+    if (command) return;
+    painter.setPen(fore);
+    QFont font = painter.font();
+    font.setUnderline(model_.CellFontUnderline(row, col));
+    painter.setFont(font);
+    DrawText(painter, cell, model_.Cell(row, col), model_.ColAlignment(col));
+  });
+  const bool ruled = model_.Cols > 0 && model_.Cell(row, model_.Cols - 1) == kRuled;
+  painter.setPen(ruled ? QPen(Theme::Text(), 1) : QPen(Translucent(Theme::Border(), 130), 1));
+  painter.drawLine(band.bottomLeft(), band.bottomRight());
+}
+
+void GridWidget::PaintCursor(QPainter& painter) const {
+  const QRect body = Body();
+  const std::size_t place = layout_.PlaceOf(model_.Row);
+  if (place >= layout_.Rows().size() || layout_.Rows()[place] != model_.Row) return;
+  painter.save();
+  painter.setClipRect(body);
+  const QRect row(0, body.top() + layout_.RowTop(place) - verticalScrollBar()->value(),
+                  std::min(body.width(), layout_.Width() - horizontalScrollBar()->value()),
+                  layout_.RowHeight(place));
+  painter.fillRect(row, Translucent(Theme::Accent(), HasKeys() ? 38 : 18));
+  const QRect cell = CellRect(model_.Row, model_.Col);
+  if (!cell.isEmpty()) {
+    painter.setPen(QPen(HasKeys() ? Theme::Accent() : Theme::Border(), 2));
+    painter.drawRect(cell.adjusted(1, 1, -1, -2));
+  }
+  painter.restore();
+}
+
+void GridWidget::PaintFooter(QPainter& painter) const {
+  const auto* plus = dynamic_cast<const CGridPlus*>(&model_);
+  const int line = FooterLine();
+  if (line == 0) return;
+  const int top = viewport()->height() - FooterHeight();
+  for (int row = 0; row < plus->Footer.Rows(); ++row) {
+    const QRect band(0, top + row * line, viewport()->width(), line);
+    const long color = plus->Footer.BackColor(row);
+    painter.fillRect(band, color == Control::kDefaultColor ? Theme::Heading() : Theme::ColorOf(color));
+    painter.setPen(Theme::Text());
+    EachCol(painter, band, [&](int col, const QRect& cell) {
+      DrawText(painter, cell, plus->Footer.TextMatrix(row, col), model_.ColAlignment(col));
+    });
+  }
+  painter.setPen(Theme::Muted());
+  painter.drawLine(0, top, viewport()->width(), top);
+}
+
+void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
+  stale_ = true;
+  cursor_ = {};
+  Touch();
+}
+
+void GridWidget::scrollContentsBy(int /*dx*/, int /*dy*/) {
+  if (OnMoved) OnMoved();
+  viewport()->update();
+}
+
+void GridWidget::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->button() == Qt::LeftButton ? CellAt(event->position().toPoint()) : CellPlace();
+  dragged_ = pressed_;
+  if (pressed_.row < 0 || pressed_.col < 0) return;
+  if (OnPress) OnPress(pressed_.row, pressed_.col);
+}
+
+void GridWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (pressed_.row < 0 || !(event->buttons() & Qt::LeftButton)) return;
+  const CellPlace over = CellAt(event->position().toPoint());
+  if (over.row < 0 || over.col < 0 || over == dragged_) return;
+  dragged_ = over;
+  if (OnDrag) OnDrag(pressed_.row, pressed_.col, over.row, over.col);
+}
+
+void GridWidget::mouseReleaseEvent(QMouseEvent* /*event*/) { pressed_ = {}; }
+
+void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  const CellPlace cell = CellAt(event->position().toPoint());
+  if (event->button() != Qt::LeftButton || cell.row < 0 || cell.col < 0) return;
+  if (OnDoubleClick) OnDoubleClick(cell.row, cell.col);
+}
+
+bool GridWidget::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
+  // A text that does not fit its cell is told whole.
+  auto* const help = static_cast<QHelpEvent*>(event);
+  const CellPlace cell = CellAt(help->pos());
+  QString text;
+  if (cell.row >= 0 && cell.col >= 0 && model_.Redraw && layout_.Fits(model_)) {
+    text = QString::fromStdString(model_.TextMatrix(cell.row, cell.col));
+    if (fontMetrics().horizontalAdvance(text) <= layout_.ColWidth(cell.col) - 2 * kPadding) text.clear();
+  }
+  QToolTip::showText(help->globalPos(), text, this);
+  return true;
+}
+
+}  // namespace quillon

@@ -1,0 +1,61 @@
+#include "desk/qt/adapters/LabelAdapter.h"
+
+#include <QLabel>
+
+#include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/ElidedLabel.h"
+#include "desk/qt/adapters/Theme.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr const char* kScreenTitle = "lblTitle";
+
+Qt::Alignment AlignmentOf(int alignment) {
+  switch (alignment) {
+    case 1:
+      return Qt::AlignRight;
+    case 2:
+      return Qt::AlignHCenter;
+    default:
+      return Qt::AlignLeft;
+  }
+}
+
+}  // namespace
+
+LabelAdapter::LabelAdapter(Label& model, QWidget* parent)
+    : Adapter(model, new ElidedLabel(parent)), label_(model) {
+  if (label_.Click || label_.DblClick) TakeClicks();
+}
+
+void LabelAdapter::Dress() {
+  Adapter::Dress();
+  // The title line of a screen is the same on all of them.
+  if (label_.Name() != kScreenTitle || label_.BackColor != Control::kDefaultColor) return;
+  QPalette palette = Widget().palette();
+  palette.setColor(QPalette::Window, Theme::AccentSoft());
+  Widget().setPalette(palette);
+  Widget().setAutoFillBackground(true);
+  QFont font = Widget().font();
+  font.setBold(true);
+  Widget().setFont(font);
+}
+
+void LabelAdapter::Draw() {
+  auto& shown = static_cast<QLabel&>(Widget());
+  shown.setText(QString::fromStdString(label_.Caption));
+  shown.setWordWrap(label_.WordWrap);
+  shown.setAlignment(AlignmentOf(label_.Alignment) | (label_.WordWrap ? Qt::AlignTop : Qt::AlignVCenter));
+}
+
+void LabelAdapter::Clicked() {
+  if (label_.Click) Adapter::Clicked();
+}
+
+void LabelAdapter::DoubleClicked() {
+  if (label_.DblClick) Acts::Run([this] { label_.UserDoubleClick(); });
+}
+
+}  // namespace quillon

@@ -1,0 +1,19 @@
+#include "desk/qt/adapters/OptionAdapter.h"
+
+#include <QRadioButton>
+
+namespace quillon {
+
+OptionAdapter::OptionAdapter(OptionButton& model, QWidget* parent)
+    : Adapter(model, new QRadioButton(parent)), option_(model) {
+  static_cast<QRadioButton&>(Widget()).setAutoExclusive(false);  // the models clear one another
+  TakeClicks();
+}
+
+void OptionAdapter::Draw() {
+  auto& shown = static_cast<QRadioButton&>(Widget());
+  shown.setText(QString::fromStdString(option_.Caption).replace(QLatin1Char('&'), QLatin1String("&&")));
+  shown.setChecked(option_.Chosen);
+}
+
+}  // namespace quillon

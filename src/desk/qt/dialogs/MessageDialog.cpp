@@ -1,0 +1,77 @@
+#include "desk/qt/dialogs/MessageDialog.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include "desk/qt/adapters/Icons.h"
+#include "desk/qt/adapters/PushButton.h"
+#include "desk/qt/adapters/Scale.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr long kIcon = 480;
+constexpr long kWidest = 7500;
+constexpr long kNarrowest = 3000;
+
+QString PictureOf(const std::string& icon) {
+  if (icon == "Q") return QStringLiteral("question");
+  if (icon == "W") return QStringLiteral("warning");
+  if (icon == "E") return QStringLiteral("error");
+  return QStringLiteral("information");
+}
+
+}  // namespace
+
+MessageDialog::MessageDialog(const MessageRequest& request, QWidget* parent)
+    : DeskDialog(QString::fromStdString(request.Title), parent),
+      taken_(static_cast<int>(request.Buttons.size())) {
+  auto* const line = new QHBoxLayout;
+  auto* const icon = new QLabel(this);
+  icon->setPixmap(Icons::Picture(PictureOf(request.Icon), Scale::Px(kIcon), devicePixelRatioF()));
+  icon->setAccessibleName(PictureOf(request.Icon));
+  line->addWidget(icon, 0, Qt::AlignTop);
+  line->addSpacing(Scale::Px(kIcon) / 3);
+  auto* const text = new QLabel(QString::fromStdString(request.Text), this);
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  const QRect needed = text->fontMetrics().boundingRect(QRect(0, 0, Scale::Px(kWidest), 10000),
+                                                        Qt::TextWordWrap, text->text());
+  text->setMinimumSize(std::max(needed.width() + 2, Scale::Px(kNarrowest)), needed.height());
+  line->addWidget(text, 1, Qt::AlignVCenter);
+  Content().addLayout(line);
+  setAccessibleDescription(text->text());
+  for (std::size_t i = 0; i < request.Buttons.size(); ++i) {
+    const int number = static_cast<int>(i) + 1;
+    PushButton& button = AddButton(QString::fromStdString(request.Buttons[i]), [this, number] {
+      taken_ = number;
+      accept();
+    });
+    buttons_.append(&button);
+    if (number == request.Default) {
+      button.setDefault(true);
+      button.setFocus();
+    }
+  }
+}
+
+int MessageDialog::Ask() {
+  exec();
+  return taken_;
+}
+
+void MessageDialog::keyPressEvent(QKeyEvent* event) {
+  for (PushButton* button : buttons_) {
+    const QString caption = button->accessibleName();
+    if (!event->text().isEmpty() && caption.startsWith(event->text(), Qt::CaseInsensitive)) {
+      button->click();
+      return;
+    }
+  }
+  DeskDialog::keyPressEvent(event);
+}
+
+}  // namespace quillon

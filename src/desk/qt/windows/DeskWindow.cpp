@@ -1,0 +1,306 @@
+#include "desk/qt/windows/DeskWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScreen>
+#include <QSettings>
+#include <QStackedLayout>
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <filesystem>
+
+#include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/Icons.h"
+#include "desk/qt/adapters/Scale.h"
+#include "desk/qt/adapters/Theme.h"
+#include "desk/qt/dialogs/ChoiceDialog.h"
+#include "desk/qt/dialogs/OpenFirmDialog.h"
+#include "desk/qt/dialogs/RecentFirms.h"
+#include "desk/qt/windows/DeskArea.h"
+#include "desk/qt/windows/FormView.h"
+#include "desk/qt/windows/PreviewWindow.h"
+#include "desk/qt/windows/QtRuntime.h"
+#include "desk/qt/windows/StartPage.h"
+#include "desk/sample/SampleFirm.h"
+#include "host/data/CDataSet.h"
+#include "host/forms/Progress.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr int kWidth = 1280;
+constexpr int kHeight = 760;
+
+QString YearName(int start) {
+  return QStringLiteral("%1-%2").arg(start).arg(QString::number(start + 1).right(2));
+}
+
+}  // namespace
+
+DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
+    : runtime_(runtime),
+      area_(new DeskArea(this)),
+      start_(new StartPage(this)),
+      firm_(new QLabel(this)),
+      busy_(new QLabel(this)) {
+  setWindowIcon(Icons::Of(QStringLiteral("desk")));
+  auto* const middle = new QWidget(this);
+  auto* const pages = new QStackedLayout(middle);
+  pages->addWidget(start_);
+  pages->addWidget(area_);
+  setCentralWidget(middle);
+  middle->installEventFilter(this);
+  statusBar()->addWidget(firm_, 1);
+  statusBar()->addPermanentWidget(busy_);
+  statusBar()->setSizeGripEnabled(false);
+  BuildMenus();
+  runtime_.SetArea(area_);
+  runtime_.OnBusy = [this](bool on, const std::string& text) { ShowBusy(on, text); };
+  runtime_.OnProgress = [this](const std::string& text) { busy_->setText(QString::fromStdString(text)); };
+  start_->OnOpen = [this] { AskFirm(); };
+  start_->OnSample = [this] { OpenSample(); };
+  start_->OnStatement = [this] { OpenStatement(); };
+  start_->OnAccounts = [this] { OpenAccount(); };
+  runtime_.OnTopChanged = [this] { ShowPage(); };
+  Desk::Options options;
+  options.ModulePath = modulePath;
+  options.OutputFolder = reports_.path().toStdString();
+  options.Reports = this;
+  desk_ = std::make_unique<Desk>(options);
+  const QSize wanted(Scale::Px(kWidth * Runtime::kTwipsPerPixel),
+                     Scale::Px(kHeight * Runtime::kTwipsPerPixel));
+  resize(wanted.boundedTo(screen()->availableSize()));
+  ShowState();
+}
+
+DeskWindow::~DeskWindow() {
+  centralWidget()->removeEventFilter(this);
+  desk_->CloseFirm();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  runtime_.OnBusy = {};
+  runtime_.OnProgress = {};
+  runtime_.OnTopChanged = {};
+  runtime_.SetArea(nullptr);
+}
+
+ScreenArea DeskWindow::AreaNow() const {
+  const QSize room = centralWidget()->size();
+  return {0, 0, Scale::Twips(room.width()), Scale::Twips(room.height())};
+}
+
+bool DeskWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == centralWidget() && event->type() == QEvent::Resize) TakeArea();
+  return QMainWindow::eventFilter(watched, event);
+}
+
+/// The screens that are opened from now on fill the room that there is now.
+void DeskWindow::TakeArea() {
+  if (desk_ && desk_->HasFirm()) desk_->Session().SetArea(AreaNow());
+}
+
+QString DeskWindow::OpenFirm(const QString& folder, const QString& user, int startYear) {
+  if (!CloseForms()) return QStringLiteral("A window of the open firm is still in use.");
+  CloseFirm();
+  QString fault;
+  try {
+    desk_->OpenFirm(folder.toStdString(), user.toStdString(), startYear);
+    folder_ = folder;
+    RecentFirms::Add(folder);
+  } catch (const std::exception& error) {
+    fault = QString::fromStdString(error.what());
+  }
+  ShowState();
+  TakeArea();
+  return fault;
+}
+
+bool DeskWindow::CloseForms() {
+  if (runtime_.IsWaiting()) return false;
+  std::vector<FormPtr> forms = runtime_.AllForms();
+  for (auto form = forms.rbegin(); form != forms.rend(); ++form) {
+    bool closed = false;
+    Acts::Run([&] { closed = runtime_.Unload(**form, UnloadMode::CloseBox); });
+    if (!closed) return false;
+  }
+  return true;
+}
+
+void DeskWindow::CloseFirm() {
+  desk_->CloseFirm();
+  // Windows that are on their way out hold forms that know the session.
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void DeskWindow::OpenSample() {
+  const QString folder =
+      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/sample");
+  QString fault;
+  if (!std::filesystem::exists(folder.toStdString())) {
+    ShowBusy(true, "Making the sample firm");
+    Acts::LetPaint();
+    try {
+      std::filesystem::create_directories(std::filesystem::path(folder.toStdString()).parent_path());
+      Progress days("Making the sample firm, day", 0);
+      MakeSampleFirm(folder.toStdString(), {.OnDay = [&days] { days.Step(); }});
+    } catch (const std::exception& error) {
+      fault = QString::fromStdString(error.what());
+    }
+    ShowBusy(false, "");
+  }
+  if (fault.isEmpty()) fault = OpenFirm(folder);
+  if (!fault.isEmpty()) Tell(fault);
+}
+
+void DeskWindow::AskFirm() {
+  OpenFirmDialog([this](const QString& folder) { return OpenFirm(folder); }, this).exec();
+}
+
+void DeskWindow::AskYear() {
+  const std::vector<int> years = desk_->Session().Books().Years();
+  const int open = desk_->Session().Year().StartYear();
+  QStringList lines;
+  int chosen = 0;
+  for (const int year : years) {
+    if (year == open) chosen = static_cast<int>(lines.size());
+    lines << YearName(year);
+  }
+  ChoiceDialog dialog(QStringLiteral("Financial Year"), lines, chosen, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QString fault = OpenFirm(folder_, QString::fromStdString(desk_->Session().CurrentUser().Name),
+                                 years[static_cast<std::size_t>(dialog.Line())]);
+  if (!fault.isEmpty()) Tell(fault);
+}
+
+void DeskWindow::AskUser() {
+  const QString now = QString::fromStdString(desk_->Session().CurrentUser().Name);
+  QStringList names;
+  CDataSet users;
+  for (users.Open("Select UserName from Users order by UserName", desk_->Session().CommonDb()); !users.Eof();
+       users.MoveNext()) {
+    names << QString::fromStdString(users.Field("UserName").ToText());
+  }
+  users.Close();
+  if (names.isEmpty()) names << now;
+  ChoiceDialog dialog(QStringLiteral("User"), names, static_cast<int>(names.indexOf(now)), this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QString fault = OpenFirm(folder_, names[dialog.Line()], desk_->Session().Year().StartYear());
+  if (!fault.isEmpty()) Tell(fault);
+}
+
+void DeskWindow::OpenStatement() {
+  Acts::Run([] {
+    const FormPtr statement = gApp->GetForm("Account");
+    statement->CallingForm = gApp->MainWindow().MainForm();
+    gApp->ShowForm(statement);
+  });
+}
+
+void DeskWindow::OpenAccount() {
+  Acts::Run([] {
+    const FormPtr picker = gApp->GetForm("SelectAc");
+    picker->Set("SelectAc", true);
+    gStd->ShowDialog(picker, nullptr);
+    const bool picked = picker->Get("Modify").ToFlag();
+    const std::int64_t code = picker->Get("ModifyCode").ToInteger();
+    gRuntime->Unload(*picker);
+    if (picked) gApp->ShowAccountDetails(*gApp->MainWindow().MainForm(), code);
+  });
+}
+
+void DeskWindow::RaiseMenu(const std::string& key) {
+  Acts::Run([&] {
+    bool cancel = false;
+    gApp->MainWindow().MainMenuClick.Raise(key, cancel);
+  });
+}
+
+void DeskWindow::OnReport(const ReportShown& report) {
+  if (report.Pages == 0) return;
+  if (report.Sheets.Pages.empty()) {
+    Tell(QStringLiteral("The lines lie in the file\n%1").arg(QString::fromStdString(report.File)));
+    return;
+  }
+  // The preview waits until the form is done with its report, and may be used again.
+  const auto copy = std::make_shared<ReportCopy>(ReportCopy::Of(report));
+  QMetaObject::invokeMethod(
+      this, [this, copy, print = report.Print] { Preview(std::move(*copy), print); }, Qt::QueuedConnection);
+}
+
+void DeskWindow::Preview(ReportCopy report, bool print) {
+  PreviewWindow preview(std::move(report), this);
+  if (print) {
+    preview.Print();
+  } else {
+    preview.exec();
+  }
+}
+
+void DeskWindow::ShowBusy(bool on, const std::string& text) {
+  busy_->setText(!on            ? QString()
+                 : text.empty() ? QStringLiteral("Working …")
+                                : QString::fromStdString(text) + QStringLiteral(" …"));
+}
+
+void DeskWindow::ShowState() {
+  const bool open = desk_->HasFirm();
+  for (QAction* act : firmActs_) act->setEnabled(open);
+  if (!open) {
+    firm_->clear();
+    start_->ShowFirm(QString());
+    ShowPage();
+    return;
+  }
+  DeskSession& session = desk_->Session();
+  const QString name = QString::fromStdString(session.FirmName());
+  firm_->setText(QStringLiteral(" %1     F.Y. %2     %3")
+                     .arg(name, YearName(session.Year().StartYear()),
+                          QString::fromStdString(session.CurrentUser().Name)));
+  start_->ShowFirm(name);
+  ShowPage();
+}
+
+void DeskWindow::ShowPage() {
+  const bool screen = area_->Top() != nullptr;
+  static_cast<QStackedLayout*>(centralWidget()->layout())
+      ->setCurrentWidget(screen ? static_cast<QWidget*>(area_) : start_);
+  // The title names the screen, so that the list of windows and a screen reader tell where one is.
+  QStringList parts;
+  if (screen) parts << area_->Top()->windowTitle().simplified();
+  if (desk_ && desk_->HasFirm()) parts << QString::fromStdString(desk_->Session().FirmName());
+  parts << QStringLiteral("Quillon");
+  setWindowTitle(parts.join(QStringLiteral(" - ")));
+}
+
+void DeskWindow::SetZoom(int percent) {
+  Scale::SetPercent(percent);
+  QSettings().setValue(QStringLiteral("zoom"), Scale::Percent());
+  Theme::ApplyFont(*qApp);
+  start_->Replace();
+  runtime_.Replace();
+  TakeArea();
+}
+
+void DeskWindow::Tell(const QString& text) {
+  runtime_.AskMessage({text.toStdString(), "I", {"OK"}, "Quillon", 1});
+}
+
+void DeskWindow::closeEvent(QCloseEvent* event) {
+  if (runtime_.IsWaiting() || !CloseForms()) {
+    event->ignore();
+    return;
+  }
+  CloseFirm();
+  event->accept();
+  QApplication::quit();
+}
+
+void DeskWindow::keyPressEvent(QKeyEvent* event) {
+  // Keys that come while no control has the focus are the screen's.
+  FormView* const view = runtime_.TopView();
+  if (view == nullptr || !view->TakeKey(*event)) QMainWindow::keyPressEvent(event);
+}
+
+}  // namespace quillon

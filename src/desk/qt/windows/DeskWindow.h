@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "desk/print/DeskReports.h"
+#include "desk/qt/windows/ReportCopy.h"
+#include "desk/shell/Desk.h"
+
+class QLabel;
+
+namespace quillon {
+
+class DeskArea;
+class QtRuntime;
+class StartPage;
+
+/// The main window: menus, the area of the full screens, and a line that says which books are open.
+class DeskWindow : public QMainWindow, private ReportObserver {
+ public:
+  /// An empty path looks for the module beside the program. Throws HostError when it cannot be loaded.
+  DeskWindow(QtRuntime& runtime, const std::string& modulePath);
+  ~DeskWindow() override;
+
+  /// What is wrong with the firm in plain words; empty when it is open.
+  QString OpenFirm(const QString& folder, const QString& user = {}, int startYear = 0);
+
+  /// The sample firm of this user, which is made at the first time.
+  void OpenSample();
+  void AskFirm();
+  Desk& Books() { return *desk_; }
+
+  void SetZoom(int percent);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void OnReport(const ReportShown& report) override;
+  void Preview(ReportCopy report, bool print);
+  void BuildMenus();
+  QMenu* AddMenu(const QString& title);
+  void BuildFirmMenu();
+  void BuildBooksMenu();
+  void BuildMastersMenu();
+  void BuildWindowsMenu();
+  void BuildHelpMenu();
+  void AddZooms(QMenu& menu);
+  void FillWindows(QMenu& menu);
+  QAction* AddAct(QMenu& menu, const QString& text, const QKeySequence& key, void (DeskWindow::*act)());
+
+  /// Asks each form whether it may close; false when one refused.
+  bool CloseForms();
+  void CloseFirm();
+  void AskYear();
+  void AskUser();
+  void OpenStatement();
+  void OpenAccount();
+  void RaiseMenu(const std::string& key);
+  void ShowKeys();
+  void ShowAbout();
+  void ShowBusy(bool on, const std::string& text);
+  void ShowState();
+  void ShowPage();
+  void TakeArea();
+  void Tell(const QString& text);
+  ScreenArea AreaNow() const;
+
+  QtRuntime& runtime_;
+  QTemporaryDir reports_;
+  DeskArea* area_;
+  StartPage* start_;
+  QLabel* firm_;
+  QLabel* busy_;
+  QString folder_;
+  QList<QAction*> firmActs_;
+  std::unique_ptr<Desk> desk_;
+};
+
+}  // namespace quillon

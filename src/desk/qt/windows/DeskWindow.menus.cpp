@@ -1,0 +1,141 @@
+#include "desk/qt/windows/DeskWindow.h"
+
+#include <QCoreApplication>
+#include <QMenuBar>
+
+#include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/Icons.h"
+#include "desk/qt/adapters/Scale.h"
+#include "desk/qt/dialogs/KeysDialog.h"
+#include "desk/qt/windows/QtRuntime.h"
+#include "host/services/ISession.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr int kZooms[] = {90, 100, 110, 125, 150, 175, 200};
+
+/// The main menu's items that a module may answer.
+struct ModuleItem {
+  const char* title;
+  const char* menuKey;
+  const char* formKey;
+};
+constexpr ModuleItem kMasters[] = {
+    {"Address &Labels", "AddLabels", "addresslabels"},
+    {"&Envelopes", "Envelopes", "envelopeprint"},
+    {"&Mail Merge", "MailMerge", "mailmerge"},
+};
+
+}  // namespace
+
+QMenu* DeskWindow::AddMenu(const QString& title) { return menuBar()->addMenu(title); }
+
+QAction* DeskWindow::AddAct(QMenu& menu, const QString& text, const QKeySequence& key,
+                            void (DeskWindow::*act)()) {
+  QAction* const made = menu.addAction(text);
+  made->setShortcut(key);
+  connect(made, &QAction::triggered, this, [this, act] { Acts::Run([&] { (this->*act)(); }); });
+  return made;
+}
+
+void DeskWindow::BuildMenus() {
+  BuildFirmMenu();
+  BuildBooksMenu();
+  BuildMastersMenu();
+  BuildWindowsMenu();
+  BuildHelpMenu();
+}
+
+void DeskWindow::BuildFirmMenu() {
+  QMenu& menu = *AddMenu(QStringLiteral("&Firm"));
+  AddAct(menu, QStringLiteral("&Open …"), QKeySequence(Qt::CTRL | Qt::Key_O), &DeskWindow::AskFirm)
+      ->setIcon(Icons::ForMenu(QStringLiteral("open")));
+  AddAct(menu, QStringLiteral("&Sample Firm"), {}, &DeskWindow::OpenSample);
+  menu.addSeparator();
+  firmActs_ << AddAct(menu, QStringLiteral("&Year …"), QKeySequence(Qt::CTRL | Qt::Key_Y),
+                      &DeskWindow::AskYear)
+            << AddAct(menu, QStringLiteral("&User …"), QKeySequence(Qt::CTRL | Qt::Key_U),
+                      &DeskWindow::AskUser);
+  menu.addSeparator();
+  QAction* const exit = menu.addAction(QStringLiteral("E&xit"));
+  exit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+  connect(exit, &QAction::triggered, this, [this] { close(); });
+}
+
+void DeskWindow::BuildBooksMenu() {
+  QMenu& menu = *AddMenu(QStringLiteral("&Books"));
+  QAction* const accounts = AddAct(menu, QStringLiteral("&Accounts …"), QKeySequence(Qt::CTRL | Qt::Key_L),
+                                   &DeskWindow::OpenAccount);
+  accounts->setIcon(Icons::ForMenu(QStringLiteral("customers")));
+  QAction* const statement = AddAct(menu, QStringLiteral("&Statement of Account …"),
+                                    QKeySequence(Qt::CTRL | Qt::Key_T), &DeskWindow::OpenStatement);
+  statement->setIcon(Icons::ForMenu(QStringLiteral("acstatement")));
+  firmActs_ << accounts << statement;
+}
+
+void DeskWindow::BuildMastersMenu() {
+  QMenu& menu = *AddMenu(QStringLiteral("&Masters"));
+  for (const ModuleItem& item : kMasters) {
+    QAction* const act = menu.addAction(QString::fromLatin1(item.title));
+    connect(act, &QAction::triggered, this, [this, &item] { RaiseMenu(item.menuKey); });
+    connect(&menu, &QMenu::aboutToShow, act, [this, act, &item] {
+      act->setEnabled(desk_->HasFirm() && desk_->Module().GetForm(item.formKey) != nullptr);
+    });
+  }
+}
+
+void DeskWindow::BuildWindowsMenu() {
+  QMenu& menu = *AddMenu(QStringLiteral("&Windows"));
+  connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { FillWindows(menu); });
+  // The keys of the zoom hold before the menu was ever opened.
+  AddZooms(menu);
+}
+
+void DeskWindow::AddZooms(QMenu& menu) {
+  QMenu* const zooms = menu.addMenu(QStringLiteral("&Zoom"));
+  int number = 0;
+  for (const int percent : kZooms) {
+    QAction* const act = zooms->addAction(QStringLiteral("&%1   %2 %").arg(++number).arg(percent));
+    act->setCheckable(true);
+    // The menu bar measures itself anew only when its menus have closed.
+    connect(
+        act, &QAction::triggered, this, [this, percent] { SetZoom(percent); }, Qt::QueuedConnection);
+    connect(zooms, &QMenu::aboutToShow, act,
+            [act, percent] { act->setChecked(Scale::Percent() == percent); });
+  }
+}
+
+void DeskWindow::FillWindows(QMenu& menu) {
+  menu.clear();
+  AddZooms(menu);
+  menu.addSeparator();
+  if (!desk_->HasFirm()) return;
+  int number = 0;
+  for (const OpenWindow& open : desk_->App().Windows()) {
+    const FormPtr form = open.Window->Self();
+    const QString title = QString::fromStdString(open.Title).replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAction* const act = menu.addAction(Icons::ForMenu(QString::fromStdString(open.IconKey)),
+                                        QStringLiteral("&%1   %2").arg(++number).arg(title));
+    act->setCheckable(true);
+    act->setChecked(runtime_.ActiveForm() == form);
+    connect(act, &QAction::triggered, this, [form] { Acts::Run([&] { gRuntime->BringToFront(*form); }); });
+  }
+}
+
+void DeskWindow::BuildHelpMenu() {
+  QMenu& menu = *AddMenu(QStringLiteral("&Help"));
+  AddAct(menu, QStringLiteral("&Keys of this Screen"), QKeySequence(Qt::Key_F1), &DeskWindow::ShowKeys);
+  AddAct(menu, QStringLiteral("&About Quillon"), {}, &DeskWindow::ShowAbout);
+}
+
+void DeskWindow::ShowKeys() { KeysDialog(runtime_.ActiveForm().get(), runtime_.TopWindow()).exec(); }
+
+void DeskWindow::ShowAbout() {
+  Tell(QStringLiteral("Quillon %1\n\nBank reconciliation and the accountant's side tools.\n"
+                      "Free software under the GNU General Public License, version 3 or later.")
+           .arg(QCoreApplication::applicationVersion()));
+}
+
+}  // namespace quillon

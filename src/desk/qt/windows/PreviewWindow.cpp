@@ -1,0 +1,222 @@
+#include "desk/qt/windows/PreviewWindow.h"
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSaveFile>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+#include "desk/print/ReportPainter.h"
+#include "desk/print/Spooler.h"
+#include "desk/qt/adapters/ElidedLabel.h"
+#include "desk/qt/adapters/PushButton.h"
+#include "desk/qt/adapters/Scale.h"
+#include "desk/qt/adapters/Theme.h"
+#include "desk/qt/dialogs/PrintDialog.h"
+#include "desk/qt/dialogs/ToolkitDialogs.h"
+#include "desk/qt/windows/PageView.h"
+#include "host/values/Errors.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr std::array kZooms = {50, 75, 100, 125, 150, 200, 300};
+constexpr int kWidth = 15000;
+constexpr int kHeight = 10500;
+
+}  // namespace
+
+PreviewWindow::PreviewWindow(ReportCopy report, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
+      report_(std::move(report)),
+      pages_(new PageView(report_.Sheets)),
+      area_(new QScrollArea(this)),
+      search_(new QLineEdit(this)),
+      state_(new ElidedLabel(this)) {
+  setWindowTitle(QString::fromStdString("Preview: " + report_.Sheets.Title));
+  auto* const all = new QVBoxLayout(this);
+  auto* const tools = new QHBoxLayout;
+  AddTool(*tools, QStringLiteral("F9: Print"), QStringLiteral("print"), [this] { Print(); });
+  AddTool(*tools, QStringLiteral("F5: Save as PDF"), QStringLiteral("save"), [this] { SavePdf(); });
+  AddTool(*tools, QStringLiteral("F6: Save as CSV"), QStringLiteral("acstatement"), [this] { SaveCsv(); });
+  search_->setPlaceholderText(QStringLiteral("Search (F3: next)"));
+  search_->setAccessibleName(QStringLiteral("Search"));
+  search_->setMaximumWidth(Scale::Px(3300));
+  // A long path must neither widen the window nor take the room of the search.
+  state_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  search_->setMinimumWidth(Scale::Px(1800));
+  tools->addWidget(search_);
+  tools->addWidget(state_, 1);
+  AddTool(*tools, QStringLiteral("F7: Smaller"), QString(), [this] { Zoom(-1); });
+  AddTool(*tools, QStringLiteral("F8: Larger"), QString(), [this] { Zoom(1); });
+  AddTool(*tools, QStringLiteral("Esc: Close"), QStringLiteral("close"), [this] { reject(); });
+  all->addLayout(tools);
+  area_->setWidget(pages_);
+  area_->setAlignment(Qt::AlignHCenter);
+  area_->setBackgroundRole(QPalette::Mid);
+  area_->setFocusPolicy(Qt::StrongFocus);
+  all->addWidget(area_, 1);
+  connect(search_, &QLineEdit::returnPressed, this, [this] { Find(); });
+  connect(area_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { ShowState(); });
+  resize(Scale::Px(kWidth), Scale::Px(kHeight));
+  ShowState();
+  area_->setFocus();
+}
+
+void PreviewWindow::AddTool(QHBoxLayout& tools, const QString& caption, const QString& icon,
+                            const std::function<void()>& pressed) {
+  auto* const button = new PushButton(this);
+  button->SetCaption(caption);
+  button->SetIconKey(icon);
+  button->setAutoDefault(false);
+  button->setFocusPolicy(Qt::NoFocus);
+  connect(button, &QPushButton::clicked, this, pressed);
+  tools.addWidget(button);
+}
+
+void PreviewWindow::ShowState() {
+  const std::size_t page = pages_->PageAt(area_->verticalScrollBar()->value() + area_->height() / 2);
+  state_->setText(
+      QStringLiteral("  Page %1 of %2    %3 %").arg(page + 1).arg(pages_->Pages()).arg(pages_->Percent()));
+  state_->setToolTip(QString());
+}
+
+void PreviewWindow::Tell(const QString& text) {
+  state_->setText(QStringLiteral("  ") + text);
+  state_->setToolTip(text);
+}
+
+void PreviewWindow::Zoom(int step) {
+  const auto here = std::find(kZooms.begin(), kZooms.end(), pages_->Percent());
+  const auto at = std::clamp<std::ptrdiff_t>(here - kZooms.begin() + step, 0, std::ssize(kZooms) - 1);
+  pages_->SetPercent(kZooms[static_cast<std::size_t>(at)]);
+  ShowState();
+}
+
+void PreviewWindow::Find() {
+  if (search_->text().isEmpty()) {
+    search_->setFocus();
+  } else if (pages_->FindNext(search_->text())) {
+    const QPoint place = pages_->Mark().center();
+    area_->ensureVisible(place.x(), place.y(), 100, 100);
+    ShowState();
+  } else {
+    Tell(QStringLiteral("\"%1\" is not in the report").arg(search_->text()));
+  }
+}
+
+void PreviewWindow::GoToPage(int step) {
+  const auto here = static_cast<int>(pages_->PageAt(area_->verticalScrollBar()->value() + 1));
+  const int page = std::clamp(here + step, 0, static_cast<int>(pages_->Pages()) - 1);
+  area_->verticalScrollBar()->setValue(pages_->PageTop(static_cast<std::size_t>(page)));
+}
+
+void PreviewWindow::Print() {
+  PrintSetup setup;
+  setup.MaxPage = static_cast<int>(pages_->Pages());
+  PrintDialog dialog(setup, Spooler::Printers(), this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  dialog.TakeInto(setup);
+  try {
+    const std::string file = FileOf(setup);
+    if (setup.PrinterObj.empty()) {
+      SavePages(file);
+      return;
+    }
+    for (int copy = 0; copy < setup.Copies; ++copy) Spooler::Send(file, setup.PrinterObj);
+    Tell(QStringLiteral("Sent to %1").arg(QString::fromStdString(setup.PrinterObj)));
+  } catch (const HostError& error) {
+    Tell(QString::fromStdString(error.what()));
+  }
+}
+
+std::string PreviewWindow::FileOf(const PrintSetup& setup) const {
+  const auto count = static_cast<int>(report_.Sheets.Pages.size());
+  if (setup.PageFrom <= 1 && setup.PageTo >= count) return report_.File;
+  ReportPages part = report_.Sheets;
+  part.Pages.assign(report_.Sheets.Pages.begin() + (setup.PageFrom - 1),
+                    report_.Sheets.Pages.begin() + std::min(setup.PageTo, count));
+  const std::filesystem::path folder = std::filesystem::path(report_.File).parent_path();
+  return ReportPainter::WritePdf(part, folder.string(), "pages");
+}
+
+QString PreviewWindow::AskName(const QString& title, const QString& suffix) {
+  QString name = QString::fromStdString(report_.Sheets.Title).simplified();
+  for (const char c : {'/', '\\', ':'}) name.replace(QLatin1Char(c), QLatin1Char(' '));
+  QString file =
+      ToolkitDialogs::SaveFile(this, title, name + suffix, QStringLiteral("Files (*%1)").arg(suffix));
+  if (!file.isEmpty() && !file.endsWith(suffix, Qt::CaseInsensitive)) file += suffix;
+  return file;
+}
+
+void PreviewWindow::Write(const QString& file, const QByteArray& bytes) {
+  if (file.isEmpty()) return;
+  QSaveFile out(file);
+  const bool written = out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size() && out.commit();
+  Tell(written ? QStringLiteral("Saved as %1").arg(file)
+               : QStringLiteral("%1 cannot be written: %2").arg(file, out.errorString()));
+}
+
+void PreviewWindow::SavePdf() { SavePages(report_.File); }
+
+void PreviewWindow::SavePages(const std::string& file) {
+  QFile pages(QString::fromStdString(file));
+  if (!pages.open(QIODevice::ReadOnly)) {
+    Tell(QStringLiteral("The pages cannot be read: %1").arg(pages.errorString()));
+    return;
+  }
+  Write(AskName(QStringLiteral("Save as PDF"), QStringLiteral(".pdf")), pages.readAll());
+}
+
+void PreviewWindow::SaveCsv() {
+  Write(AskName(QStringLiteral("Save as CSV"), QStringLiteral(".csv")),
+        QByteArray::fromStdString(report_.Csv));
+}
+
+void PreviewWindow::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_F3:
+      Find();
+      break;
+    case Qt::Key_F5:
+      SavePdf();
+      break;
+    case Qt::Key_F6:
+      SaveCsv();
+      break;
+    case Qt::Key_F7:
+      Zoom(-1);
+      break;
+    case Qt::Key_F8:
+      Zoom(1);
+      break;
+    case Qt::Key_F9:
+      Print();
+      break;
+    case Qt::Key_PageUp:
+      GoToPage(-1);
+      break;
+    case Qt::Key_PageDown:
+      GoToPage(1);
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      break;  // Enter in the search must not press a button
+    default:
+      QDialog::keyPressEvent(event);
+  }
+}
+
+void PreviewWindow::done(int result) {
+  QDialog::done(result);
+  // Where no window manager does it, the window below would stay without the keys.
+  if (parentWidget() != nullptr) parentWidget()->activateWindow();
+}
+
+}  // namespace quillon

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "desk/qt/windows/ReportCopy.h"
+#include "host/services/PrintSetup.h"
+
+class QLabel;
+class QLineEdit;
+class QScrollArea;
+class QHBoxLayout;
+
+namespace quillon {
+
+class PageView;
+class PushButton;
+
+/// A report on the screen: pages, zoom, search, print, and the report as a PDF or a spreadsheet's file.
+class PreviewWindow : public QDialog {
+ public:
+  PreviewWindow(ReportCopy report, QWidget* parent);
+
+  PageView& Pages() { return *pages_; }
+  void Zoom(int step);
+  void Find();
+  void GoToPage(int step);
+  void Print();
+  void SavePdf();
+  void SaveCsv();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void done(int result) override;
+
+ private:
+  void AddTool(QHBoxLayout& tools, const QString& caption, const QString& icon,
+               const std::function<void()>& pressed);
+  void ShowState();
+  void Tell(const QString& text);
+
+  /// The chosen name, or nothing.
+  QString AskName(const QString& title, const QString& suffix);
+  void Write(const QString& file, const QByteArray& bytes);
+  void SavePages(const std::string& file);
+
+  /// The PDF with just the pages that the dialog asked for.
+  std::string FileOf(const PrintSetup& setup) const;
+
+  ReportCopy report_;
+  PageView* pages_;
+  QScrollArea* area_;
+  QLineEdit* search_;
+  QLabel* state_;
+};
+
+}  // namespace quillon

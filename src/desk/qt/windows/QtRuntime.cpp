@@ -1,0 +1,188 @@
+#include "desk/qt/windows/QtRuntime.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEventLoop>
+#include <QLocale>
+#include <QScreen>
+#include <cmath>
+
+#include "desk/print/Spooler.h"
+#include "desk/print/TextMeasure.h"
+#include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/Scale.h"
+#include "desk/qt/windows/DeskArea.h"
+#include "desk/qt/windows/FormView.h"
+#include "host/forms/ScreenForm.h"
+#include "host/services/ISession.h"
+
+namespace quillon {
+
+namespace {
+
+/// What fills the main window's area, rather than standing before it.
+bool IsScreen(const Form& form) {
+  if (form.IsModal()) return false;
+  if (dynamic_cast<const ScreenForm*>(&form) != nullptr) return true;
+  return gSession != nullptr && form.Width >= gSession->FormWidth() && form.Height >= gSession->FormHeight();
+}
+
+}  // namespace
+
+QtRuntime::QtRuntime(std::string outputFolder) : printer_(std::move(outputFolder), this) {
+  Acts::SetAfterwards([this] { Settle(); });
+}
+
+QtRuntime::~QtRuntime() {
+  Acts::SetAfterwards({});
+  for (const auto& [form, view] : views_) delete view;
+}
+
+FormView* QtRuntime::ViewOf(const Form& form) const {
+  const auto known = views_.find(&form);
+  return known == views_.end() ? nullptr : known->second;
+}
+
+FormView* QtRuntime::TopView() const {
+  const FormPtr top = ActiveForm();
+  return top ? ViewOf(*top) : nullptr;
+}
+
+QWidget* QtRuntime::TopWindow() const {
+  if (QWidget* dialog = QApplication::activeModalWidget()) return dialog;
+  if (FormView* view = TopView()) return view->window();
+  return area_ ? area_->window() : nullptr;
+}
+
+void QtRuntime::Replace() {
+  for (const auto& [form, view] : views_) view->Replace();
+  // A screen that no longer fits can be scrolled.
+  if (area_ != nullptr) area_->Fit();
+}
+
+long QtRuntime::ScreenWidth() const {
+  return Scale::Twips(QApplication::primaryScreen()->availableSize().width());
+}
+
+long QtRuntime::ScreenHeight() const {
+  return Scale::Twips(QApplication::primaryScreen()->availableSize().height());
+}
+
+void QtRuntime::Beep() { QApplication::beep(); }
+
+void QtRuntime::ShowBusy(bool on, const std::string& text) {
+  if (OnBusy) OnBusy(on, text);
+}
+
+void QtRuntime::ShowProgress(const std::string& text, std::int64_t done, std::int64_t whole) {
+  const QLocale locale(QLocale::English, QLocale::India);
+  QString words =
+      QString::fromStdString(text) + QLatin1Char(' ') + locale.toString(static_cast<qlonglong>(done));
+  if (whole > 0) words += QStringLiteral(" of ") + locale.toString(static_cast<qlonglong>(whole));
+  if (OnProgress) OnProgress(words.toStdString());
+  Acts::LetPaint();
+}
+
+void QtRuntime::HideProgress() {
+  if (OnProgress) OnProgress("");
+}
+
+long QtRuntime::TextWidth(const Font& font, const std::string& text) const {
+  return std::lround(TextMeasure::Width(font, text));
+}
+
+std::string QtRuntime::ClipboardText() const { return QApplication::clipboard()->text().toStdString(); }
+
+void QtRuntime::SetClipboardText(const std::string& text) {
+  QApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+std::vector<std::string> QtRuntime::Printers() const { return Spooler::Printers(); }
+
+void QtRuntime::ShowView(Form& form) {
+  FormView*& view = views_[&form];
+  const bool screen = area_ && IsScreen(form);
+  if (view == nullptr) {
+    const Qt::WindowFlags window =
+        Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+    view = screen ? new FormView(form.Self(), area_)
+                  : new FormView(form.Self(), area_ ? area_->window() : nullptr, window);
+  }
+  if (screen) {
+    area_->Bring(*view);
+  } else {
+    view->setWindowModality(form.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
+    view->move(Scale::Px(form.Left), Scale::Px(form.Top));
+    view->show();
+  }
+  Settle();
+}
+
+void QtRuntime::HideView(Form& form) {
+  FormView* const view = ViewOf(form);
+  if (view == nullptr) return;
+  if (area_ && !view->isWindow()) {
+    area_->Remove(*view);
+  } else {
+    view->hide();
+  }
+}
+
+void QtRuntime::FormHappened(Happening what, Form& form) {
+  switch (what) {
+    case Happening::Load:
+      break;
+    case Happening::Show:
+      ShowView(form);
+      break;
+    case Happening::Hide:
+      HideView(form);
+      break;
+    case Happening::Unload:
+      HideView(form);
+      // The act that closed the form may have come from its own window.
+      if (FormView* view = ViewOf(form)) view->deleteLater();
+      views_.erase(&form);
+      break;
+  }
+}
+
+void QtRuntime::Settle() {
+  const FormPtr top = ActiveForm();
+  FormView* const view = top ? ViewOf(*top) : nullptr;
+  if (top_.lock() != top) {
+    top_ = top;
+    if (view != nullptr && !view->isWindow() && area_) area_->Bring(*view);
+    QWidget* const window = view != nullptr ? view->window() : area_ ? area_->window() : nullptr;
+    if (window != nullptr && window->isVisible()) {
+      window->raise();
+      window->activateWindow();
+    }
+    if (OnTopChanged) OnTopChanged();
+  }
+  if (view != nullptr) view->Settle();
+}
+
+void QtRuntime::PointerChanged(int pointer) {
+  if (pointer == kPointerDefault) {
+    QApplication::restoreOverrideCursor();
+  } else if (QApplication::overrideCursor() == nullptr) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  }
+}
+
+void QtRuntime::Repaint() {
+  Settle();
+  Acts::LetPaint();
+}
+
+void QtRuntime::Wait(const std::function<bool()>& done) {
+  ++waits_;
+  const PointerRest rest(*this);
+  QEventLoop loop;
+  Settle();
+  while (!done()) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  --waits_;
+}
+
+}  // namespace quillon

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "desk/print/PdfPrinter.h"
+#include "desk/print/PrintObserver.h"
+#include "host/forms/Runtime.h"
+
+class QWidget;
+
+namespace quillon {
+
+class DeskArea;
+class FormView;
+
+/// The runtime with windows: full screens lie in the desk's area, other forms are windows of their own, and
+/// the questions are dialogs.
+class QtRuntime : public Runtime, private PrintObserver {
+ public:
+  /// Print jobs leave their PDF in the folder.
+  explicit QtRuntime(std::string outputFolder);
+  ~QtRuntime() override;
+
+  /// Where full screens go; without one they are windows too. The area outlives the forms, or is taken back
+  /// by nothing.
+  void SetArea(DeskArea* area) { area_ = area; }
+
+  /// Called when a long job begins or ends, with its text, and when another form has come to the top.
+  std::function<void(bool on, const std::string& text)> OnBusy;
+  std::function<void()> OnTopChanged;
+
+  /// Called with the words for how far a job has come, and with none at its end.
+  std::function<void(const std::string& text)> OnProgress;
+
+  /// Nothing for a form that is not shown.
+  FormView* ViewOf(const Form& form) const;
+  FormView* TopView() const;
+
+  /// The window that a dialog stands on.
+  QWidget* TopWindow() const;
+
+  /// Whether a handler waits for a window, so that the desk must stay.
+  bool IsWaiting() const { return waits_ > 0; }
+
+  /// All windows anew, after the zoom has changed.
+  void Replace();
+
+  long ScreenWidth() const override;
+  long ScreenHeight() const override;
+  void Beep() override;
+  void ShowBusy(bool on, const std::string& text) override;
+  void ShowProgress(const std::string& text, std::int64_t done, std::int64_t whole) override;
+  void HideProgress() override;
+  long TextWidth(const Font& font, const std::string& text) const override;
+  std::string ClipboardText() const override;
+  void SetClipboardText(const std::string& text) override;
+  IPrinter& Printer() override { return printer_; }
+  std::vector<std::string> Printers() const override;
+  int AskMessage(const MessageRequest& request) override;
+  bool AskInput(const InputRequest& request, std::string& reply) override;
+  bool AskFile(const FileRequest& request, std::string& path) override;
+  bool AskFont(Font& font) override;
+  bool AskDate(DateRequest& request) override;
+  bool AskPick(const CPickList& list, std::size_t& item) override;
+  bool AskParties(PartiesRequest& request) override;
+  bool AskPrint(PrintSetup& setup) override;
+  int AskPopup(Form& form, Menu& menu, long left, long top) override;
+  void TellError(const std::string& routine, Form* form, const std::string& text) override;
+
+ protected:
+  void FormHappened(Happening what, Form& form) override;
+  void PointerChanged(int pointer) override;
+  void Repaint() override;
+  void Wait(const std::function<bool()>& done) override;
+
+ private:
+  /// While a person is asked, the pointer of the job that asks rests.
+  class PointerRest {
+   public:
+    explicit PointerRest(Runtime& runtime) : runtime_(runtime), before_(runtime.MousePointer()) {
+      runtime_.SetMousePointer(kPointerDefault);
+    }
+    PointerRest(const PointerRest&) = delete;
+    PointerRest& operator=(const PointerRest&) = delete;
+    ~PointerRest() { runtime_.SetMousePointer(before_); }
+
+   private:
+    Runtime& runtime_;
+    int before_;
+  };
+
+  void OnText(int, double, double, const std::string&, const Font&) override {}
+  void OnPrinted(const std::string& file, int pages, int paper, int orientation) override;
+  void ShowView(Form& form);
+  void HideView(Form& form);
+  void Settle();
+
+  PdfPrinter printer_;
+  DeskArea* area_ = nullptr;
+  std::map<const Form*, FormView*> views_;
+  std::weak_ptr<Form> top_;
+  int waits_ = 0;
+};
+
+}  // namespace quillon

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "host/controls/Control.h"
+
+namespace quillon {
+
+/// Controls of one kind under one name, told apart by index; indexes may have gaps.
+template <class T>
+class ControlArray {
+ public:
+  ControlArray(Control& parent, const std::string& name, std::initializer_list<int> indexes) {
+    for (const int index : indexes) items_.emplace(index, std::make_unique<T>(parent, name, index));
+  }
+
+  /// Throws SubscriptError for an index in a gap.
+  T& operator()(int index) {
+    const auto item = items_.find(index);
+    if (item == items_.end()) throw SubscriptError(std::to_string(index));
+    return *item->second;
+  }
+
+  auto begin() { return items_.begin(); }
+  auto end() { return items_.end(); }
+
+ private:
+  std::map<int, std::unique_ptr<T>> items_;
+};
+
+}  // namespace quillon

@@ -1,0 +1,369 @@
+#include "host/controls/GridModel.h"
+
+#include <algorithm>
+
+#include "host/forms/Form.h"
+#include "host/values/Text.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr int kPageRows = 20;
+
+const std::vector<GridModel::Paint> kNoPaint;
+
+}  // namespace
+
+GridModel::GridModel(Control& parent, std::string name, int index, bool listed)
+    : Control(parent, std::move(name), index, listed), rows_(2), columns_(2) {}
+
+void GridModel::RequireRow(int row) const {
+  if (row < 0 || row >= Rows) throw SubscriptError(Name() + " row " + std::to_string(row));
+}
+
+void GridModel::RequireCol(int col) const {
+  if (col < 0 || col >= Cols) throw SubscriptError(Name() + " column " + std::to_string(col));
+}
+
+const GridModel::ColumnData& GridModel::Column(int col) const {
+  RequireCol(col);
+  return columns_[static_cast<std::size_t>(col)];
+}
+
+GridModel::ColumnData& GridModel::Column(int col) {
+  RequireCol(col);
+  return columns_[static_cast<std::size_t>(col)];
+}
+
+const GridModel::RowData& GridModel::Data(int row) const {
+  RequireRow(row);
+  return rows_[static_cast<std::size_t>(row)];
+}
+
+GridModel::RowData& GridModel::Data(int row) {
+  RequireRow(row);
+  return rows_[static_cast<std::size_t>(row)];
+}
+
+GridModel::RowExtra& GridModel::Extra(int row) {
+  RowData& data = Data(row);
+  if (!data.extra) data.extra = std::make_unique<RowExtra>();
+  return *data.extra;
+}
+
+std::string_view GridModel::Cell(int row, int col) const {
+  const RowData& data = Data(row);
+  RequireCol(col);
+  const auto at = static_cast<std::size_t>(col);
+  return at < data.cells.size() ? data.cells[at].View() : std::string_view();
+}
+
+void GridModel::SetTextMatrix(int row, int col, std::string_view text) {
+  RowData& data = Data(row);
+  RequireCol(col);
+  const auto at = static_cast<std::size_t>(col);
+  if (at >= data.cells.size()) {
+    if (text.empty()) return;
+    if (data.cells.empty()) data.cells.reserve(columns_.size());
+    data.cells.resize(at + 1);
+  }
+  data.cells[at] = CellText(text);
+  Touched();
+}
+
+void GridModel::SetColWidth(int col, long width) {
+  Column(col).width = width;
+  Touched();
+}
+
+void GridModel::SetColAlignment(int col, int alignment) {
+  Column(col).alignment = alignment;
+  Touched();
+}
+
+int GridModel::HeadingAlignment(int col) const {
+  const ColumnData& column = Column(col);
+  return column.headingAlignment >= 0 ? column.headingAlignment : column.alignment;
+}
+
+void GridModel::SetHeadingAlignment(int col, int alignment) {
+  Column(col).headingAlignment = alignment;
+  Touched();
+}
+
+long GridModel::RowHeight(int row) const {
+  const long own = Data(row).height;
+  return own >= 0 ? own : std::max(kDefaultRowHeight, RowHeightMin());
+}
+
+void GridModel::SetRowHeight(int row, long height) {
+  Data(row).height = height;
+  Touched();
+}
+
+void GridModel::HideAllColumns() {
+  for (ColumnData& column : columns_) column.width = 0;
+  Touched();
+}
+
+void GridModel::Clear() {
+  for (std::size_t row = static_cast<std::size_t>(FixedRows()); row < rows_.size(); ++row) {
+    rows_[row].cells.clear();
+    rows_[row].extra.reset();
+  }
+  Touched();
+}
+
+void GridModel::AddItem(std::string_view tabbedText) {
+  const int row = Rows;
+  Rows = row + 1;
+  const std::vector<std::string> parts = text::Split(tabbedText, "\t");
+  for (int col = 0; col < std::min(Cols(), static_cast<int>(parts.size())); ++col) {
+    SetTextMatrix(row, col, parts[static_cast<std::size_t>(col)]);
+  }
+}
+
+void GridModel::RemoveItem(int row) {
+  RequireRow(row);
+  rows_.erase(rows_.begin() + row);
+  Rows.PutSilently(Rows - 1);
+  ClampCursor();
+  Touched();
+}
+
+void GridModel::CopyLayout(const GridModel& other) {
+  Cols = other.Cols();
+  FixedRows = other.FixedRows();
+  Font = other.Font();
+  RowHeightMin = other.RowHeightMin();
+  columns_ = other.columns_;
+  const int titles = std::min({FixedRows(), Rows(), other.Rows()});
+  for (int row = 0; row < titles; ++row) {
+    CopyRow(row, other, row);
+    Data(row).height = other.Data(row).height;
+  }
+  Touched();
+}
+
+void GridModel::CopyRow(int row, const GridModel& other, int otherRow) {
+  RowData& data = Data(row);
+  data.cells = other.Data(otherRow).cells;
+  if (data.cells.size() > columns_.size()) data.cells.resize(columns_.size());
+  Touched();
+}
+
+void GridModel::PaintRow(int row, const Paint& paint) {
+  std::vector<Paint>& paints = Extra(row).paints;
+  std::erase_if(paints, [&](const Paint& old) {
+    return old.firstCol >= paint.firstCol && old.lastCol <= paint.lastCol;
+  });
+  if (paint.backColor != kDefaultColor || paint.foreColor != kDefaultColor) paints.push_back(paint);
+  Touched();
+}
+
+const std::vector<GridModel::Paint>& GridModel::Paints(int row) const {
+  const RowData& data = Data(row);
+  return data.extra ? data.extra->paints : kNoPaint;
+}
+
+bool GridModel::CellFontUnderline(int row, int col) const {
+  const RowData& data = Data(row);
+  const auto at = static_cast<std::size_t>(col);
+  return data.extra && at < data.extra->underlined.size() && data.extra->underlined[at];
+}
+
+void GridModel::SetCellFontUnderline(int row, int col, bool underline) {
+  RequireCol(col);
+  RowExtra& extra = Extra(row);
+  extra.underlined.resize(columns_.size());
+  extra.underlined[static_cast<std::size_t>(col)] = underline;
+  Touched();
+}
+
+int GridModel::VisibleRowFrom(int row, int step) const {
+  for (; row >= FixedRows && row < Rows; row += step) {
+    if (IsRowVisible(row)) return row;
+  }
+  return 0;
+}
+
+bool GridModel::HandleKey(const KeyEvent& key) {
+  const bool ctrl = key.Shift == keys::kCtrl;
+  if (key.Shift != 0 && !ctrl) return false;
+  const int last = Rows - 1;
+  int row = Row;
+  const auto step = [&](int count, int direction) {
+    for (int i = 0; i < count; ++i) {
+      const int next = VisibleRowFrom(row + direction, direction);
+      if (next != 0) row = next;
+    }
+  };
+  int col = Col;
+  const auto stepCol = [&](int direction) {
+    for (int next = col + direction; next >= 0 && next < Cols; next += direction) {
+      if (IsColVisible(next)) {
+        col = next;
+        return;
+      }
+    }
+  };
+  switch (key.KeyCode) {
+    case keys::kUp:
+      step(1, -1);
+      break;
+    case keys::kDown:
+      step(1, 1);
+      break;
+    case keys::kPageUp:
+      step(kPageRows, -1);
+      break;
+    case keys::kPageDown:
+      step(kPageRows, 1);
+      break;
+    case keys::kLeft:
+      stepCol(-1);
+      break;
+    case keys::kRight:
+      stepCol(1);
+      break;
+    case keys::kHome:
+      row = VisibleRowFrom(FixedRows, 1);
+      break;
+    case keys::kEnd:
+      row = VisibleRowFrom(last, -1);
+      break;
+    default:
+      return false;
+  }
+  if (row > 0) KeyMoveTo(row, col);
+  return true;
+}
+
+void GridModel::RequireUserCell(int row, int col) const {
+  RequireReachable();
+  const std::string called = FullName() + " row " + std::to_string(row);
+  if (row < FixedRows || row >= Rows || col < 0 || col >= Cols) {
+    throw Refused(called + ", column " + std::to_string(col) + " is no cell of the grid");
+  }
+  if (!IsRowVisible(row)) throw Refused(called + " is hidden");
+}
+
+void GridModel::UserMoveTo(int row, int col) {
+  RequireUserCell(row, col);
+  if (!OwnerForm().UserFocus(*this)) return;
+  KeyMoveTo(row, col);
+}
+
+void GridModel::KeyMoveTo(int row, int col) {
+  Row.PutSilently(row);
+  Col.PutSilently(col);
+  CursorMoved();
+}
+
+void GridModel::UserSelect(int row, int col, int rowSel, int colSel) {
+  RequireUserCell(rowSel, colSel);
+  UserMoveTo(row, col);
+  RowSel = rowSel;
+  ColSel = colSel;
+}
+
+void GridModel::UserDoubleClickRow(int row) {
+  UserMoveTo(row, Col);
+  DblClick.Raise();
+}
+
+void GridModel::UserDoubleClick() { UserDoubleClickRow(Row); }
+
+void GridModel::Touched() {
+  if (Redraw) ContentChanged();
+}
+
+void GridModel::ClampCursor() {
+  Row.PutSilently(std::min(Row(), Rows - 1));
+  RowSel.PutSilently(std::min(RowSel(), Rows - 1));
+  Col.PutSilently(std::min(Col(), Cols - 1));
+  ColSel.PutSilently(std::min(ColSel(), Cols - 1));
+  toldRow_ = std::min(toldRow_, Rows - 1);
+  toldCol_ = Col;
+}
+
+/// A cursor outside the cells goes back to where it was.
+void GridModel::RequireCursor() {
+  const int row = Row;
+  const int col = Col;
+  if (row < 0 || row >= Rows) Row.PutSilently(toldRow_);
+  if (col < 0 || col >= Cols) Col.PutSilently(toldCol_);
+  RequireRow(row);
+  RequireCol(col);
+}
+
+void GridModel::CursorMoved() {
+  RowSel.PutSilently(Row);
+  ColSel.PutSilently(Col);
+  toldCol_ = Col;
+  Touched();
+  RowColChange.Raise();
+  if (toldRow_ == Row) return;
+  toldRow_ = Row;
+  RowChange.Raise(Row);
+}
+
+void GridModel::PropertyChanged(const PropertyBase& property) {
+  if (&property == &Rows) {
+    if (const int asked = Rows; asked < 0) {
+      Rows.PutSilently(static_cast<int>(rows_.size()));
+      throw SubscriptError(Name() + " Rows " + std::to_string(asked));
+    }
+    rows_.resize(static_cast<std::size_t>(Rows()));
+    ClampCursor();
+  } else if (&property == &Cols) {
+    if (const int asked = Cols; asked < 0) {
+      Cols.PutSilently(static_cast<int>(columns_.size()));
+      throw SubscriptError(Name() + " Cols " + std::to_string(asked));
+    }
+    columns_.resize(static_cast<std::size_t>(Cols()));
+    for (RowData& row : rows_) {
+      if (row.cells.size() > columns_.size()) row.cells.resize(columns_.size());
+    }
+    ClampCursor();
+  } else if (&property == &Row || &property == &Col) {
+    RequireCursor();
+    CursorMoved();
+  }
+  if (&property == &Redraw || Redraw) Control::PropertyChanged(property);
+}
+
+Array GridModel::CellTexts(int first, int last, const std::vector<int>& cols) const {
+  Array rows;
+  for (int row = std::max(first, 0); row <= std::min(last, Rows - 1); ++row) {
+    Array cells;
+    if (cols.empty()) {
+      for (int col = 0; col < Cols; ++col) cells.emplace_back(TextMatrix(row, col));
+    } else {
+      for (const int col : cols) cells.emplace_back(TextMatrix(row, col));
+    }
+    rows.emplace_back(std::move(cells));
+  }
+  return rows;
+}
+
+Control::State GridModel::Describe() const {
+  State state = Control::Describe();
+  Array widths;
+  Array heights;
+  Array colors;
+  for (int col = 0; col < Cols; ++col) widths.emplace_back(ColWidth(col));
+  for (int row = 0; row < Rows; ++row) {
+    heights.emplace_back(RowHeight(row));
+    for (const Paint& paint : Paints(row)) {
+      colors.emplace_back(Array{row, paint.firstCol, paint.lastCol, paint.backColor, paint.foreColor});
+    }
+  }
+  state.emplace_back("colwidth", widths);
+  state.emplace_back("rowheight", heights);
+  state.emplace_back("colors", colors);
+  return state;
+}
+
+}  // namespace quillon

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vector>
+
+#include "host/controls/Control.h"
+
+namespace quillon {
+
+/// A surface that holds other controls; may be clicked.
+class PictureBox : public Control {
+ public:
+  using Control::Control;
+
+  const char* Kind() const override { return "PictureBox"; }
+
+  Property<int> BorderStyle{*this, "BorderStyle", 1};
+  Event<> Click;
+
+  bool CanTakeFocus() const override { return false; }
+  void UserClick() override {
+    RequireReachable();
+    Click.Raise();
+  }
+};
+
+}  // namespace quillon

@@ -1,0 +1,28 @@
+#pragma once
+
+/// The controls of the host: what a form is made of.
+
+#include "host/controls/CButton.h"
+#include "host/controls/CButtonBar.h"
+#include "host/controls/CEditGrid.h"
+#include "host/controls/CGridPlus.h"
+#include "host/controls/CMStrip.h"
+#include "host/controls/CPeriod.h"
+#include "host/controls/CSelGrid.h"
+#include "host/controls/CStdButtons.h"
+#include "host/controls/CTextPlus.h"
+#include "host/controls/CheckBox.h"
+#include "host/controls/ComboBox.h"
+#include "host/controls/CommandButton.h"
+#include "host/controls/ControlArray.h"
+#include "host/controls/Frame.h"
+#include "host/controls/Label.h"
+#include "host/controls/ListBox.h"
+#include "host/controls/MSChart.h"
+#include "host/controls/MSHFlexGrid.h"
+#include "host/controls/Menu.h"
+#include "host/controls/OptionButton.h"
+#include "host/controls/PictureBox.h"
+#include "host/controls/ScrollBar.h"
+#include "host/controls/TextBox.h"
+#include "host/forms/Form.h"

@@ -1,0 +1,192 @@
+#include "host/forms/Runtime.h"
+
+#include <algorithm>
+#include <map>
+
+#include "host/values/ErrorText.h"
+#include "host/values/Text.h"
+
+namespace quillon {
+
+Runtime* gRuntime = nullptr;
+
+namespace {
+
+const std::map<std::string, int, std::less<>> kNamedKeys = {
+    {"BACKSPACE", keys::kBack}, {"TAB", keys::kTab},       {"ENTER", keys::kEnter}, {"ESC", keys::kEscape},
+    {"PGUP", keys::kPageUp},    {"PGDN", keys::kPageDown}, {"END", keys::kEnd},     {"HOME", keys::kHome},
+    {"LEFT", keys::kLeft},      {"UP", keys::kUp},         {"RIGHT", keys::kRight}, {"DOWN", keys::kDown},
+    {"DEL", keys::kDelete}};
+
+}  // namespace
+
+Runtime::Runtime() { gRuntime = this; }
+
+Runtime::~Runtime() {
+  if (gRuntime == this) gRuntime = nullptr;
+}
+
+void Runtime::Load(const FormPtr& form) {
+  if (form->IsLoaded()) return;
+  loaded_.push_back(form);
+  FormHappened(Happening::Load, *form);
+  try {
+    form->RunLoad();
+  } catch (...) {
+    // Half a form is none: the next attempt loads it again.
+    End(*form);
+    throw;
+  }
+}
+
+void Runtime::Show(const FormPtr& form, bool modal, const FormPtr&) {
+  Load(form);
+  if (!form->IsLoaded()) return;  // Load may have unloaded it
+  std::erase(shown_, form);
+  shown_.push_back(form);
+  form->SetShown(true, modal);
+  FormHappened(Happening::Show, *form);
+  UpdateActive();
+  if (form->IsShownToUser()) form->FocusFirst();
+  if (modal) RunModal(form);
+}
+
+void Runtime::RunModal(const FormPtr& form) {
+  DeliverKeys();
+  Wait([&form] { return !form->IsShownToUser(); });
+}
+
+void Runtime::WaitWhileVisible(Form& form) {
+  const FormPtr alive = form.Self();
+  Wait([&form] { return !form.IsShownToUser(); });
+}
+
+void Runtime::Hide(Form& form) {
+  if (!form.IsShownToUser()) return;
+  const FormPtr alive = form.Self();
+  std::erase(shown_, alive);
+  form.SetShown(false, false);
+  FormHappened(Happening::Hide, form);
+  UpdateActive();
+}
+
+bool Runtime::Unload(Form& form, UnloadMode mode) {
+  if (!form.IsLoaded()) return true;
+  const FormPtr alive = form.Self();
+  if (!form.RunQueryUnload(mode)) return false;
+  if (!form.IsLoaded()) return true;
+  try {
+    form.RunUnload();
+  } catch (...) {
+    // A form that fails to clean up goes all the same; the services behind it may be gone next.
+    End(form);
+    throw;
+  }
+  End(form);
+  return true;
+}
+
+void Runtime::End(Form& form) {
+  const FormPtr alive = form.Self();
+  form.EndLife();
+  std::erase(loaded_, alive);
+  std::erase(shown_, alive);
+  form.SetShown(false, false);
+  FormHappened(Happening::Unload, form);
+  UpdateActive();
+}
+
+std::vector<FormPtr> Runtime::Forms(Form::Origin origin) const {
+  std::vector<FormPtr> forms;
+  std::copy_if(loaded_.begin(), loaded_.end(), std::back_inserter(forms),
+               [origin](const FormPtr& form) { return form->FormOrigin() == origin; });
+  return forms;
+}
+
+FormPtr Runtime::ActiveForm() const {
+  const auto modal =
+      std::find_if(shown_.rbegin(), shown_.rend(), [](const FormPtr& form) { return form->IsModal(); });
+  if (modal != shown_.rend()) return *modal;
+  return shown_.empty() ? nullptr : shown_.back();
+}
+
+bool Runtime::IsCovered(const Form& form) const {
+  const FormPtr top = ActiveForm();
+  return top && top->IsModal() && top.get() != &form;
+}
+
+void Runtime::BringToFront(Form& form) {
+  const FormPtr alive = form.Self();
+  if (std::erase(shown_, alive) > 0) shown_.push_back(alive);
+  UpdateActive();
+}
+
+void Runtime::UpdateActive() {
+  const FormPtr top = ActiveForm();
+  if (top == active_.lock()) return;
+  active_ = top;
+  if (top) top->RunActivate();
+}
+
+void Runtime::Act(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const Refused&) {
+    throw;
+  } catch (const std::exception& error) {
+    TellError("", ActiveForm().get(), ErrorText(error));
+  }
+}
+
+void Runtime::DoEvents() {
+  DeliverKeys();
+  Repaint();
+}
+
+void Runtime::SendKeys(const std::string& keys) {
+  for (std::size_t at = 0; at < keys.size();) {
+    const std::size_t close = keys[at] == '{' ? keys.find('}', at + 2) : std::string::npos;
+    const std::size_t bytes = close != std::string::npos ? close - at + 1 : text::CharBytes(keys, at);
+    keys_.push_back(keys.substr(at, bytes));
+    at += bytes;
+  }
+}
+
+void Runtime::DeliverKeys() {
+  while (!keys_.empty()) {
+    const std::string key = keys_.front();
+    keys_.pop_front();
+    Press(key);
+  }
+}
+
+void Runtime::Press(const std::string& key) {
+  const FormPtr form = ActiveForm();
+  if (!form) return;
+  int code = 0;
+  int character = 0;
+  if (key.size() > 2 && key.front() == '{') {
+    const std::string name = text::Upper(key.substr(1, key.size() - 2));
+    if (const auto named = kNamedKeys.find(name); named != kNamedKeys.end()) {
+      code = named->second;
+      if (code == keys::kEnter || code == keys::kTab || code == keys::kBack) character = code;
+    } else if (name.front() == 'F' && name.size() > 1) {
+      code = keys::kF1 + static_cast<int>(ValInteger(name.substr(1))) - 1;
+    } else {
+      character = text::CodePoint(name);
+    }
+  } else {
+    character = text::CodePoint(key);
+  }
+  if (code == 0) code = CodeOfCharacter(character);
+  if (character == keys::kTab) character = 0;
+  Act([&] { form->UserKey(code, 0, character); });
+}
+
+void Runtime::SetMousePointer(int pointer) {
+  if (pointer_ == pointer) return;
+  pointer_ = pointer;
+  PointerChanged(pointer);
+}
+
+}  // namespace quillon

@@ -1,0 +1,191 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/forms/Form.h"
+#include "host/values/Date.h"
+
+namespace quillon {
+
+class CPickList;
+class IPrinter;
+class Menu;
+class PrintSetup;
+
+/// A message box as it is asked for. Buttons count from 1.
+struct MessageRequest {
+  std::string Text;
+  std::string Icon;  ///< "Q", "W", "I", "E" or empty
+  std::vector<std::string> Buttons;
+  std::string Title;
+  int Default = 1;
+};
+
+struct InputRequest {
+  std::string Prompt;
+  std::string Title;
+  std::string Text;  ///< what the box starts with
+};
+
+struct FileRequest {
+  bool Save = false;
+  std::string Title;
+  std::string Filter;  ///< "XML Files (*.xml)|*.xml|All Files (*.*)|*.*"
+  std::string Path;
+};
+
+struct DateRequest {
+  std::string Title;
+  std::string Caption;
+  bool Single = false;
+  Date First;
+  Date Second;
+};
+
+struct PartiesRequest {
+  std::string Alias = "b";
+  std::string Clause;
+  std::string Caption;
+  std::string OrderBy;
+  std::string JoinCnd;
+};
+
+/// Shapes of the mouse pointer that the forms use.
+inline constexpr int kPointerDefault = 0;
+inline constexpr int kPointerBusy = 11;
+
+/// The forms runtime: carries every form through its life, keeps the order of the shown forms, delivers
+/// queued keys, and asks the user. A maker (the window, the driver) supplies the waiting and the asking.
+class Runtime {
+ public:
+  Runtime();
+  Runtime(const Runtime&) = delete;
+  Runtime& operator=(const Runtime&) = delete;
+  virtual ~Runtime();
+
+  // --- Forms
+  // -------------------------------------------------------------------------------------------------
+
+  /// Runs the form's Load once.
+  void Load(const FormPtr& form);
+
+  /// Loads and shows; a modal show returns when the form is hidden or unloaded.
+  void Show(const FormPtr& form, bool modal = false, const FormPtr& owner = nullptr);
+
+  /// Ends a modal show and keeps the form loaded.
+  void Hide(Form& form);
+
+  /// False when the form refused in its QueryUnload.
+  bool Unload(Form& form, UnloadMode mode = UnloadMode::Code);
+
+  /// The loaded forms of one origin, in the order of loading.
+  std::vector<FormPtr> Forms(Form::Origin origin) const;
+  std::vector<FormPtr> AllForms() const { return loaded_; }
+
+  /// The modal form on top, otherwise the form shown last; nothing when none is shown.
+  FormPtr ActiveForm() const;
+
+  /// Whether a modal form on top keeps the user from this one.
+  bool IsCovered(const Form& form) const;
+
+  /// Brings a shown form to the front.
+  void BringToFront(Form& form);
+
+  /// Waits while a modeless window that a handler opened is on the screen.
+  void WaitWhileVisible(Form& form);
+
+  // --- Events
+  // ------------------------------------------------------------------------------------------------
+
+  /// Runs what a person did: an error that no handler caught is reported, the event abandoned. Refused
+  /// passes.
+  void Act(const std::function<void()>& act);
+
+  /// Lets queued keys and repaints through.
+  void DoEvents();
+
+  /// Queues keys: plain characters and "{TAB}", "{ENTER}", "{ESC}", "{F7}" …; they go to the form on top when
+  /// the event at hand is over, or at the next DoEvents.
+  void SendKeys(const std::string& keys);
+  void DeliverKeys();
+
+  // --- Screen
+  // ------------------------------------------------------------------------------------------------
+
+  static constexpr long kTwipsPerPixel = 15;
+
+  int MousePointer() const { return pointer_; }
+  void SetMousePointer(int pointer);
+  virtual long ScreenWidth() const = 0;   ///< twips
+  virtual long ScreenHeight() const = 0;  ///< twips
+  virtual void Beep() = 0;
+
+  /// The busy state of a long job comes with its text, or goes.
+  virtual void ShowBusy(bool on, const std::string& text) = 0;
+
+  /// How far a long job has come; `whole` is 0 where that is not known. The windows repaint.
+  virtual void ShowProgress(const std::string& /*text*/, std::int64_t /*done*/, std::int64_t /*whole*/) {}
+  virtual void HideProgress() {}
+
+  /// The width of a text in twips; both runtimes and the printer measure alike.
+  virtual long TextWidth(const Font& font, const std::string& text) const = 0;
+  virtual std::string ClipboardText() const = 0;
+  virtual void SetClipboardText(const std::string& text) = 0;
+
+  // --- Printer
+  // -----------------------------------------------------------------------------------------------
+
+  virtual IPrinter& Printer() = 0;
+  virtual std::vector<std::string> Printers() const = 0;
+
+  // --- Asking
+  // ------------------------------------------------------------------------------------------------
+
+  /// The number of the button taken.
+  virtual int AskMessage(const MessageRequest& request) = 0;
+  virtual bool AskInput(const InputRequest& request, std::string& reply) = 0;
+  virtual bool AskFile(const FileRequest& request, std::string& path) = 0;
+  virtual bool AskFont(Font& font) = 0;
+  virtual bool AskDate(DateRequest& request) = 0;
+  virtual bool AskPick(const CPickList& list, std::size_t& item) = 0;
+  virtual bool AskParties(PartiesRequest& request) = 0;
+  virtual bool AskPrint(PrintSetup& setup) = 0;
+
+  /// The item taken, counted from 0; below 0 when the menu was left.
+  virtual int AskPopup(Form& form, Menu& menu, long left, long top) = 0;
+
+  /// What rose to the runtime, or reached gApp->ReportError with the name of its routine.
+  virtual void TellError(const std::string& routine, Form* form, const std::string& text) = 0;
+
+ protected:
+  enum class Happening { Load, Show, Hide, Unload };
+
+  /// For the log of a driver and the windows of a desk.
+  virtual void FormHappened(Happening /*what*/, Form& /*form*/) {}
+  virtual void PointerChanged(int /*pointer*/) {}
+  virtual void Repaint() {}
+
+  /// Handles the user's acts until `done` says so.
+  virtual void Wait(const std::function<bool()>& done) = 0;
+
+ private:
+  void End(Form& form);
+  void UpdateActive();
+  void RunModal(const FormPtr& form);
+  void Press(const std::string& name);
+
+  std::vector<FormPtr> loaded_;
+  std::vector<FormPtr> shown_;  // the form shown last is the last
+  std::weak_ptr<Form> active_;
+  std::deque<std::string> keys_;
+  int pointer_ = kPointerDefault;
+};
+
+extern Runtime* gRuntime;
+
+}  // namespace quillon

@@ -1,0 +1,115 @@
+#include "host/forms/ScreenForm.h"
+
+#include <utility>
+
+#include "host/forms/Runtime.h"
+#include "host/services/IApp.h"
+#include "host/services/ISession.h"
+#include "host/services/IStd.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr long kTitleHeight = 420;
+constexpr long kStripHeight = 360;
+constexpr long kBarHeight = 510;
+constexpr long kStandardButtonsWidth = 1200;
+
+/// The keys that belong to the host while Shift, Ctrl or Alt is held.
+bool IsHotKey(const KeyEvent& key) {
+  return key.Shift != 0 && (key.KeyCode == keys::kTab || (key.KeyCode >= 48 && key.KeyCode <= 105));
+}
+
+}  // namespace
+
+ScreenForm::ScreenForm(const ScreenSpec& spec, Origin origin)
+    : Form(spec.className, origin),
+      lblTitle(*this, "lblTitle"),
+      MStrip1(*this, "MStrip1"),
+      BtnBar1(*this, "BtnBar1"),
+      QuillonStdButtons1(*this, "QuillonStdButtons1"),
+      spec_(spec) {
+  lblTitle.Caption = spec.caption;
+  Caption = spec.registerTitle;
+  BtnBar1.ButtonPressed = [this](int index) {
+    if (BtnBar1.Buttons(index).Enabled()) ButtonPressed(index);
+  };
+  QuillonStdButtons1.ButtonClick = [this](int index, bool& cancel) {
+    if (index == CStdButtons::kExit) ExitPressed(cancel);
+  };
+}
+
+void ScreenForm::SetColumnsInChars(GridModel& grid, std::initializer_list<ColumnSpec> columns) {
+  const long unit = gRuntime->TextWidth(grid.Font, "9");
+  for (const ColumnSpec& column : columns) {
+    gStd->SetGridColumn(grid, column.column, column.title, static_cast<double>(column.chars * unit),
+                        column.alignment);
+  }
+}
+
+long ScreenForm::ContentTop() const { return MStrip1.Top + MStrip1.Height; }
+
+long ScreenForm::ContentBottom() const { return BtnBar1.Top; }
+
+void ScreenForm::PlaceFrame() {
+  Move(gSession->FormLeft(), gSession->FormTop(), gSession->FormWidth(), gSession->FormHeight());
+  lblTitle.Move(0, 0, Width, kTitleHeight);
+  QuillonStdButtons1.Move(Width - kStandardButtonsWidth, 0, kStandardButtonsWidth, kTitleHeight);
+  MStrip1.Move(0, kTitleHeight, Width, kStripHeight);
+  BtnBar1.Move(0, Height - kBarHeight, Width, kBarHeight);
+}
+
+void ScreenForm::OnLoad() {
+  if (spec_.initForm) gApp->InitForm(*this);
+  PlaceFrame();
+  if (CallingForm && *spec_.titleSuffix != '\0') {
+    lblTitle.Caption = dynamic_cast<Label&>(CallingForm->ControlAt("lblTitle")).Caption + spec_.titleSuffix;
+  }
+  BtnBar1.RemoveButtons();
+  BuildBar();
+  LoadScreen();
+}
+
+void ScreenForm::OnActivate() {
+  if (!firstShowing_) return;
+  firstShowing_ = false;
+  bool denied = false;
+  if (*spec_.rightKey != '\0' && gApp->CheckRight(spec_.rightKey, "N", denied)) {
+    gRuntime->Unload(*this);
+    return;
+  }
+  FirstShow();
+  if (!IsLoaded()) return;
+  if (!QuillonForm && *spec_.registerTitle != '\0') {
+    gApp->RegisterForm(*this, spec_.registerTitle, spec_.iconKey);
+    registered_ = true;
+  }
+  if (GridModel* grid = MainGrid(); grid != nullptr) grid->SetFocus();
+}
+
+void ScreenForm::OnUnload() {
+  firstShowing_ = true;
+  if (std::exchange(registered_, false)) gApp->UnregisterForm(*this);
+  UnloadScreen();
+}
+
+void ScreenForm::OnKeyDown(KeyEvent& key) {
+  if (IsHotKey(key)) {
+    gApp->FormKeyDown(key.KeyCode, key.Shift, *this);
+    return;
+  }
+  if (key.Shift != 0 || key.KeyCode < spec_.firstKey || key.KeyCode > spec_.lastKey) return;
+  const int index = key.KeyCode - spec_.firstKey;
+  key.KeyCode = 0;
+  if (index < BtnBar1.Count() && BtnBar1.IsReachable()) BtnBar1.Buttons(index).Click();
+}
+
+void ScreenForm::OnKeyPress(int& character) {
+  if (character != keys::kEnter) return;
+  if (ActiveControl() != nullptr && ActiveControl()->KeepsEnter()) return;
+  gStd->SendKeys("{TAB}");
+  character = 0;
+}
+
+}  // namespace quillon

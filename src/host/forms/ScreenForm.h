@@ -1,0 +1,89 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+
+#include "host/controls/CButtonBar.h"
+#include "host/controls/CMStrip.h"
+#include "host/controls/CStdButtons.h"
+#include "host/controls/GridModel.h"
+#include "host/controls/Label.h"
+#include "host/forms/Form.h"
+
+namespace quillon {
+
+/// What a full-size screen states of itself; the rest is the same for all of them.
+struct ScreenSpec {
+  const char* className;
+  const char* caption;  ///< of lblTitle as designed
+  const char*
+      titleSuffix;  ///< behind the caller's title, e.g. " -> Reconciliation"; empty leaves the design caption
+  const char* rightKey;       ///< checked with "N" at the first activation; empty asks for none
+  const char* registerTitle;  ///< in the host's list of open windows; empty keeps out of it
+  const char* iconKey;
+  int firstKey = 0;  ///< the function key of button 0
+  int lastKey = 0;   ///< the last function key that presses a button
+  bool initForm = false;
+};
+
+/// A full-size screen: its area, title, bar of F keys, rights and registration, Enter as Tab, Esc as Exit and
+/// the host's hot keys.
+class ScreenForm : public Form {
+ public:
+  Label lblTitle;
+  CMStrip MStrip1;
+  CButtonBar BtnBar1;
+  CStdButtons QuillonStdButtons1;
+
+ protected:
+  ScreenForm(const ScreenSpec& spec, Origin origin);
+
+  /// Load: the bar's buttons, then the screen's own controls and data. The form has its place and title
+  /// already.
+  virtual void BuildBar() = 0;
+  virtual void LoadScreen() = 0;
+
+  /// The first activation, after the right was checked; the form may unload itself here. Afterwards it is
+  /// registered.
+  virtual void FirstShow() {}
+  virtual void ButtonPressed(int index) = 0;
+
+  /// The Exit button, Esc too; cancel keeps the form.
+  virtual void ExitPressed(bool& /*cancel*/) {}
+  virtual void UnloadScreen() {}
+
+  /// Takes the focus after the first activation.
+  virtual GridModel* MainGrid() { return nullptr; }
+
+  /// Clicks the standard Exit button.
+  void PressExit() { QuillonStdButtons1.Buttons(CStdButtons::kExit).Click(); }
+
+  /// A column of a grid as a screen states it; the width in characters, which are as wide as the "9" of the
+  /// grid's font.
+  struct ColumnSpec {
+    int column;
+    const char* title;
+    int chars;
+    int alignment;
+  };
+  static void SetColumnsInChars(GridModel& grid, std::initializer_list<ColumnSpec> columns);
+
+  /// Twips; where the screen's own controls begin and end.
+  long ContentTop() const;
+  long ContentBottom() const;
+
+  void OnLoad() override;
+  void OnActivate() override;
+  void OnUnload() override;
+  void OnKeyDown(KeyEvent& key) override;
+  void OnKeyPress(int& character) override;
+
+ private:
+  void PlaceFrame();
+
+  const ScreenSpec& spec_;
+  bool firstShowing_ = true;
+  bool registered_ = false;
+};
+
+}  // namespace quillon

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+
+#include "host/values/Font.h"
+
+namespace quillon {
+
+/// The printer. Positions are twips from the page's top left corner; a text lands with its top left at
+/// CurrentX and CurrentY. A job begins with the first Print or NewPage and ends with EndDoc.
+class IPrinter {
+ public:
+  static constexpr int kA4 = 9;
+  static constexpr int kPortrait = 1;
+  static constexpr int kLandscape = 2;
+
+  IPrinter() = default;
+  IPrinter(const IPrinter&) = delete;
+  IPrinter& operator=(const IPrinter&) = delete;
+  virtual ~IPrinter() = default;
+
+  /// The device that jobs go to; empty leaves a PDF.
+  std::string DeviceName;
+  int PaperSize = kA4;
+  int Orientation = kPortrait;
+  quillon::Font Font;
+  double CurrentX = 0;
+  double CurrentY = 0;
+
+  /// Twips, in the current font.
+  virtual double TextWidth(const std::string& text) const = 0;
+  virtual double TextHeight(const std::string& text) const = 0;
+
+  /// Inches to twips.
+  static double ScaleX(double inches) { return inches * 1440; }
+
+  /// With a line end CurrentY moves down one line and CurrentX to 0; without one CurrentX moves behind the
+  /// text.
+  virtual void Print(const std::string& text, bool lineEnd = true) = 0;
+  virtual void NewPage() = 0;
+
+  /// Finishes the job; throws HostError when the file cannot be written.
+  virtual void EndDoc() = 0;
+  virtual void KillDoc() = 0;
+};
+
+}  // namespace quillon

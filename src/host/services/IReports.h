@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include "host/services/CReportOptions.h"
+#include "host/services/PrintSetup.h"
+
+namespace quillon {
+
+class GridModel;
+
+/// The report window: a filled grid laid out on pages.
+class IReports {
+ public:
+  IReports() = default;
+  IReports(const IReports&) = delete;
+  IReports& operator=(const IReports&) = delete;
+  virtual ~IReports() = default;
+
+  /// Shows the grid as a report, with the footer that a CGridPlus has. `print` false opens the preview, true
+  /// prints. `value` is the ruling asked for (-1 the host's own). `optionText` is "Name=Value,Name=Value".
+  virtual void ShowGrid(GridModel& grid, CReportOptions* options, const std::string& title,
+                        const std::string& subtitle, int value, bool print, const std::string& heading = "",
+                        const std::string& optionText = "") = 0;
+
+  /// The print dialog; `what` is "Print".
+  virtual PrintSetup Print(const std::string& what) = 0;
+
+  /// Below 2 a report goes to a graphic printer, 2 and above to a text-mode printer.
+  virtual int PrinterMode() const = 0;
+};
+
+extern IReports* gReports;
+
+}  // namespace quillon

@@ -1,0 +1,25 @@
+#pragma once
+
+/// The services of the host: what a form calls outside itself.
+
+#include "host/data/CDataSet.h"
+#include "host/data/CDbLink.h"
+#include "host/data/CNameValues.h"
+#include "host/data/CTextTable.h"
+#include "host/data/CXmlTable.h"
+#include "host/forms/CAlertLog.h"
+#include "host/forms/CDateDialog.h"
+#include "host/forms/CPartyFilter.h"
+#include "host/forms/CPickList.h"
+#include "host/forms/Runtime.h"
+#include "host/services/CPartyInfo.h"
+#include "host/services/CReportOptions.h"
+#include "host/services/FinYear.h"
+#include "host/services/HostApp.h"
+#include "host/services/IApp.h"
+#include "host/services/IModule.h"
+#include "host/services/IPrinter.h"
+#include "host/services/IReports.h"
+#include "host/services/ISession.h"
+#include "host/services/IStd.h"
+#include "host/services/PrintSetup.h"

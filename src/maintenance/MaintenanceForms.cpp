@@ -1,0 +1,7 @@
+#include "maintenance/MaintenanceForms.h"
+
+namespace quillon {
+
+std::span<const FormKey> MaintenanceForms() { return {}; }
+
+}  // namespace quillon
