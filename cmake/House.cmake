@@ -67,6 +67,28 @@ function(quillon_folder name)
   target_link_libraries(quillon_${name} PUBLIC quillon_house ${QUILLON_USES_${name}} PRIVATE ${ARG_LIBRARIES})
 endfunction()
 
+# Joins pieces that lie in files of their own, so that two people who add one share no file: each NAME.PIECE.cpp of the
+# target's folders defines `TYPE NAMEPiece()`, and a generated source gives all of them as `std::vector<TYPE> TYPEs()`,
+# which HEADER declares with TYPE.
+function(quillon_collect name piece type header)
+  string(SUBSTRING ${piece} 0 1 first)
+  string(SUBSTRING ${piece} 1 -1 rest)
+  string(TOUPPER ${first} first)
+  set(declared "")
+  set(listed "")
+  foreach(folder ${QUILLON_FOLDERS_${name}})
+    file(GLOB found CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}/*.${piece}.cpp)
+    foreach(file ${found})
+      get_filename_component(own ${file} NAME_WE)
+      string(APPEND declared "${type} ${own}${first}${rest}();\n")
+      string(APPEND listed "${own}${first}${rest}(), ")
+    endforeach()
+  endforeach()
+  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/pieces/${type}s.cpp CONTENT
+       "#include \"${header}\"\n\nnamespace quillon {\n\n${declared}\nstd::vector<${type}> ${type}s() { return {${listed}}; }\n\n}  // namespace quillon\n")
+  target_sources(quillon_${name} PRIVATE ${CMAKE_BINARY_DIR}/pieces/${type}s.cpp)
+endfunction()
+
 # A program made of the main.cpp in src/FOLDER, linked to that folder's target, with the module beside it.
 function(quillon_program program folder)
   string(REPLACE "desk/" "" target ${folder})

@@ -2,12 +2,12 @@
 
 #include "books/BooksNames.h"
 #include "host/controls/GridModel.h"
+#include "host/services/AccountColumns.h"
 #include "host/services/IStd.h"
-#include "host/services/StatementColumns.h"
 
 namespace quillon {
 
-using namespace statement_col;
+using namespace account_col;
 
 bool IsMarked(const GridModel& grid, int row) {
   return !grid.Cell(row, kClearedEdit).empty() || grid.Cell(row, kBook) == books::kOpeningBook;

@@ -1,14 +1,8 @@
 #include "reconciliation/frmAcReconciliation.h"
 
-#include <optional>
-
 #include "books/SqlText.h"
-#include "host/controls/RedrawHold.h"
-#include "host/forms/Busy.h"
-#include "host/forms/CAlertLog.h"
-#include "host/forms/Progress.h"
+#include "host/forms/GridFill.h"
 #include "host/services/host_services.h"
-#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -25,26 +19,12 @@ constexpr ScreenSpec kScreen = {
     .lastKey = keys::kF3 + 6,
 };
 
+constexpr int kMassMark = 0;
 constexpr int kShowRef = 1;
+constexpr int kStatement = 3;
+constexpr int kPassBook = 4;
 
-/// The statement's closing line belongs to the statement itself, so it prints as its last row and not as a
-/// footer.
-class FooterAsLastRow {
- public:
-  explicit FooterAsLastRow(CGridPlus& grid) : hold_(grid), grid_(grid), row_(grid.Rows) {
-    grid_.Rows = row_ + 1;
-    for (int col = 0; col < grid_.Cols; ++col)
-      grid_.SetTextMatrix(row_, col, grid_.Footer.TextMatrix(0, col));
-  }
-  FooterAsLastRow(const FooterAsLastRow&) = delete;
-  FooterAsLastRow& operator=(const FooterAsLastRow&) = delete;
-  ~FooterAsLastRow() { grid_.Rows = row_; }
-
- private:
-  RedrawHold hold_;
-  CGridPlus& grid_;
-  int row_;
-};
+constexpr int kUnmarkItem = 1;
 
 }  // namespace
 
@@ -59,49 +39,37 @@ frmAcReconciliation::frmAcReconciliation()
       GridPBook(*this, "GridPBook"),
       GridIntt(*this, "GridIntt"),
       MStrip2(*this, "MStrip2"),
-      mmMarking(*this, "mmMarking") {
+      mmMarking(*this, "mmMarking"),
+      account_(*this, AccountCode, Date1, Date2, MStrip2),
+      entries_(account_, Grid, cmbFilter, chkReturned, lblTitle2),
+      statement_(account_, GridStatement),
+      passBook_(account_, GridPBook),
+      interest_(account_, GridIntt) {
   Member("AccountCode", AccountCode);
   Member("Date1", Date1);
   Member("Date2", Date2);
   Member("bCalcInt", bCalcInt);
   RegisterRoutines();
-  ConnectGrid();
-  ConnectStatement();
-  ConnectPassBook();
-  chkReturned.Click = [this] { chkReturned_Click(); };
-  cmbFilter.Click = [this] { cmbFilter_Click(); };
-  mmMarking.Click = [this](int item) { mMarking_Click(item); };
+  statement_.DateStored = [this](const books::EntryKey& entry, const std::string& dateText) {
+    entries_.TakeStored(entry, dateText);
+  };
+  mmMarking.Click = [this](int item) { MassMarking(item == kUnmarkItem); };
 }
 
 /// The routines that a host may call late.
 void frmAcReconciliation::RegisterRoutines() {
-  const auto routine = [this](const char* name, void (frmAcReconciliation::*body)()) {
-    Method(name, [this, body](const Array&) {
-      (this->*body)();
-      return Variant();
-    });
-  };
-  routine("UpdateGrid", &frmAcReconciliation::UpdateGrid);
-  routine("UpdateMarkedTotals", &frmAcReconciliation::UpdateMarkedTotals);
-  routine("UpdateGridStatement", &frmAcReconciliation::UpdateGridStatement);
-  routine("UpdateGridPassBook", &frmAcReconciliation::UpdateGridPassBook);
-  routine("HideGrids", &frmAcReconciliation::HideGrids);
-  routine("UpdateRefButton", &frmAcReconciliation::UpdateRefButton);
-  routine("ZoomRow", &frmAcReconciliation::ZoomRow);
-  const auto save = [this](const char* name, Save body) {
-    Method(name, [this, body](const Array& arguments) {
-      (this->*body)(static_cast<int>(arguments.at(0).ToInteger()), arguments.at(1).ToText());
-      return Variant();
-    });
-  };
-  save("SaveRow", &frmAcReconciliation::SaveRow);
-  save("SaveStatementRow", &frmAcReconciliation::SaveStatementRow);
-  routine("RunInterest", &frmAcReconciliation::RunInterest);
-  Method("MassMarking", [this](const Array& arguments) {
-    MassMarking(arguments.at(0).ToFlag());
-    return Variant();
-  });
-  Method("CalcInterest", [this](const Array& arguments) { return CalcInterest(arguments.at(0).ToAmount()); });
+  Routine("UpdateGrid", &frmAcReconciliation::UpdateGrid);
+  Routine("UpdateMarkedTotals", &frmAcReconciliation::UpdateMarkedTotals);
+  Routine("UpdateGridStatement", &frmAcReconciliation::UpdateGridStatement);
+  Routine("UpdateGridPassBook", &frmAcReconciliation::UpdateGridPassBook);
+  Routine("HideGrids", &frmAcReconciliation::HideGrids);
+  Routine("UpdateRefButton", &frmAcReconciliation::UpdateRefButton);
+  Routine("ZoomRow", &frmAcReconciliation::ZoomRow);
+  Routine("SaveRow", &frmAcReconciliation::SaveRow);
+  Routine("SaveStatementRow", &frmAcReconciliation::SaveStatementRow);
+  Routine("RunInterest", &frmAcReconciliation::RunInterest);
+  Routine("MassMarking", &frmAcReconciliation::MassMarking);
+  Routine("CalcInterest", &frmAcReconciliation::CalcInterest);
 }
 
 void frmAcReconciliation::TakeCaller() {
@@ -109,7 +77,7 @@ void frmAcReconciliation::TakeCaller() {
   AccountCode = CallingForm->Get("AccountCode").ToInteger();
   Date1 = CallingForm->Get("Date1").ToDate();
   Date2 = CallingForm->Get("Date2").ToDate();
-  statement_ = &dynamic_cast<CGridPlus&>(CallingForm->ControlAt("Grid"));
+  account_.StandOn(dynamic_cast<CGridPlus&>(CallingForm->ControlAt("Grid")));
   for (const int item : {1, 2}) {
     lblTitle1(item).Caption = dynamic_cast<Label&>(CallingForm->ControlAt("lblTitle1", item)).Caption();
   }
@@ -117,74 +85,144 @@ void frmAcReconciliation::TakeCaller() {
 
 void frmAcReconciliation::LoadScreen() {
   DesignControls();
-  showReference_ = true;
-  cellEdited_ = false;
+  account_.ShowsReferences = true;
   lblTitle1(0).Caption = "   Reconciliation";
   TakeCaller();
   MStrip1.Code = AccountCode;
   if (!bCalcInt) {
-    cmbFilter.Clear();
-    for (const char* filter : {"All Entries", "Marked only", "Unmarked only"}) cmbFilter.AddItem(filter);
-    cmbFilter.SetListIndex(0);
+    entries_.FillFilter();
     UpdateGrid();
   } else {
     Grid.Rows = 1;
   }
-  ReadInterestTerms();
-  asOn_ = Date2;
-  source_ = statement_;
+  interest_.ReadTerms();
+  interest_.SetSource(account_.Statement(), false);
+  statement_.SetAsOn(Date2);
 }
 
 void frmAcReconciliation::FirstShow() {
-  if (bCalcInt) {
-    GridIntt.Visible = false;
-    source_ = statement_;
-    RunInterest();
-    if (IsLoaded() && !GridIntt.Visible) gRuntime->Unload(*this);
+  if (!bCalcInt) {
+    entries_.PutCursorOnLastRow();
     return;
   }
-  PutCursorOnLastRow();
+  GridIntt.Visible = false;
+  HideGrids();
+  RunInterest();
+  if (IsLoaded() && !GridIntt.Visible) gRuntime->Unload(*this);
 }
 
-void frmAcReconciliation::ButtonPressed(int index) {
-  const std::string key = BtnBar1.Buttons(index).Key();
-  CGridPlus* const grid = VisibleGrid();
-  // A date that is being typed is stored first, so that the view that is asked for has it.
-  if (key != "Exit" && grid != nullptr && !grid->EndEdit()) return;
-  if (key == "MassMarking") {
-    PopupMarking();
-  } else if (key == "ShowRef") {
-    showReference_ = !showReference_;
-    if (GridStatement.Visible) UpdateGridStatement();
-    if (GridPBook.Visible) UpdateGridPassBook();
-  } else if (key == "Interest") {
-    PressInterest();
-  } else if (key == "Statement") {
-    AskStatement();
-  } else if (key == "PassBook") {
-    ShowPassBook();
-  } else if (key == "Preview" || key == "Print") {
-    Print(key == "Print");
-  } else if (key == "Exit") {
-    PressExit();
+void frmAcReconciliation::UnloadScreen() {
+  interest_.LetGo();
+  entries_.LetGo();
+  account_.LetGo();
+}
+
+// --- The views
+// ----------------------------------------------------------------------------------------------------
+
+void frmAcReconciliation::UpdateGrid() {
+  entries_.Update();
+  if (CallingForm) lblTitle2.Caption = dynamic_cast<Label&>(CallingForm->ControlAt("lblTitle2")).Caption();
+}
+
+void frmAcReconciliation::UpdateMarkedTotals() { entries_.UpdateMarkedTotals(); }
+
+void frmAcReconciliation::SaveRow(int row, const std::string& dateText) { entries_.Save(row, dateText); }
+
+void frmAcReconciliation::SaveStatementRow(int row, const std::string& dateText) {
+  statement_.Save(row, dateText);
+}
+
+void frmAcReconciliation::UpdateGridStatement() {
+  RequireAllViews();
+  statement_.Update();
+  ShowView(statement_, "Statement");
+}
+
+void frmAcReconciliation::UpdateGridPassBook() {
+  RequireAllViews();
+  passBook_.Update();
+  interest_.SetSource(&GridPBook, true);
+  ShowView(passBook_, "PassBook");
+}
+
+/// The view's grid takes the place of all others, and its button has nothing more to open.
+void frmAcReconciliation::ShowView(WorkbenchView& view, const char* button) {
+  entries_.Hide();
+  for (CGridPlus* grid : {&GridStatement, &GridPBook, &GridIntt}) {
+    if (grid != &view.Grid()) grid->Visible = false;
   }
+  view.Grid().Visible = true;
+  view.Grid().SetFocus();
+  BtnBar1.Buttons(button).SetEnabled(false);
+  UpdateRefButton();
+}
+
+void frmAcReconciliation::RequireAllViews() const {
+  if (bCalcInt) throw HostError("This window shows the interest alone");
+}
+
+WorkbenchView* frmAcReconciliation::VisibleView() {
+  for (WorkbenchView* view :
+       std::initializer_list<WorkbenchView*>{&entries_, &statement_, &passBook_, &interest_}) {
+    if (view->IsShown()) return view;
+  }
+  return nullptr;
 }
 
 void frmAcReconciliation::HideGrids() {
-  Grid.Visible = false;
-  cmbFilter.Visible = false;
+  entries_.Hide();
   GridIntt.Visible = false;
   GridPBook.Visible = false;
   GridStatement.Visible = false;
   BtnBar1.EnableButtons({0, 1, 2, 3});
+  if (bCalcInt) BtnBar1.DisableButtons({kMassMark, kStatement, kPassBook});
 }
 
 void frmAcReconciliation::UpdateRefButton() {
   const bool references = GridPBook.Visible || GridStatement.Visible;
   CButtonBar::Button& button = BtnBar1.Buttons(kShowRef);
   button.SetPicture(references ? gApp->GetPicture("Customers") : "");
-  button.SetCaption(!references ? "" : showReference_ ? "F4: Hide Ref." : "F4: Show Ref.");
+  button.SetCaption(!references ? "" : account_.ShowsReferences ? "F4: Hide Ref." : "F4: Show Ref.");
   button.SetKey(references ? "ShowRef" : "");
+}
+
+void frmAcReconciliation::ZoomRow() {
+  if (WorkbenchView* const view = VisibleView(); view != nullptr) view->ZoomRow();
+}
+
+void frmAcReconciliation::ShowEntries() {
+  HideGrids();
+  entries_.Show();
+  interest_.SetSource(account_.Statement(), false);
+  BtnBar1.EnableButtons({0, 1, 2, 3, 4, 5});
+  UpdateRefButton();
+}
+
+// --- The buttons
+// --------------------------------------------------------------------------------------------------
+
+void frmAcReconciliation::ButtonPressed(int index) {
+  const std::string key = BtnBar1.Buttons(index).Key();
+  WorkbenchView* const view = VisibleView();
+  // A date that is being typed is stored first, so that the view that is asked for has it.
+  if (key != "Exit" && view != nullptr && !view->Grid().EndEdit()) return;
+  if (key == "MassMarking") {
+    PopupMarking();
+  } else if (key == "ShowRef") {
+    ShowReferences();
+  } else if (key == "Interest") {
+    PressInterest();
+  } else if (key == "Statement") {
+    AskStatement();
+  } else if (key == "PassBook") {
+    HideGrids();
+    UpdateGridPassBook();
+  } else if (key == "Preview" || key == "Print") {
+    Print(key == "Print");
+  } else if (key == "Exit") {
+    PressExit();
+  }
 }
 
 void frmAcReconciliation::ExitPressed(bool& cancel) {
@@ -200,50 +238,59 @@ void frmAcReconciliation::ExitPressed(bool& cancel) {
   cancel = true;
 }
 
-void frmAcReconciliation::ShowEntries() {
+/// A date that is being typed is stored; one that cannot be keeps the screen open.
+void frmAcReconciliation::OnQueryUnload(bool& cancel, UnloadMode /*mode*/) {
+  WorkbenchView* const view = VisibleView();
+  cancel = view != nullptr && !view->Grid().EndEdit();
+}
+
+void frmAcReconciliation::PopupMarking() {
+  PopupMenu(mmMarking, BtnBar1.Left + BtnBar1.Buttons("MassMarking").Left(), BtnBar1.Top);
+}
+
+void frmAcReconciliation::MassMarking(bool unmark) { entries_.MassMark(unmark); }
+
+void frmAcReconciliation::ShowReferences() {
+  account_.ShowsReferences = !account_.ShowsReferences;
+  if (GridStatement.Visible) UpdateGridStatement();
+  if (GridPBook.Visible) UpdateGridPassBook();
+}
+
+void frmAcReconciliation::AskStatement() {
+  if (!statement_.AskDate()) return;
   HideGrids();
-  Grid.Visible = true;
-  cmbFilter.Visible = true;
-  source_ = statement_;
-  Grid.SetFocus();
-  BtnBar1.EnableButtons({0, 1, 2, 3, 4, 5});
+  UpdateGridStatement();
+}
+
+void frmAcReconciliation::PressInterest() {
+  if (!GridPBook.Visible) {
+    gStd->MsgBox("Click on 'F7: Pass Book' option to calculate interest as charged / paid by bank.", "", "W");
+    return;
+  }
+  const FormPtr alive = Self();
+  RunInterest();
   UpdateRefButton();
 }
 
-CGridPlus* frmAcReconciliation::VisibleGrid() {
-  for (CGridPlus* grid : {&Grid, &GridStatement, &GridPBook, &GridIntt}) {
-    if (grid->Visible) return grid;
-  }
-  return nullptr;
+void frmAcReconciliation::RunInterest() {
+  const FormPtr alive = Self();
+  if (!interest_.Ask()) return;
+  HideGrids();
+  UpdateGridInterest(*interest_.Source());
+  GridIntt.BackColor = interest_.Source()->BackColor();
+  GridIntt.SetFocus();
 }
 
-void frmAcReconciliation::OpenVoucherOf(const CGridPlus& grid, int voucherColumn) {
-  if (grid.Row < 1) return;
-  const long long id = ValInteger(grid.Cell(grid.Row, voucherColumn));
-  gApp->OpenVoucher(*this, id, gSession->Year().StartYear(), AccountCode);
+void frmAcReconciliation::UpdateGridInterest(const CGridPlus& source) {
+  interest_.Update(source);
+  ShowView(interest_, "Interest");
 }
 
-void frmAcReconciliation::ZoomRow() {
-  if (Grid.Visible) {
-    OpenVoucherOf(Grid, statement_col::kVoucherId);
-  } else if (GridPBook.Visible) {
-    OpenVoucherOf(GridPBook, statement_col::kVoucherId);
-  } else if (GridStatement.Visible) {
-    EditStatementRow();
-  }
-}
-
-long frmAcReconciliation::CounterAccount(std::int64_t voucherId, Amount amount) {
-  std::int64_t code = 0;
-  std::string text;
-  gApp->VoucherCrossRef(gSession->Year().Db(), voucherId, amount, code, text);
-  return code;
-}
+Amount frmAcReconciliation::CalcInterest(Amount product) { return interest_.CalcInterest(product); }
 
 void frmAcReconciliation::Print(bool print) {
-  bool denied = false;
-  CGridPlus* const grid = VisibleGrid();
-  if (grid == nullptr || gApp->CheckRight("acst.reconciliation", "P", denied)) return;
+  WorkbenchView* const view = VisibleView();
+  if (view == nullptr || !MayPrint() || !RequireComplete(view->Grid())) return;
   CReportOptions options;
   options.DataRS.Open("select * from famaster where mcd=" + books::SqlNumber(AccountCode),
                       gSession->MainDb());
@@ -251,48 +298,8 @@ void frmAcReconciliation::Print(bool print) {
   options.SetOption("MainHeadForm2", "AcMain2");
   options.SetOption("SubHeadForm1", "AcSubHead1");
   options.SetOption("SubHeadForm2", "AcSubHead2");
-  std::optional<FooterAsLastRow> closing;
-  if (grid == &GridStatement) closing.emplace(GridStatement);
-  if (grid == &GridStatement || grid == &GridPBook) options.SetOption("BalColID", "6");
-  gReports->ShowGrid(*grid, &options, grid->Title, lblTitle1(2).Caption, 3, print);
-}
-
-void frmAcReconciliation::UnloadScreen() {
-  if (mErrLog) gRuntime->Unload(*mErrLog->Form());
-  statement_ = source_ = nullptr;
-  gridRows_.clear();
-}
-
-// --- What both editable views do alike
-// --------------------------------------------------------------------------
-
-bool frmAcReconciliation::InvalidDate(bool& cancel) {
-  gStd->MsgBox("Invalid Date", "", "E");
-  cancel = true;
-  return false;
-}
-
-bool frmAcReconciliation::CopyDateAbove(CGridPlus& grid, int row, int col, std::string& text, bool& cancel) {
-  if (row <= 1) return InvalidDate(cancel);
-  text = grid.TextMatrix(row - 1, col);
-  return true;
-}
-
-void frmAcReconciliation::FillDown(CGridPlus& grid, int row, int col, std::string& text, Save save) {
-  const BusyPointer pointer;
-  int from = row - 1;
-  while (from > 0 && (!grid.IsRowVisible(from) || grid.Cell(from, col).empty())) --from;
-  if (from == 0) {
-    text = grid.TextMatrix(row, col);
-    return;
-  }
-  grid.EndEdit();
-  const BusyJob job;
-  const std::string date = grid.TextMatrix(from, col);
-  Progress progress("Filling dates", row - from);
-  for (int next = from + 1; next <= row; ++next, progress.Step()) {
-    if (grid.IsRowVisible(next)) (this->*save)(next, date);
-  }
+  if (view == &statement_ || view == &passBook_) options.SetOption("BalColID", "6");
+  view->Report(options, lblTitle1(2).Caption, print);
 }
 
 }  // namespace quillon

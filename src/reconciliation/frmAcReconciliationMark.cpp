@@ -38,7 +38,6 @@ constexpr int kCount = 10;
 
 }  // namespace col
 
-constexpr int kYes = 1;
 constexpr int kWholeDate = 99;  // a selection past the end of any date
 constexpr std::int64_t kMostEntries = 10;
 constexpr std::size_t kListNarration = 30;
@@ -302,7 +301,7 @@ void frmAcReconciliationMark::ButtonPressed(int index) {
 void frmAcReconciliationMark::RemoveMark() {
   const int row = Grid.Row;
   if (row < 1 || !IsMatched(row)) return;
-  if (gStd->MsgBox("Do you want to remove mark date of this entry?", "2", "Q") != kYes) return;
+  if (!gStd->AskYesNo("Do you want to remove mark date of this entry?")) return;
   FYear->Db().Execute("UPDATE FADATA SET DBANKDATE=NULL WHERE VOUCHERID=" +
                       books::SqlNumber(Grid.Cell(row, col::kVoucherId)));
   Grid.CancelEdit();

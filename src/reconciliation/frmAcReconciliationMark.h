@@ -36,6 +36,8 @@ class frmAcReconciliationMark : public ScreenForm {
   CGridPlus Grid;
   CMStrip MStrip2;
 
+  bool StandsOnCaller() const override { return true; }
+
  protected:
   void BuildBar() override;
   void LoadScreen() override;

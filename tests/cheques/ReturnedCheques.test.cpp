@@ -37,6 +37,10 @@ class ReturnedCheques : public DeskTest {
     const FormPtr statement = ShowStatement(account);
     runtime_.Laid.Add({{"to", "date"}, {"date1", "1/4/2024"}, {"date2", "30/6/2024"}});
     Key(*statement, keys::kF3);
+    runtime_.NextCommand = [this] {
+      runtime_.PickFromMenu("ChqReturned");
+      return true;
+    };
     Key(*statement, keys::kF7);
     const FormPtr report = runtime_.ActiveForm();
     EXPECT_EQ(report->Name(), "frmChqRetReport");

@@ -140,7 +140,8 @@ TEST_F(FormLife, AFormThatFailsToLoadIsNotLoaded) {
   EXPECT_TRUE(gRuntime->Forms(Form::Origin::Module).empty());
   dialog->Loading = nullptr;
   Do([&] { gRuntime->Show(dialog); });
-  EXPECT_EQ(dialog->Told, (Texts{"load", "load", "activate, seen"})) << "a second attempt loads again";
+  EXPECT_EQ(dialog->Told, (Texts{"load", "unload", "load", "activate, seen"}))
+      << "a second attempt loads again";
 }
 
 TEST_F(FormLife, TerminateEndsAllFormsAlsoThoseThatFail) {

@@ -383,24 +383,5 @@ TEST_F(Interest, WhatLeavesTheRangeIsReportedAndTheTableStaysAsFarAsItGot) {
   EXPECT_TRUE(At<CGridPlus>(bench_, "Grid").Visible);
 }
 
-TEST_F(Interest, OpenedForItTheOtherViewsWorkToo) {
-  AddVoucher({.id = 2, .date = "2024-04-11", .amount = "-30000"});
-  OpenInterest({Confirm()});
-  ASSERT_TRUE(View().Visible);
-  AnswerDate("30-Apr-2024");
-  Key(*bench_, kF6);
-  CGridPlus& view = At<CGridPlus>(bench_, "GridStatement");
-  ASSERT_TRUE(view.Visible);
-  EXPECT_TRUE(EditCell(view, 3, 6, "15"));
-  EXPECT_EQ(Db().Lookup("FAData", "dBankDate", "VoucherID=2 and dVchSubNo=1").ToDate().Text(), "15-Apr-2024");
-  Key(*bench_, keys::kF7);
-  ASSERT_EQ(PassBook().Rows(), 3);
-  PressInterest({[&] { EXPECT_EQ(At<ComboBox>(Top(), "cmbInttMethod").ListIndex(), 0); }, Confirm()});
-  EXPECT_EQ(View().TextMatrix(2, 0), "15-Apr-2024") << "by the bank's date now";
-  EXPECT_TRUE(View().Title().starts_with("Pass Book Interest"));
-  Key(*bench_, keys::kEscape);
-  EXPECT_FALSE(bench_->IsLoaded());
-}
-
 }  // namespace
 }  // namespace quillon

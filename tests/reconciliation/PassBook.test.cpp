@@ -238,30 +238,5 @@ TEST_F(PassBook, PrintsWithItsFooter) {
   EXPECT_TRUE(std::filesystem::exists(reports[0]["file"].get<std::string>()));
 }
 
-TEST_F(PassBook, AFailureIsReportedAndTheEntriesStay) {
-  // The opening balance leaves the range of the column.
-  for (const int id : {3, 4}) {
-    AddVoucher({.id = id, .date = "2024-04-10", .amount = "900000000000000", .cleared = "2024-03-30"});
-  }
-  AddVoucher({.id = 5, .date = "2025-03-10", .amount = "5", .cleared = "2025-03-10"});
-  Db().Execute("update FAData set dAmt=1 where VoucherID=4");
-  Open();
-  ASSERT_TRUE(View().Visible);
-  Db().Execute("update FAData set dAmt=900000000000000 where VoucherID=4");
-  Key(*bench_, keys::kF4);
-  std::vector<Json> errors = Events("error");
-  ASSERT_EQ(errors.size(), 1U);
-  EXPECT_EQ(errors[0]["routine"], "UpdateGridPassBook");
-  EXPECT_TRUE(View().Visible);
-  EXPECT_TRUE(View().Redraw());
-  Key(*bench_, keys::kEscape);
-  Key(*bench_, keys::kF7);
-  errors = Events("error");
-  ASSERT_EQ(errors.size(), 1U);
-  EXPECT_EQ(errors[0]["routine"], "UpdateGridPassBook");
-  EXPECT_TRUE(Entries().Visible) << "not an empty screen";
-  EXPECT_TRUE(Bar().Buttons(kPassBookButton).Enabled());
-}
-
 }  // namespace
 }  // namespace quillon

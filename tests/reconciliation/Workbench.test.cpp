@@ -487,22 +487,6 @@ TEST_F(Workbench, ClosedAndShownAgainItIsAsNew) {
   EXPECT_EQ(Grid().Rows(), 6);
 }
 
-TEST_F(Workbench, AStatementThatTurnedToOtherRowsIsNotWrittenInto) {
-  AddAccount(102, "Deccan Bank", 47);
-  AddVoucher({.id = 50, .date = "2024-07-01", .amount = "50", .account = 102});
-  Open();
-  runtime_.NextCommand = [&] {
-    At<CSelGrid>(runtime_.ActiveForm(), "SelGrid1").UserPick("Deccan Bank");
-    return true;
-  };
-  Do([&] { At<CButtonBar>(statement_, "BtnBar1").UserPress("Account"); });
-  ASSERT_EQ(Source().TextMatrix(1, 0), "50");
-  EXPECT_TRUE(EditCell(Grid(), 2, kCleared, "9"));
-  EXPECT_EQ(Stored(2), "09-Apr-2024");
-  EXPECT_TRUE(EditCell(Grid(), 5, kCleared, "9"));
-  for (int row = 1; row < Source().Rows; ++row) EXPECT_EQ(Source().TextMatrix(row, 4), "") << row;
-}
-
 TEST_F(Workbench, WithoutARowUnderTheCursorTheCounterAccountIsAskedOnce) {
   statement_ = ShowStatement();
   Statements();

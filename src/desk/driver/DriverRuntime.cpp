@@ -1,5 +1,6 @@
 #include "desk/driver/DriverRuntime.h"
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 
@@ -170,9 +171,12 @@ bool DriverRuntime::AskPrint(PrintSetup& setup) {
 }
 
 int DriverRuntime::AskPopup(Form& form, Menu& menu, long /*left*/, long /*top*/) {
-  log_.Write({{"event", "menu"}, {"name", menu.Name()}, {"form", log_.IdOf(form)}, {"items", menu.Items}});
+  Json event = {{"event", "menu"}, {"name", menu.Name()}, {"form", log_.IdOf(form)}, {"items", menu.Items}};
+  if (!menu.Keys.empty()) event["keys"] = menu.Keys;
+  log_.Write(event);
   OpenMenu open;
   open.items = static_cast<int>(menu.Items.size());
+  open.keys = menu.Keys;
   OpenMenu* const outer = menu_;
   menu_ = &open;
   while (open.open && NextCommand()) continue;
@@ -185,6 +189,13 @@ void DriverRuntime::PickFromMenu(int item) {
   if (item < 0 || item >= menu_->items) throw Refused("The menu has no item " + std::to_string(item));
   menu_->chosen = item;
   menu_->open = false;
+}
+
+void DriverRuntime::PickFromMenu(const std::string& key) {
+  if (menu_ == nullptr) throw Refused("No menu is shown");
+  const auto found = std::find(menu_->keys.begin(), menu_->keys.end(), key);
+  if (found == menu_->keys.end()) throw Refused("The menu has no item \"" + key + "\"");
+  PickFromMenu(static_cast<int>(found - menu_->keys.begin()));
 }
 
 void DriverRuntime::LeaveMenu() {

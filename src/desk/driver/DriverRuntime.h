@@ -28,6 +28,7 @@ class DriverRuntime : public Runtime {
 
   /// Picks an item of the menu that is shown. Throws Refused when there is none.
   void PickFromMenu(int item);
+  void PickFromMenu(const std::string& key);
 
   /// Leaves the menu that is shown, as any other act does.
   void LeaveMenu();
@@ -63,6 +64,7 @@ class DriverRuntime : public Runtime {
  private:
   struct OpenMenu {
     int items = 0;
+    std::vector<std::string> keys;
     int chosen = -1;
     bool open = true;
   };

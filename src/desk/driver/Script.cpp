@@ -5,6 +5,7 @@
 
 #include "host/controls/CPeriod.h"
 #include "host/controls/host_controls.h"
+#include "host/forms/WindowHandle.h"
 
 namespace quillon {
 
@@ -169,10 +170,15 @@ Variant Script::MemberValue(const Json& value) {
   return bag;
 }
 
+Json Script::HandleJson(const WindowHandle& handle) {
+  return {{"title", handle.Title}, {"icon", handle.IconKey}};
+}
+
 Json Script::ShowValue(const Variant& value) {
   const std::shared_ptr<Object> object = value.ToObject();
   if (const auto form = std::dynamic_pointer_cast<Form>(object)) return {{"form", log_.IdOf(*form)}};
   if (const auto year = std::dynamic_pointer_cast<FinYear>(object)) return {{"year", year->StartYear()}};
+  if (const auto handle = std::dynamic_pointer_cast<WindowHandle>(object)) return HandleJson(*handle);
   return ToJson(value);
 }
 

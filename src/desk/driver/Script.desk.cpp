@@ -3,6 +3,7 @@
 #include "desk/driver/ControlState.h"
 #include "desk/qt/windows/FormPicture.h"
 #include "host/data/CDataSet.h"
+#include "host/forms/WindowHandle.h"
 
 namespace quillon {
 
@@ -80,11 +81,16 @@ Json Script::DoClose(const Json& command) {
 Json Script::DoForms(const Json& /*command*/) {
   Json forms = Json::array();
   for (const FormPtr& form : runtime_.AllForms()) {
+    const auto handle = std::dynamic_pointer_cast<WindowHandle>(form->QuillonForm);
+    const bool stands = form->CallingForm && form->StandsOnCaller();
     forms.push_back({{"id", log_.IdOf(*form)},
                      {"name", form->Name()},
                      {"title", form->Caption()},
                      {"visible", form->IsShownToUser()},
-                     {"modal", form->IsModal()}});
+                     {"modal", form->IsModal()},
+                     {"current", form == runtime_.ActiveForm()},
+                     {"registered", handle ? HandleJson(*handle) : Json(nullptr)},
+                     {"stands_on", stands ? Json(log_.IdOf(*form->CallingForm)) : Json(nullptr)}});
   }
   return {{"forms", forms}};
 }

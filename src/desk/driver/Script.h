@@ -9,6 +9,8 @@
 
 namespace quillon {
 
+class WindowHandle;
+
 /// Carries out the commands of a script, one JSON object on each line, and answers each by one line.
 class Script {
  public:
@@ -33,6 +35,7 @@ class Script {
   template <class T>
   T& Kind(const Json& command, const char* what);
   Variant MemberValue(const Json& value);
+  static Json HandleJson(const WindowHandle& handle);
   Json ShowValue(const Variant& value);
   CDbLink& DbOf(const Json& command);
   Json Act(const std::function<void()>& act);

@@ -177,7 +177,8 @@ Json Script::DoPicked(const Json& command) {
 }
 
 Json Script::DoPopup(const Json& command) {
-  runtime_.PickFromMenu(command.at("item").get<int>());
+  command.contains("key") ? runtime_.PickFromMenu(command.at("key").get<std::string>())
+                          : runtime_.PickFromMenu(command.at("item").get<int>());
   return Json::object();
 }
 

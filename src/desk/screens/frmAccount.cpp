@@ -1,14 +1,15 @@
 #include "desk/screens/frmAccount.h"
 
 #include <algorithm>
-#include <unordered_set>
 
 #include "books/BooksNames.h"
+#include "books/EntryRows.h"
 #include "books/SqlText.h"
-#include "host/controls/RedrawHold.h"
 #include "host/forms/Busy.h"
+#include "host/forms/GridFill.h"
 #include "host/forms/Progress.h"
-#include "host/services/StatementColumns.h"
+#include "host/services/AccountColumns.h"
+#include "host/services/BalanceText.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
 
@@ -28,11 +29,19 @@ constexpr ScreenSpec kScreen = {
     .initForm = true,
 };
 
-namespace col = statement_col;
+namespace col = account_col;
 
-std::string BalanceText(Amount balance) {
-  return gStd->FormatAmount(balance.Abs(), "C2") + (balance < Amount() ? " Cr." : " Dr.");
-}
+/// For the length of a block: the flag is set.
+class FlagHold {
+ public:
+  explicit FlagHold(bool& flag) : flag_(flag) { flag_ = true; }
+  FlagHold(const FlagHold&) = delete;
+  FlagHold& operator=(const FlagHold&) = delete;
+  ~FlagHold() { flag_ = false; }
+
+ private:
+  bool& flag_;
+};
 
 }  // namespace
 
@@ -58,21 +67,34 @@ frmAccount::frmAccount()
     : ScreenForm(kScreen, Origin::Desk),
       lblTitle1(*this, "lblTitle1", {0, 1, 2}),
       lblTitle2(*this, "lblTitle2"),
-      Grid(*this, "Grid") {
+      Grid(*this, "Grid"),
+      mmOthers(*this, "mmOthers") {
   Member("AccountCode", AccountCode);
   Member("Date1", Date1);
   Member("Date2", Date2);
   Member("WithOpening", WithOpening);
   Member("FAMaster", FAMaster);
+  Member("MarksRead", MarksRead);
   Grid.KeyDown = [this](KeyEvent& key) { Grid_KeyDown(key); };
   Grid.DblClick = [this] { OpenVoucher(); };
+  mmOthers.Click = [this](int item) { others_.at(static_cast<std::size_t>(item)).Open(*this); };
 }
 
 void frmAccount::BuildBar() {
   BtnBar1.AddButtons({"Account,F2: Account,Customers", "Period,F3: Period,Date", "Marking,F4: Marking,Modify",
                       "Interest,F5: Interest,Interest", "Reconciliation,F6: Reconciliation,Report",
-                      "ChqReturned,F7: Chq. Returned,Voucher", "Preview,F8: Preview,Preview",
-                      "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
+                      "Others,F7: Others,Expand", "Preview,F8: Preview,Preview", "Print,F9: Print,Print",
+                      "Exit,Esc: Exit,Close"});
+  others_ = AccountTools();
+  std::sort(others_.begin(), others_.end(),
+            [](const AccountTool& a, const AccountTool& b) { return a.Place < b.Place; });
+  mmOthers.Caption = "Others";
+  mmOthers.Items.clear();
+  mmOthers.Keys.clear();
+  for (const AccountTool& tool : others_) {
+    mmOthers.Items.emplace_back(tool.Caption);
+    mmOthers.Keys.emplace_back(tool.Key);
+  }
 }
 
 void frmAccount::PlaceControls() {
@@ -92,12 +114,11 @@ void frmAccount::LoadScreen() {
   if (Date2.IsEmpty()) Date2 = gSession->Year().EndDate();
   lblTitle1(0).Caption = "   Statement of Account";
   SetColumns();
-  if (AccountCode != 0) FillGrid();
+  if (AccountCode != 0) ReadMaster();
 }
 
 void frmAccount::FirstShow() {
-  if (AccountCode != 0) return;
-  if (AskAccount()) {
+  if (AccountCode != 0 || AskAccount()) {
     FillGrid();
   } else {
     gRuntime->Unload(*this);
@@ -105,6 +126,7 @@ void frmAccount::FirstShow() {
 }
 
 bool frmAccount::AskAccount() {
+  const FlagHold asking(asking_);
   const FormPtr picker = gApp->MainModule().GetForm("SelectAc");
   picker->Set("SelectAc", true);
   gStd->ShowDialog(picker, Self());
@@ -114,7 +136,19 @@ bool frmAccount::AskAccount() {
   return picked;
 }
 
+/// What stands on this statement keeps it as it is, so the other account gets a statement of its own.
+void frmAccount::OpenAnother() {
+  const auto other = std::make_shared<frmAccount>();
+  other->Date1 = Date1;
+  other->Date2 = Date2;
+  gApp->ShowForm(other);
+}
+
 void frmAccount::AskPeriod() {
+  if (!gRuntime->StandingOn(*this).empty()) {
+    gStd->MsgBox("Close the reconciliation of this statement first.", "", "W");
+    return;
+  }
   CDateDialog dialog;
   dialog.Title("Period of the Statement");
   dialog.DateCaption("From");
@@ -126,18 +160,20 @@ void frmAccount::AskPeriod() {
   FillGrid();
 }
 
-void frmAccount::ShowTitles() {
+void frmAccount::ReadMaster() {
   CDataSet account;
-  account.Open("Select mhd,mst from FAMaster where mcd=" + std::to_string(AccountCode), gSession->MainDb());
+  account.Open("Select mhd,mst from FAMaster where mcd=" + books::SqlNumber(AccountCode), gSession->MainDb());
   if (account.Eof()) throw HostError("There is no account with the code " + std::to_string(AccountCode));
   FAMaster->AcHead = account.Field("mhd").ToText();
   FAMaster->Station = account.Field("mst").ToText();
+}
+
+void frmAccount::ShowTitles() {
   const int start = gSession->Year().StartYear();
   MStrip1.Code = AccountCode;
   lblTitle1(1).Caption = "F.Y. " + std::to_string(start) + "-" + std::to_string(start + 1).substr(2);
   lblTitle1(2).Caption = "Period: " + Date1.Format("dd/MM/yyyy") + " to " + Date2.Format("dd/MM/yyyy");
   lblTitle2.Caption = WithOpening ? "With Opening Balance" : "Without Opening Balance";
-  Grid.Title = FAMaster->Station.empty() ? FAMaster->AcHead : FAMaster->AcHead + ", " + FAMaster->Station;
 }
 
 void frmAccount::SetColumns() {
@@ -159,8 +195,10 @@ void frmAccount::SetColumns() {
 
 void frmAccount::FillGrid() {
   const BusyPointer pointer;
+  ReadMaster();
   ShowTitles();
-  const RedrawHold hold(Grid);
+  GridFill fill(Grid,
+                FAMaster->Station.empty() ? FAMaster->AcHead : FAMaster->AcHead + ", " + FAMaster->Station);
   Grid.Clear();
   Grid.Rows = 1;
   Sums sums;
@@ -168,13 +206,18 @@ void frmAccount::FillGrid() {
   if (WithOpening) AddOpening(row, sums);
   AddEntries(row, sums);
   Grid.Rows = std::max(row + 1, 2);
-  Grid.Footer.Clear();
+  ShowTotals(sums);
+  Grid.Row = 1;
+  ++MarksRead;
+  fill.Done();
+}
+
+void frmAccount::ShowTotals(const Sums& sums) {
   Grid.Footer.SetRows(1);
   Grid.Footer.SetTextMatrix(0, col::kNarration, "Totals");
   Grid.Footer.SetTextMatrix(0, col::kDebit, gStd->FormatAmount(sums.debits, "C2"));
   Grid.Footer.SetTextMatrix(0, col::kCredit, gStd->FormatAmount(sums.credits, "C2"));
-  Grid.Footer.SetTextMatrix(0, col::kBalance, BalanceText(sums.balance));
-  Grid.Row = 1;
+  Grid.Footer.SetTextMatrix(0, col::kBalance, BalanceText(sums.balance, "C2"));
 }
 
 void frmAccount::AddOpening(int& row, Sums& sums) {
@@ -194,23 +237,32 @@ void frmAccount::AddOpening(int& row, Sums& sums) {
   Grid.SetTextMatrix(row, col::kNarration, "Opening Balance");
   Grid.SetTextMatrix(row, opening < Amount() ? col::kCredit : col::kDebit,
                      gStd->FormatAmount(opening.Abs(), "c2"));
-  Grid.SetTextMatrix(row, col::kBalance, BalanceText(sums.balance));
+  Grid.SetTextMatrix(row, col::kBalance, BalanceText(sums.balance, "C2"));
 }
 
-void frmAccount::AddEntries(int& row, Sums& sums) {
+std::string frmAccount::EntriesCondition() const {
+  return "a.dcd=" + books::SqlNumber(AccountCode) + " and a.dVchDate between " + gStd->SqlDate(Date1, Date2) +
+         " and " + books::InLists("a.dBook");
+}
+
+std::unordered_set<std::int64_t> frmAccount::ReturnedVouchers() const {
   std::unordered_set<std::int64_t> returned;
   CDataSet docs;
   for (docs.Open("Select VoucherID from FADocs where ChqReturn='Y'", gSession->MainDb()); !docs.Eof();
        docs.MoveNext()) {
     returned.insert(docs.Field(std::size_t{0}).ToInteger());
   }
+  return returned;
+}
+
+void frmAccount::AddEntries(int& row, Sums& sums) {
+  const std::unordered_set<std::int64_t> returned = ReturnedVouchers();
   CDataSet entries;
   entries.Open(
       "Select "
       "a.VoucherID,a.dVchSubNo,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dTrnNature,a.dBankDate,n.Narration "
-      "from FAData a left join FANar n on a.NarrationID=n.NarrationID where a.dcd=" +
-          std::to_string(AccountCode) + " and a.dVchDate between " + gStd->SqlDate(Date1, Date2) + " and " +
-          books::InLists("a.dBook") + " order by a.dVchDate,a.dSrNo,a.VoucherID,a.dVchSubNo",
+      "from FAData a left join FANar n on a.NarrationID=n.NarrationID where " +
+          EntriesCondition() + " order by a.dVchDate,a.dSrNo,a.VoucherID,a.dVchSubNo",
       gSession->MainDb());
   constexpr int kMoreRows = 1000;
   Progress progress("Reading the entries", 0);
@@ -236,31 +288,43 @@ void frmAccount::AddEntry(CDataSet& entry, int row, bool returned, Sums& sums) {
   Grid.SetTextMatrix(row, col::kNarration, entry.Field("Narration").ToText());
   Grid.SetTextMatrix(row, amount < Amount() ? col::kCredit : col::kDebit,
                      gStd->FormatAmount(amount.Abs(), "c2"));
-  Grid.SetTextMatrix(row, col::kBalance, BalanceText(sums.balance));
+  Grid.SetTextMatrix(row, col::kBalance, BalanceText(sums.balance, "C2"));
   if (returned) Grid.SetTextMatrix(row, col::kReturned, "Y");
 }
 
 void frmAccount::ButtonPressed(int index) {
   const std::string key = BtnBar1.Buttons(index).Key();
   if (key == "Account") {
-    if (AskAccount()) FillGrid();
+    if (!gRuntime->StandingOn(*this).empty()) {
+      OpenAnother();
+    } else if (AskAccount()) {
+      FillGrid();
+    }
   } else if (key == "Period") {
     AskPeriod();
   } else if (key == "Interest" || key == "Reconciliation") {
     OpenWorkbench(key == "Interest");
   } else if (key == "Marking") {
     OpenMarking();
-  } else if (key == "ChqReturned") {
-    OpenReturnedCheques();
+  } else if (key == "Others") {
+    PopupOthers();
   } else if (key == "Preview" || key == "Print") {
-    CReportOptions options;
-    options.SetOption("MainHeadForm1", "AcMain1");
-    options.SetOption("MainHeadForm2", "AcMain2");
-    gReports->ShowGrid(Grid, &options, "Statement of Account: " + Grid.Title, lblTitle1(2).Caption, 3,
-                       key == "Print");
+    Print(key == "Print");
   } else if (key == "Exit") {
     PressExit();
   }
+}
+
+void frmAccount::PopupOthers() {
+  PopupMenu(mmOthers, BtnBar1.Left + BtnBar1.Buttons("Others").Left(), BtnBar1.Top);
+}
+
+void frmAccount::Print(bool print) {
+  if (!RequireComplete(Grid)) return;
+  CReportOptions options;
+  options.SetOption("MainHeadForm1", "AcMain1");
+  options.SetOption("MainHeadForm2", "AcMain2");
+  gReports->ShowGrid(Grid, &options, "Statement of Account: " + Grid.Title, lblTitle1(2).Caption, 3, print);
 }
 
 FormPtr frmAccount::ModuleScreen(const std::string& key) {
@@ -275,6 +339,7 @@ FormPtr frmAccount::ModuleScreen(const std::string& key) {
 }
 
 void frmAccount::OpenWorkbench(bool interest) {
+  if (!RequireComplete(Grid)) return;
   const FormPtr workbench = ModuleScreen("acreconciliation");
   if (!workbench) return;
   workbench->Set("bCalcInt", interest);
@@ -282,15 +347,10 @@ void frmAccount::OpenWorkbench(bool interest) {
 }
 
 void frmAccount::OpenMarking() {
-  markings_ = ModuleScreen("acreconciliationmark");
-  if (!markings_) return;
-  markings_->Set("FYear", std::static_pointer_cast<Object>(gSession->CurrentYear()));
-  ShowForPeriod(*markings_);
-}
-
-void frmAccount::OpenReturnedCheques() {
-  const FormPtr report = ModuleScreen("chqretreport");
-  if (report) ShowForPeriod(*report);
+  const FormPtr markings = ModuleScreen("acreconciliationmark");
+  if (!markings) return;
+  markings->Set("FYear", std::static_pointer_cast<Object>(gSession->CurrentYear()));
+  ShowForPeriod(*markings);
 }
 
 void frmAccount::ShowForPeriod(Form& screen) {
@@ -300,17 +360,47 @@ void frmAccount::ShowForPeriod(Form& screen) {
   gApp->ShowForm(screen.Self());
 }
 
-/// The markings went into the books past this grid, and the workbench takes its dates from here.
-void frmAccount::OnActivate() {
-  ScreenForm::OnActivate();
-  if (!markings_ || !IsLoaded()) return;
-  if (!markings_->IsLoaded()) markings_.reset();
-  const int row = Grid.Row;
-  FillGrid();
-  Grid.Row = std::min(row, Grid.Rows - 1);
+/// Other screens may have changed the books meanwhile.
+void frmAccount::ShownAgain() {
+  if (asking_ || AccountCode == 0) return;
+  if (gRuntime->StandingOn(*this).empty()) {
+    ReadAnew();
+  } else {
+    ReadMarks();
+  }
 }
 
-void frmAccount::UnloadScreen() { markings_.reset(); }
+/// The cursor stays on its entry.
+void frmAccount::ReadAnew() {
+  const int row = Grid.Row;
+  const int column = Grid.Col;
+  const auto entry = books::EntryKey::OfRow(Grid, row, col::kVoucherId, col::kVchSubNo);
+  FillGrid();
+  const std::vector<int> found = books::EntryRows(Grid, col::kVoucherId, col::kVchSubNo).Find(entry);
+  Grid.Row = found.empty() ? std::min(row, Grid.Rows - 1) : found.front();
+  Grid.Col = column;
+}
+
+/// The rows stay, for a screen stands on them; only what others store into the books is read.
+void frmAccount::ReadMarks() {
+  const BusyPointer pointer;
+  const std::unordered_set<std::int64_t> returned = ReturnedVouchers();
+  const books::EntryRows rows(Grid, col::kVoucherId, col::kVchSubNo);
+  CDataSet entries;
+  for (entries.Open("Select a.VoucherID,a.dVchSubNo,a.dBankDate from FAData a where " + EntriesCondition(),
+                    gSession->MainDb());
+       !entries.Eof(); entries.MoveNext()) {
+    const books::EntryKey entry{entries.Field(std::size_t{0}).ToInteger(),
+                                entries.Field(std::size_t{1}).ToInteger()};
+    const std::string cleared = entries.Field(std::size_t{2}).ToDate().Text();
+    for (const int row : rows.Find(entry)) {
+      if (Grid.Cell(row, col::kClearedOn) != cleared) Grid.SetTextMatrix(row, col::kClearedOn, cleared);
+      const char* const mark = returned.contains(entry.Voucher) ? "Y" : "";
+      if (Grid.Cell(row, col::kReturned) != mark) Grid.SetTextMatrix(row, col::kReturned, mark);
+    }
+  }
+  ++MarksRead;
+}
 
 void frmAccount::Grid_KeyDown(KeyEvent& key) {
   if (key.KeyCode != keys::kEnter || key.Shift != 0) return;

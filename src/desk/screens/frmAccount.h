@@ -1,17 +1,23 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <unordered_set>
+#include <vector>
 
+#include "desk/screens/AccountTool.h"
 #include "host/controls/CGridPlus.h"
 #include "host/controls/ControlArray.h"
+#include "host/controls/Menu.h"
 #include "host/data/CDataSet.h"
 #include "host/forms/ScreenForm.h"
 
 namespace quillon {
 
 /// The statement of an account: its entries of a period with a running balance. Other screens are opened on
-/// it and read its grid, its titles and the account's master.
+/// it and read its grid, its titles and the account's master. While one of them stands on it, it keeps its
+/// account, period and rows.
 class frmAccount : public ScreenForm {
  public:
   frmAccount();
@@ -34,20 +40,29 @@ class frmAccount : public ScreenForm {
   };
   std::shared_ptr<Master> FAMaster = std::make_shared<Master>();
 
+  /// How often the cleared dates and returned marks of the rows were read from the books.
+  std::int64_t MarksRead = 0;
+
   ControlArray<Label> lblTitle1;
   Label lblTitle2;
   CGridPlus Grid;
+  Menu mmOthers;
 
   /// Reads the account's entries anew.
   void FillGrid();
+
+  /// A new screen of the module, called from here; nothing, and a message, when there is no module.
+  FormPtr ModuleScreen(const std::string& key);
+
+  /// Shows a screen of the module on this account and period.
+  void ShowForPeriod(Form& screen);
 
  protected:
   void BuildBar() override;
   void LoadScreen() override;
   void FirstShow() override;
   void ButtonPressed(int index) override;
-  void OnActivate() override;
-  void UnloadScreen() override;
+  void ShownAgain() override;
   GridModel* MainGrid() override { return &Grid; }
 
  private:
@@ -56,24 +71,28 @@ class frmAccount : public ScreenForm {
   void PlaceControls();
   void SetColumns();
   bool AskAccount();
+  void OpenAnother();
   void AskPeriod();
+  void ReadMaster();
   void ShowTitles();
+  std::string EntriesCondition() const;
+  std::unordered_set<std::int64_t> ReturnedVouchers() const;
   void AddOpening(int& row, Sums& sums);
   void AddEntries(int& row, Sums& sums);
   void AddEntry(CDataSet& entry, int row, bool returned, Sums& sums);
+  void ShowTotals(const Sums& sums);
+  void ReadAnew();
+  void ReadMarks();
 
-  /// A new screen of the module, called from here; nothing, and a message, when there is no module.
-  FormPtr ModuleScreen(const std::string& key);
   void OpenWorkbench(bool interest);
   void OpenMarking();
-  void OpenReturnedCheques();
-
-  /// Shows a screen of the module on this account and period.
-  void ShowForPeriod(Form& screen);
+  void PopupOthers();
+  void Print(bool print);
   void Grid_KeyDown(KeyEvent& key);
   void OpenVoucher();
 
-  FormPtr markings_;  // while dates may have been stored behind this grid
+  std::vector<AccountTool> others_;
+  bool asking_ = false;  // while the picker is up, whose closing changes nothing by itself
 };
 
 }  // namespace quillon

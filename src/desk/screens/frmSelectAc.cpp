@@ -37,7 +37,8 @@ frmSelectAc::frmSelectAc()
   btnOKCancel(1).Move(Width - 1650, Height - 540, 1500, 420);
   SelGrid1.Title.Caption = "Select an Account";
   SelGrid1.Selected = [this] { Take(); };
-  btnOKCancel(0).Click = [this] { SelGrid1.Pick(SelGrid1.Grid.Row); };
+  SelGrid1.NotFound = [this](const std::string& typed) { TellNotFound(typed); };
+  btnOKCancel(0).Click = [this] { Confirm(); };
   btnOKCancel(1).Click = [this] { gRuntime->Hide(*this); };
 }
 
@@ -62,7 +63,19 @@ void frmSelectAc::OnActivate() { txpAccount.SetFocus(); }
 void frmSelectAc::OnKeyDown(KeyEvent& key) {
   if (key.KeyCode != keys::kF7 || key.Shift != 0) return;
   key.KeyCode = 0;
-  if (!SelGrid1.IsEmpty()) SelGrid1.Pick(SelGrid1.Grid.Row);
+  Confirm();
+}
+
+void frmSelectAc::Confirm() {
+  if (!SelGrid1.PickMeant()) TellNotFound(txpAccount.Text());
+}
+
+/// Nothing is taken that nobody asked for, and the user stays in the field.
+void frmSelectAc::TellNotFound(const std::string& typed) {
+  gStd->MsgBox(typed.empty() ? "Type the beginning of the account's head, or move to its line."
+                             : "No account begins with \"" + typed + "\".",
+               "", "W");
+  txpAccount.SetFocus();
 }
 
 void frmSelectAc::Take() {

@@ -45,6 +45,8 @@ class frmSelectAc : public Form {
   void OnKeyDown(KeyEvent& key) override;
 
  private:
+  void Confirm();
+  void TellNotFound(const std::string& typed);
   void Take();
 };
 

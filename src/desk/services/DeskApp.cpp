@@ -9,6 +9,7 @@
 #include "desk/services/PartyAddress.h"
 #include "host/controls/CMStrip.h"
 #include "host/forms/Runtime.h"
+#include "host/forms/WindowHandle.h"
 #include "host/values/ErrorText.h"
 
 namespace quillon {
@@ -18,7 +19,6 @@ namespace {
 constexpr int kKeyM = 77;
 
 /// What QuillonForm holds while a form stands in the list of open windows.
-class WindowHandle : public Object {};
 
 }  // namespace
 
@@ -85,7 +85,7 @@ void DeskApp::ShowForm(const FormPtr& form) { gRuntime->Show(form); }
 
 void DeskApp::RegisterForm(Form& form, const std::string& title, const std::string& iconKey) {
   windows_.push_back({&form, title, iconKey});
-  form.QuillonForm = std::make_shared<WindowHandle>();
+  form.QuillonForm = std::make_shared<WindowHandle>(title, iconKey);
 }
 
 void DeskApp::UnregisterForm(Form& form) {

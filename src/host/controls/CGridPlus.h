@@ -52,6 +52,9 @@ class CGridPlus : public EditableGrid {
 
   GridFooter Footer{*this};
 
+  /// False while, and after, a filling that did not reach its end.
+  Property<bool> Complete{*this, "Complete", true};
+
   State Describe() const override;
 
  private:

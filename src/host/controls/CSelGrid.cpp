@@ -7,6 +7,10 @@
 
 namespace quillon {
 
+bool Finds(std::string_view typed, std::string_view line) {
+  return text::Lower(line).starts_with(text::Lower(typed));
+}
+
 CSelGrid::CSelGrid(Control& parent, std::string name, int index)
     : Control(parent, std::move(name), index),
       Grid(*this, "Grid", kNoIndex, false),
@@ -27,9 +31,10 @@ bool CSelGrid::CompanionKey(const KeyEvent& key) {
     case keys::kDown:
     case keys::kPageUp:
     case keys::kPageDown:
+      meant_ = true;
       return Grid.HandleKey(key);
     case keys::kEnter:
-      Pick(Grid.Row);
+      if (!PickMeant()) NotFound.Raise(bound_ != nullptr ? bound_->Text() : "");
       return true;
     default:
       return false;
@@ -37,7 +42,13 @@ bool CSelGrid::CompanionKey(const KeyEvent& key) {
 }
 
 void CSelGrid::CompanionTyped(const std::string& text) {
-  if (Visible) Search(text);
+  if (Visible) meant_ = !text.empty() && Search(text);
+}
+
+bool CSelGrid::PickMeant() {
+  if (!meant_ || IsEmpty()) return false;
+  Pick(Grid.Row);
+  return true;
 }
 
 void CSelGrid::Load(const std::string& sql, CDbLink& db, bool captionFlag, int width) {
@@ -59,16 +70,16 @@ void CSelGrid::Load(const std::string& sql, CDbLink& db, bool captionFlag, int w
   if (width > 0 && cols > 0) Grid.SetColWidth(0, width * gRuntime->TextWidth(Grid.Font, "9"));
   Grid.Redraw = true;
   loaded_ = true;
+  meant_ = false;
 }
 
-void CSelGrid::Search(const std::string& text) {
-  const std::string wanted = text::Lower(text);
+bool CSelGrid::Search(const std::string& text) {
   for (int row = 1; row < Grid.Rows; ++row) {
-    if (text::Lower(Grid.Cell(row, 0)).compare(0, wanted.size(), wanted) == 0) {
-      Grid.Row = row;
-      return;
-    }
+    if (!Finds(text, Grid.Cell(row, 0))) continue;
+    Grid.Row = row;
+    return true;
   }
+  return false;
 }
 
 void CSelGrid::Pick(int row) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "host/controls/Label.h"
 #include "host/controls/MSHFlexGrid.h"
@@ -9,6 +10,9 @@
 namespace quillon {
 
 class CDbLink;
+
+/// Whether a typed text finds a line of a list, case ignored: the line begins with it.
+bool Finds(std::string_view typed, std::string_view line);
 
 /// A drop-down selection grid attached to a field: the first column is what the user sees and searches by.
 class CSelGrid : public Control, private ITextCompanion {
@@ -39,9 +43,16 @@ class CSelGrid : public Control, private ITextCompanion {
   /// A row was picked: its first column stands in the bound box.
   Event<> Selected;
 
-  /// Moves to the first row that begins with the text, ignoring case.
-  void Search(const std::string& text);
+  /// Moves to the first row that the text finds; false, and the row stays, when it finds none.
+  bool Search(const std::string& text);
   void Pick(int row);
+
+  /// Picks what the person means: the row that he moved to, or the first one that the typed text finds. False
+  /// when the text finds nothing, or when he neither typed nor moved.
+  bool PickMeant();
+
+  /// Enter, with a text that finds no line.
+  Event<const std::string&> NotFound;
 
   void UserPick(int row);
   void UserPick(const std::string& text);
@@ -53,6 +64,7 @@ class CSelGrid : public Control, private ITextCompanion {
 
   TextBox* bound_ = nullptr;
   bool loaded_ = false;
+  bool meant_ = false;  // the person moved to the row, or typed what finds it
 };
 
 }  // namespace quillon

@@ -17,8 +17,10 @@ class Menu : public Control {
   TextProperty Caption{*this, "Caption"};
   Event<int> Click;
 
-  /// The captions of the items, in order.
+  /// The captions of the items, in order, and the key of each by which a script may pick it; a menu may do
+  /// without keys.
   std::vector<std::string> Items;
+  std::vector<std::string> Keys;
 };
 
 }  // namespace quillon

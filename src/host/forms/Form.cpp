@@ -185,6 +185,7 @@ bool Form::RunQueryUnload(UnloadMode mode) {
 
 void Form::EndLife() {
   CallingForm.reset();
+  owner_.reset();
   loaded_ = false;
   active_ = nullptr;
 }

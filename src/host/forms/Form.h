@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -39,6 +40,13 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
   /// The form or host window that opened this one, or nothing. Cleared at Unload.
   FormPtr CallingForm;
 
+  /// Whether it stands on its caller: it took rows from there or stores into them, so that the caller keeps
+  /// those rows while this form is open.
+  virtual bool StandsOnCaller() const { return false; }
+
+  /// The form that this one was shown for; it goes with it. Nothing for a window of its own.
+  FormPtr Owner() const { return owner_.lock(); }
+
   /// The host's handle of the form; nothing until gApp->RegisterForm.
   std::shared_ptr<Object> QuillonForm;
 
@@ -55,6 +63,10 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
   Variant Get(const std::string& member) override;
   void Set(const std::string& member, const Variant& value) override;
   Variant Call(const std::string& method, const Array& arguments) override;
+
+  /// Whether Get knows a public member of that name, and Call a method.
+  bool HasMember(const std::string& name) const { return members_.contains(Key(name)); }
+  bool Offers(const std::string& method) const { return methods_.contains(Key(method)); }
 
   Control* ActiveControl() const { return active_; }
 
@@ -81,6 +93,7 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
   void RunUnload() { OnUnload(); }
   void EndLife();
   void SetShown(bool shown, bool modal);
+  void SetOwner(const FormPtr& owner) { owner_ = owner; }
 
   // For the controls.
   void List(Control& control) { controls_.push_back(&control); }
@@ -104,6 +117,11 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
   using MethodBody = std::function<Variant(const Array&)>;
   void Method(const std::string& name, MethodBody body) { methods_[Key(name)] = std::move(body); }
 
+  /// Registers a routine of the form as a method. A late call with fewer arguments, or with one that is not
+  /// of its kind, is refused with a HostError.
+  template <class T, class Result, class... Arguments>
+  void Routine(const std::string& name, Result (T::*body)(Arguments...));
+
  private:
   struct Binding {
     std::function<Variant()> get;
@@ -121,6 +139,7 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
   bool shown_ = false;
   bool modal_ = false;
   Control* active_ = nullptr;
+  std::weak_ptr<Form> owner_;
   std::vector<Control*> controls_;
   std::map<std::string, Binding> members_;
   std::map<std::string, MethodBody> methods_;
@@ -173,6 +192,26 @@ Variant Read(const T& value) {
 }
 
 }  // namespace member
+
+template <class T, class Result, class... Arguments>
+void Form::Routine(const std::string& name, Result (T::*body)(Arguments...)) {
+  Method(name, [this, name, body](const Array& given) -> Variant {
+    if (given.size() < sizeof...(Arguments)) throw HostError(name + " needs more arguments");
+    std::tuple<std::decay_t<Arguments>...> values;
+    const auto take = [&given](auto&... value) {
+      std::size_t at = 0;
+      (member::Assign(value, given[at++]), ...);
+    };
+    std::apply(take, values);
+    const auto call = [&](auto&... value) { return (static_cast<T*>(this)->*body)(value...); };
+    if constexpr (std::is_void_v<Result>) {
+      std::apply(call, values);
+      return Variant();
+    } else {
+      return Variant(std::apply(call, values));
+    }
+  });
+}
 
 template <class T>
 void Form::Member(const std::string& name, T& value) {

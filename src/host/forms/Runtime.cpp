@@ -33,15 +33,21 @@ void Runtime::Load(const FormPtr& form) {
   try {
     form->RunLoad();
   } catch (...) {
-    // Half a form is none: the next attempt loads it again.
+    // Half a form is none: it lets go of its caller, and the next attempt loads it again.
+    try {
+      form->RunUnload();
+    } catch (const std::exception&) {
+      // What failed first is what is told.
+    }
     End(*form);
     throw;
   }
 }
 
-void Runtime::Show(const FormPtr& form, bool modal, const FormPtr&) {
+void Runtime::Show(const FormPtr& form, bool modal, const FormPtr& owner) {
   Load(form);
   if (!form->IsLoaded()) return;  // Load may have unloaded it
+  form->SetOwner(owner);
   std::erase(shown_, form);
   shown_.push_back(form);
   form->SetShown(true, modal);
@@ -73,7 +79,8 @@ void Runtime::Hide(Form& form) {
 bool Runtime::Unload(Form& form, UnloadMode mode) {
   if (!form.IsLoaded()) return true;
   const FormPtr alive = form.Self();
-  if (!form.RunQueryUnload(mode)) return false;
+  if (!UnloadLastFirst(StandingOn(form), mode) || !form.RunQueryUnload(mode)) return false;
+  if (!UnloadLastFirst(OwnedBy(form), mode)) return false;
   if (!form.IsLoaded()) return true;
   try {
     form.RunUnload();
@@ -84,6 +91,26 @@ bool Runtime::Unload(Form& form, UnloadMode mode) {
   }
   End(form);
   return true;
+}
+
+bool Runtime::UnloadLastFirst(std::vector<FormPtr> forms, UnloadMode mode) {
+  return std::all_of(forms.rbegin(), forms.rend(),
+                     [this, mode](const FormPtr& form) { return Unload(*form, mode); });
+}
+
+std::vector<FormPtr> Runtime::StandingOn(const Form& form) const {
+  std::vector<FormPtr> standing;
+  std::copy_if(loaded_.begin(), loaded_.end(), std::back_inserter(standing), [&](const FormPtr& other) {
+    return other->CallingForm.get() == &form && other->StandsOnCaller();
+  });
+  return standing;
+}
+
+std::vector<FormPtr> Runtime::OwnedBy(const Form& form) const {
+  std::vector<FormPtr> owned;
+  std::copy_if(loaded_.begin(), loaded_.end(), std::back_inserter(owned),
+               [&](const FormPtr& other) { return other->Owner().get() == &form; });
+  return owned;
 }
 
 void Runtime::End(Form& form) {

@@ -74,18 +74,23 @@ class Runtime {
   /// Runs the form's Load once.
   void Load(const FormPtr& form);
 
-  /// Loads and shows; a modal show returns when the form is hidden or unloaded.
+  /// Loads and shows; a modal show returns when the form is hidden or unloaded. A form with an owner is
+  /// unloaded with it.
   void Show(const FormPtr& form, bool modal = false, const FormPtr& owner = nullptr);
 
   /// Ends a modal show and keeps the form loaded.
   void Hide(Form& form);
 
-  /// False when the form refused in its QueryUnload.
+  /// Closes what stands on the form first, the last opened first, and what it owns with it. False when one of
+  /// them refused in its QueryUnload: then the form stays.
   bool Unload(Form& form, UnloadMode mode = UnloadMode::Code);
 
   /// The loaded forms of one origin, in the order of loading.
   std::vector<FormPtr> Forms(Form::Origin origin) const;
   std::vector<FormPtr> AllForms() const { return loaded_; }
+
+  /// The loaded forms that stand on this one, in the order of loading.
+  std::vector<FormPtr> StandingOn(const Form& form) const;
 
   /// The modal form on top, otherwise the form shown last; nothing when none is shown.
   FormPtr ActiveForm() const;
@@ -175,6 +180,8 @@ class Runtime {
 
  private:
   void End(Form& form);
+  bool UnloadLastFirst(std::vector<FormPtr> forms, UnloadMode mode);
+  std::vector<FormPtr> OwnedBy(const Form& form) const;
   void UpdateActive();
   void RunModal(const FormPtr& form);
   void Press(const std::string& name);

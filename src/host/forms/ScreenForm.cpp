@@ -40,14 +40,6 @@ ScreenForm::ScreenForm(const ScreenSpec& spec, Origin origin)
   };
 }
 
-void ScreenForm::SetColumnsInChars(GridModel& grid, std::initializer_list<ColumnSpec> columns) {
-  const long unit = gRuntime->TextWidth(grid.Font, "9");
-  for (const ColumnSpec& column : columns) {
-    gStd->SetGridColumn(grid, column.column, column.title, static_cast<double>(column.chars * unit),
-                        column.alignment);
-  }
-}
-
 long ScreenForm::ContentTop() const { return MStrip1.Top + MStrip1.Height; }
 
 long ScreenForm::ContentBottom() const { return BtnBar1.Top; }
@@ -72,15 +64,42 @@ void ScreenForm::OnLoad() {
 }
 
 void ScreenForm::OnActivate() {
-  if (!firstShowing_) return;
-  firstShowing_ = false;
-  bool denied = false;
-  if (*spec_.rightKey != '\0' && gApp->CheckRight(spec_.rightKey, "N", denied)) {
-    gRuntime->Unload(*this);
+  const bool first = std::exchange(firstShowing_, false);
+  if ((first || spec_.rightEachTime) && !MayOpen()) return;
+  if (!first) {
+    ShownAgain();
     return;
   }
-  FirstShow();
-  if (!IsLoaded()) return;
+  try {
+    FirstShow();
+  } catch (...) {
+    if (IsLoaded()) Register();
+    throw;
+  }
+  if (IsLoaded()) Register();
+}
+
+/// Anything but a clear yes to the right is a no, and the screen closes.
+bool ScreenForm::MayOpen() {
+  if (*spec_.rightKey == '\0') return true;
+  bool denied = true;
+  try {
+    gApp->CheckRight(spec_.rightKey, "N", denied);
+  } catch (...) {
+    gRuntime->Unload(*this);
+    throw;
+  }
+  if (denied) gRuntime->Unload(*this);
+  return !denied;
+}
+
+bool ScreenForm::MayPrint() {
+  bool denied = true;
+  if (*spec_.rightKey != '\0') gApp->CheckRight(spec_.rightKey, "P", denied);
+  return *spec_.rightKey == '\0' || !denied;
+}
+
+void ScreenForm::Register() {
   if (!QuillonForm && *spec_.registerTitle != '\0') {
     gApp->RegisterForm(*this, spec_.registerTitle, spec_.iconKey);
     registered_ = true;
@@ -102,7 +121,9 @@ void ScreenForm::OnKeyDown(KeyEvent& key) {
   if (key.Shift != 0 || key.KeyCode < spec_.firstKey || key.KeyCode > spec_.lastKey) return;
   const int index = key.KeyCode - spec_.firstKey;
   key.KeyCode = 0;
-  if (index < BtnBar1.Count() && BtnBar1.IsReachable()) BtnBar1.Buttons(index).Click();
+  if (index < BtnBar1.Count() && BtnBar1.IsReachable() && BtnBar1.Buttons(index).Visible()) {
+    BtnBar1.Buttons(index).Click();
+  }
 }
 
 void ScreenForm::OnKeyPress(int& character) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 
 #include "host/controls/CButtonBar.h"
@@ -9,6 +8,7 @@
 #include "host/controls/GridModel.h"
 #include "host/controls/Label.h"
 #include "host/forms/Form.h"
+#include "host/forms/GridColumns.h"
 
 namespace quillon {
 
@@ -18,12 +18,13 @@ struct ScreenSpec {
   const char* caption;  ///< of lblTitle as designed
   const char*
       titleSuffix;  ///< behind the caller's title, e.g. " -> Reconciliation"; empty leaves the design caption
-  const char* rightKey;       ///< checked with "N" at the first activation; empty asks for none
+  const char* rightKey;       ///< checked with "N" at the first activation, "P" to print; empty asks for none
   const char* registerTitle;  ///< in the host's list of open windows; empty keeps out of it
   const char* iconKey;
   int firstKey = 0;  ///< the function key of button 0
   int lastKey = 0;   ///< the last function key that presses a button
   bool initForm = false;
+  bool rightEachTime = false;  ///< the right is asked for at every activation
 };
 
 /// A full-size screen: its area, title, bar of F keys, rights and registration, Enter as Tab, Esc as Exit and
@@ -44,9 +45,12 @@ class ScreenForm : public Form {
   virtual void LoadScreen() = 0;
 
   /// The first activation, after the right was checked; the form may unload itself here. Afterwards it is
-  /// registered.
+  /// registered, also when this throws: a screen that could not be filled is left like any other.
   virtual void FirstShow() {}
   virtual void ButtonPressed(int index) = 0;
+
+  /// The screen has become the current one again.
+  virtual void ShownAgain() {}
 
   /// The Exit button, Esc too; cancel keeps the form.
   virtual void ExitPressed(bool& /*cancel*/) {}
@@ -55,18 +59,11 @@ class ScreenForm : public Form {
   /// Takes the focus after the first activation.
   virtual GridModel* MainGrid() { return nullptr; }
 
+  /// Whether the user may print here; otherwise he was told.
+  bool MayPrint();
+
   /// Clicks the standard Exit button.
   void PressExit() { QuillonStdButtons1.Buttons(CStdButtons::kExit).Click(); }
-
-  /// A column of a grid as a screen states it; the width in characters, which are as wide as the "9" of the
-  /// grid's font.
-  struct ColumnSpec {
-    int column;
-    const char* title;
-    int chars;
-    int alignment;
-  };
-  static void SetColumnsInChars(GridModel& grid, std::initializer_list<ColumnSpec> columns);
 
   /// Twips; where the screen's own controls begin and end.
   long ContentTop() const;
@@ -80,6 +77,8 @@ class ScreenForm : public Form {
 
  private:
   void PlaceFrame();
+  bool MayOpen();
+  void Register();
 
   const ScreenSpec& spec_;
   bool firstShowing_ = true;

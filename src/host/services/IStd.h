@@ -45,6 +45,13 @@ class IStd {
   virtual int MsgBox(const std::string& text, const std::string& buttons = "", const std::string& icon = "",
                      const std::string& title = "", int defaultButton = 0, int style = 0) = 0;
 
+  static constexpr int kNo = 2;  ///< of AskYesNo: No is the default
+
+  /// A question with Yes and No; true for Yes. Leaving the box is No.
+  bool AskYesNo(const std::string& text, const std::string& icon = "Q", int defaultButton = 0) {
+    return MsgBox(text, "2", icon, "", defaultButton) == 1;
+  }
+
   /// Queues keys, "{TAB}" and the like; they arrive after the event at hand, or at the next DoEvents.
   virtual void SendKeys(const std::string& keys) = 0;
 

@@ -3,7 +3,7 @@
 namespace quillon {
 
 /// The row layout of the statement of account's grid, which the screens that are opened on it read and share.
-namespace statement_col {
+namespace account_col {
 
 inline constexpr int kVoucherId = 0;  ///< 0 or empty on rows that are no entry
 inline constexpr int kBookCode = 1;
@@ -22,6 +22,6 @@ inline constexpr int kClearedEdit = 27;  ///< in the workbench: the editable "Cl
 inline constexpr int kReturned = 28;     ///< "Y" when the cheque is returned
 inline constexpr int kCount = 29;
 
-}  // namespace statement_col
+}  // namespace account_col
 
 }  // namespace quillon

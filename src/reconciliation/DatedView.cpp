@@ -1,0 +1,76 @@
+#include "reconciliation/DatedView.h"
+
+#include <utility>
+
+#include "host/forms/Busy.h"
+#include "host/forms/Progress.h"
+#include "host/services/host_services.h"
+
+namespace quillon {
+
+DatedView::DatedView(WorkbenchAccount& account, CGridPlus& grid, const Columns& columns)
+    : WorkbenchView(account, grid), columns_(columns) {
+  grid_.Changed = [this] { cellEdited_ = true; };
+  grid_.ValidateCell = [this](int row, int col, std::string& text, bool& cancel) {
+    ValidateCell(row, col, text, cancel);
+  };
+}
+
+books::EntryKey DatedView::EntryOf(int row) const {
+  return books::EntryKey::OfRow(grid_, row, columns_.Voucher, columns_.Line);
+}
+
+bool DatedView::TakeEdit() { return std::exchange(cellEdited_, false); }
+
+void DatedView::ValidateCell(int row, int col, std::string& text, bool& cancel) {
+  if (col != columns_.Cleared || !cellEdited_) return;
+  if (text == "00" && row > 1) {
+    FillDown(row, text);
+    return;
+  }
+  if (text == "=" && row > 1) {
+    text = EntryOf(row - 1).IsEntry() ? grid_.TextMatrix(row - 1, col) : "";
+  } else if (!text.empty()) {
+    const Date date = Date::Parse(gStd->ParseDateText(text, grid_.TextMatrix(row, columns_.Day)));
+    if (text == "=" || date.IsEmpty() || !IsAccepted(date)) {
+      gStd->MsgBox("Invalid Date", "", "E");
+      cancel = true;
+      return;
+    }
+    text = date.Text();
+  }
+  Save(row, text);
+}
+
+void DatedView::Save(int row, const std::string& dateText) {
+  const Date date = Date::Parse(dateText);
+  if (row < 1) throw SubscriptError("row " + std::to_string(row));
+  if (date.IsEmpty() && !dateText.empty()) throw HostError("This is no date: " + dateText);
+  const books::EntryKey entry = EntryOf(row);
+  account_.StoreClearedDate(entry, date);
+  grid_.SetTextMatrix(row, columns_.Cleared, date.Text());
+  Stored(entry, row, date.Text());
+}
+
+bool DatedView::IsSource(int row) const {
+  return grid_.IsRowVisible(row) && EntryOf(row).IsEntry() && !grid_.Cell(row, columns_.Cleared).empty();
+}
+
+void DatedView::FillDown(int row, std::string& text) {
+  const BusyPointer pointer;
+  int from = row - 1;
+  while (from > 0 && !IsSource(from)) --from;
+  if (from == 0) {
+    text = grid_.TextMatrix(row, columns_.Cleared);
+    return;
+  }
+  grid_.EndEdit();
+  const BusyJob job;
+  const std::string date = grid_.TextMatrix(from, columns_.Cleared);
+  Progress progress("Filling dates", row - from);
+  for (int next = from + 1; next <= row; ++next, progress.Step()) {
+    if (grid_.IsRowVisible(next) && EntryOf(next).IsEntry()) Save(next, date);
+  }
+}
+
+}  // namespace quillon
