@@ -4,8 +4,9 @@
 
 #include "books/BooksNames.h"
 #include "books/SqlText.h"
-#include "host/controls/RedrawHold.h"
 #include "host/forms/Busy.h"
+#include "host/forms/GridFill.h"
+#include "host/forms/GridRows.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
 
@@ -26,7 +27,6 @@ constexpr ScreenSpec kScreen = {
 };
 
 constexpr int kHostRuling = -1;
-constexpr int kOwnAlignment = -1;
 
 namespace col {
 
@@ -64,21 +64,9 @@ std::string LinesQuery(const std::string& account, const std::string& period) {
 
 }  // namespace
 
-frmChqRetReport::frmChqRetReport()
-    : ScreenForm(kScreen, Origin::Module), lblTitle2(*this, "lblTitle2"), Grid(*this, "Grid") {
-  Member("AccountCode", AccountCode);
-  Member("Date1", Date1);
-  Member("Date2", Date2);
-  Method("FillGrid", [this](const Array&) {
-    FillGrid();
-    return Variant();
-  });
-  Grid.DblClick = [this] { OpenVoucher(); };
-  Grid.RowChange = [this](int row) { MStrip1.Code = ValInteger(Grid.Cell(row, col::kCode)); };
-  Grid.KeyDown = [this](KeyEvent& key) { Grid_KeyDown(key); };
-  Grid.KeyPress = [this](int& character) {
-    if (character == '/') MStrip1.OpenMaster();
-  };
+frmChqRetReport::frmChqRetReport() : ListScreen(kScreen, Origin::Module), lblTitle2(*this, "lblTitle2") {
+  MemberPeriod(*this);
+  Routine("FillGrid", &frmChqRetReport::FillGrid);
 }
 
 void frmChqRetReport::BuildBar() {
@@ -89,41 +77,41 @@ void frmChqRetReport::BuildBar() {
 void frmChqRetReport::LoadScreen() {
   MStrip1.Width = Width / 2;
   lblTitle2.Move(Width / 2, MStrip1.Top, Width - Width / 2, MStrip1.Height);
-  Grid.Move(0, ContentTop(), Width, ContentBottom() - ContentTop());
-  Grid.Font = quillon::Font{"Tahoma", 9.75, false, false, false};
+  PlaceGrid(ContentTop());
   Grid.Visible = false;
 }
 
 void frmChqRetReport::FirstShow() {
-  lblTitle2.Caption = "Period: " + Date1.Format("dd/MM/yyyy") + " to " + Date2.Format("dd/MM/yyyy");
-  FillGrid();
+  lblTitle2.Caption = PeriodText();
   Grid.Visible = true;
+  FillGrid();
 }
 
 void frmChqRetReport::SetupGrid() {
   Grid.Cols = col::kCount;
   gStd->SetupGrid(Grid);
   Grid.HideAllColumns();
-  const auto set = [&](int column, const char* title, long width, int alignment = kOwnAlignment) {
-    gStd->SetGridColumn(Grid, column, title, static_cast<double>(width), alignment);
-  };
-  set(col::kDate, "Date", 1000);
-  set(col::kHead, "A/c Head", 2000);
-  set(col::kStation, "Station", 900);
-  set(col::kAgent, "Agent", 1200);
-  set(col::kNarration, "Narration", 2000);
-  set(col::kDebit, "Debit", 1200, kAlignRight);
-  set(col::kCredit, "Credit", 1200, kAlignRight);
+  SetColumnsInTwips(Grid, {
+                              {col::kDate, "Date", 1000},
+                              {col::kHead, "A/c Head", 2000},
+                              {col::kStation, "Station", 900},
+                              {col::kAgent, "Agent", 1200},
+                              {col::kNarration, "Narration", 2000},
+                              {col::kDebit, "Debit", 1200, kAlignRight},
+                              {col::kCredit, "Credit", 1200, kAlignRight},
+                          });
 }
 
 void frmChqRetReport::FillGrid() {
   const BusyJob job;
-  Grid.Title = "Account: " +
-               gSession->MainDb().Lookup("FAMASTER", "MHD", "MCD=" + books::SqlNumber(AccountCode)).ToText();
-  const RedrawHold hold(Grid);
+  GridFill fill(
+      Grid,
+      "Account: " +
+          gSession->MainDb().Lookup("FAMASTER", "MHD", "MCD=" + books::SqlNumber(AccountCode)).ToText());
   Grid.Rows = 1;
   SetupGrid();
   AddLines();
+  fill.Done();
 }
 
 void frmChqRetReport::AddLines() {
@@ -148,35 +136,20 @@ void frmChqRetReport::AddLines() {
   }
   Grid.Rows = std::max(row + 1, 2);
   Grid.Row = 1;
-  AddTotals(debits, credits);
+  ShowTotals(Grid, 0, col::kHead, "Totals", {{col::kDebit, debits}, {col::kCredit, credits}});
 }
 
-void frmChqRetReport::AddTotals(Amount debits, Amount credits) {
-  Grid.Footer.Clear();
-  Grid.Footer.SetRows(1);
-  Grid.Footer.SetTextMatrix(0, col::kHead, "Totals");
-  Grid.Footer.SetTextMatrix(0, col::kDebit, gStd->FormatAmount(debits, "C2"));
-  Grid.Footer.SetTextMatrix(0, col::kCredit, gStd->FormatAmount(credits, "C2"));
+void frmChqRetReport::Print(bool print) {
+  gReports->ShowGrid(Grid, nullptr, lblTitle.Caption, lblTitle2.Caption, kHostRuling, print, "",
+                     "Title2:=" + Grid.Title);
 }
 
-void frmChqRetReport::ButtonPressed(int index) {
-  const std::string key = BtnBar1.Buttons(index).Key();
-  if (key == "Preview" || key == "Print") {
-    gReports->ShowGrid(Grid, nullptr, lblTitle.Caption, lblTitle2.Caption, kHostRuling, key == "Print", "",
-                       "Title2:=" + Grid.Title);
-  } else if (key == "Exit") {
-    PressExit();
-  }
+long frmChqRetReport::AccountOfRow(int row) const {
+  return static_cast<long>(ValInteger(Grid.Cell(row, col::kCode)));
 }
 
-void frmChqRetReport::Grid_KeyDown(KeyEvent& key) {
-  if (key.KeyCode != keys::kEnter || key.Shift != 0) return;
-  key.KeyCode = 0;
-  OpenVoucher();
-}
-
-void frmChqRetReport::OpenVoucher() {
-  const std::int64_t voucher = ValInteger(Grid.Cell(Grid.Row, col::kVoucherId));
+void frmChqRetReport::OpenRow(int row) {
+  const std::int64_t voucher = ValInteger(Grid.Cell(row, col::kVoucherId));
   if (voucher != 0) gApp->OpenVoucher(*this, voucher, gSession->Year().StartYear(), AccountCode);
 }
 

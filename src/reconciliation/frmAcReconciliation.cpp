@@ -1,7 +1,9 @@
 #include "reconciliation/frmAcReconciliation.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "books/SqlText.h"
-#include "host/forms/GridFill.h"
 #include "host/services/host_services.h"
 
 namespace quillon {
@@ -45,9 +47,7 @@ frmAcReconciliation::frmAcReconciliation()
       statement_(account_, GridStatement),
       passBook_(account_, GridPBook),
       interest_(account_, GridIntt) {
-  Member("AccountCode", AccountCode);
-  Member("Date1", Date1);
-  Member("Date2", Date2);
+  MemberPeriod(*this);
   Member("bCalcInt", bCalcInt);
   RegisterRoutines();
   statement_.DateStored = [this](const books::EntryKey& entry, const std::string& dateText) {
@@ -162,12 +162,15 @@ void frmAcReconciliation::RequireAllViews() const {
   if (bCalcInt) throw HostError("This window shows the interest alone");
 }
 
-WorkbenchView* frmAcReconciliation::VisibleView() {
-  for (WorkbenchView* view :
-       std::initializer_list<WorkbenchView*>{&entries_, &statement_, &passBook_, &interest_}) {
-    if (view->IsShown()) return view;
-  }
-  return nullptr;
+WorkbenchView* frmAcReconciliation::VisibleView() const {
+  const auto shown = std::find_if(std::begin(views_), std::end(views_),
+                                  [](const WorkbenchView* view) { return view->IsShown(); });
+  return shown == std::end(views_) ? nullptr : *shown;
+}
+
+const CGridPlus* frmAcReconciliation::PrintedGrid() const {
+  const WorkbenchView* const view = VisibleView();
+  return view != nullptr ? &view->Grid() : nullptr;
 }
 
 void frmAcReconciliation::HideGrids() {
@@ -202,11 +205,7 @@ void frmAcReconciliation::ShowEntries() {
 // --- The buttons
 // --------------------------------------------------------------------------------------------------
 
-void frmAcReconciliation::ButtonPressed(int index) {
-  const std::string key = BtnBar1.Buttons(index).Key();
-  WorkbenchView* const view = VisibleView();
-  // A date that is being typed is stored first, so that the view that is asked for has it.
-  if (key != "Exit" && view != nullptr && !view->Grid().EndEdit()) return;
+void frmAcReconciliation::Pressed(const std::string& key) {
   if (key == "MassMarking") {
     PopupMarking();
   } else if (key == "ShowRef") {
@@ -218,11 +217,13 @@ void frmAcReconciliation::ButtonPressed(int index) {
   } else if (key == "PassBook") {
     HideGrids();
     UpdateGridPassBook();
-  } else if (key == "Preview" || key == "Print") {
-    Print(key == "Print");
-  } else if (key == "Exit") {
-    PressExit();
   }
+}
+
+/// A date that is being typed is stored first, so that the view that is asked for has it.
+bool frmAcReconciliation::EndEditing() {
+  WorkbenchView* const view = VisibleView();
+  return view == nullptr || view->Grid().EndEdit();
 }
 
 void frmAcReconciliation::ExitPressed(bool& cancel) {
@@ -239,10 +240,7 @@ void frmAcReconciliation::ExitPressed(bool& cancel) {
 }
 
 /// A date that is being typed is stored; one that cannot be keeps the screen open.
-void frmAcReconciliation::OnQueryUnload(bool& cancel, UnloadMode /*mode*/) {
-  WorkbenchView* const view = VisibleView();
-  cancel = view != nullptr && !view->Grid().EndEdit();
-}
+void frmAcReconciliation::OnQueryUnload(bool& cancel, UnloadMode /*mode*/) { cancel = !EndEditing(); }
 
 void frmAcReconciliation::PopupMarking() {
   PopupMenu(mmMarking, BtnBar1.Left + BtnBar1.Buttons("MassMarking").Left(), BtnBar1.Top);
@@ -290,7 +288,7 @@ Amount frmAcReconciliation::CalcInterest(Amount product) { return interest_.Calc
 
 void frmAcReconciliation::Print(bool print) {
   WorkbenchView* const view = VisibleView();
-  if (view == nullptr || !MayPrint() || !RequireComplete(view->Grid())) return;
+  if (view == nullptr) return;
   CReportOptions options;
   options.DataRS.Open("select * from famaster where mcd=" + books::SqlNumber(AccountCode),
                       gSession->MainDb());

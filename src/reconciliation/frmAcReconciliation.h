@@ -19,14 +19,11 @@ namespace quillon {
 /// come from the account's own statement, which opened the screen, and every date goes to the books and back
 /// into that statement at once. Four views share one place, of which one shows: the entries, the
 /// reconciliation statement, the pass book and the interest.
-class frmAcReconciliation : public ScreenForm {
+class frmAcReconciliation : public ScreenForm, public AccountPeriod {
  public:
   frmAcReconciliation();
 
-  /// Taken from the calling statement when there is one, with the dates.
-  long AccountCode = 0;
-  Date Date1;
-  Date Date2;
+  // The account and period are taken from the calling statement when there is one.
 
   /// Opens straight into the interest of the account, and shows no other view.
   bool bCalcInt = false;
@@ -69,7 +66,10 @@ class frmAcReconciliation : public ScreenForm {
   void BuildBar() override;
   void LoadScreen() override;
   void FirstShow() override;
-  void ButtonPressed(int index) override;
+  void Pressed(const std::string& key) override;
+  void Print(bool print) override;
+  const CGridPlus* PrintedGrid() const override;
+  bool EndEditing() override;
   void ExitPressed(bool& cancel) override;
   void OnQueryUnload(bool& cancel, UnloadMode mode) override;
   void UnloadScreen() override;
@@ -86,14 +86,14 @@ class frmAcReconciliation : public ScreenForm {
   void ShowEntries();
   void ShowView(WorkbenchView& view, const char* button);
   void RequireAllViews() const;
-  WorkbenchView* VisibleView();
-  void Print(bool print);
+  WorkbenchView* VisibleView() const;
 
   WorkbenchAccount account_;
   EntriesView entries_;
   StatementView statement_;
   PassBookView passBook_;
   InterestView interest_;
+  WorkbenchView* const views_[4] = {&entries_, &statement_, &passBook_, &interest_};
 };
 
 }  // namespace quillon

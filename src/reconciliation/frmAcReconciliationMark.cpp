@@ -52,12 +52,13 @@ frmAcReconciliationMark::frmAcReconciliationMark()
       MStrip2(*this, "MStrip2") {
   Caption = "Reconciliation Markings";
   Member("FYear", FYear);
-  Member("AccountCode", AccountCode);
-  Member("Date1", Date1);
-  Member("Date2", Date2);
+  MemberPeriod(*this);
   Method("FindChequeNo", [this](const Array& arguments) {
+    if (arguments.size() < 2) throw HostError("FindChequeNo needs a cheque number and a row");
+    const auto row = static_cast<int>(arguments[1].ToInteger());
+    if (row < 1 || row >= Grid.Rows) throw SubscriptError("row " + std::to_string(row));
     bool ok = false;
-    FindChequeNo(arguments.at(0).ToText(), static_cast<int>(arguments.at(1).ToInteger()), ok);
+    FindChequeNo(arguments[0].ToText(), row, ok);
     return ok;
   });
   ConnectGrid();
@@ -83,7 +84,7 @@ void frmAcReconciliationMark::LoadScreen() {
 }
 
 void frmAcReconciliationMark::FirstShow() {
-  Grid.Title = "Period: " + Date1.Format("dd/MM/yyyy") + " to " + Date2.Format("dd/MM/yyyy");
+  Grid.Title = PeriodText();
   SetColumns();
   ShowControls(true);
   MStrip2.Code = AccountCode;
@@ -103,14 +104,16 @@ void frmAcReconciliationMark::SetColumns() {
   Grid.Cols = col::kCount;
   gStd->SetupGrid(Grid);
   Grid.HideAllColumns();
-  gStd->SetGridColumn(Grid, col::kClearDate, "Clear Date", 1200, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kChequeNo, "Chq. No.", 1000, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kVoucherDate, "Vch.Date", 1200, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kNarration, "Narration", 2000, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kDebit, "Debit", 1200, kAlignRight);
-  gStd->SetGridColumn(Grid, col::kCredit, "Credit", 1200, kAlignRight);
-  gStd->SetGridColumn(Grid, col::kPreMarked, "Pre Marked", 1200, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kCrossRef, "Cross Ref.", 2500, kAlignLeft);
+  SetColumnsInTwips(Grid, {
+                              {col::kClearDate, "Clear Date", 1200, kAlignLeft},
+                              {col::kChequeNo, "Chq. No.", 1000, kAlignLeft},
+                              {col::kVoucherDate, "Vch.Date", 1200, kAlignLeft},
+                              {col::kNarration, "Narration", 2000, kAlignLeft},
+                              {col::kDebit, "Debit", 1200, kAlignRight},
+                              {col::kCredit, "Credit", 1200, kAlignRight},
+                              {col::kPreMarked, "Pre Marked", 1200, kAlignLeft},
+                              {col::kCrossRef, "Cross Ref.", 2500, kAlignLeft},
+                          });
   Grid.SetColEditable(col::kClearDate, true);
   Grid.SetColEditable(col::kChequeNo, true);
   Grid.Rows = 2;
@@ -284,17 +287,9 @@ void frmAcReconciliationMark::FindParty(int row) {
 // --- The buttons
 // --------------------------------------------------------------------------------------------------
 
-void frmAcReconciliationMark::ButtonPressed(int index) {
-  const std::string key = BtnBar1.Buttons(index).Key();
-  if (key == "RemoveMark") {
-    RemoveMark();
-  } else if (key == "Clear") {
-    ClearPage();
-  } else if (key == "Preview" || key == "Print") {
-    Print(key == "Print");
-  } else if (key == "Exit") {
-    PressExit();
-  }
+void frmAcReconciliationMark::Pressed(const std::string& key) {
+  if (key == "RemoveMark") RemoveMark();
+  if (key == "Clear") ClearPage();
 }
 
 /// The mark goes from every line of the voucher, on all its accounts.
@@ -320,8 +315,6 @@ void frmAcReconciliationMark::ClearPage() {
 }
 
 void frmAcReconciliationMark::Print(bool print) {
-  bool denied = false;
-  if (gApp->CheckRight("acst.reconciliation", "P", denied)) return;
   gReports->ShowGrid(Grid, nullptr, Grid.Title, lblTitle.Caption, -1, print);
 }
 

@@ -15,17 +15,14 @@ namespace quillon {
 
 /// "Reconciliation Markings": the user keys in the bank's own statement, line by line, as a clear date and a
 /// cheque number; the form finds the entry and marks it cleared at once. The page itself is kept nowhere.
-class frmAcReconciliationMark : public ScreenForm {
+class frmAcReconciliationMark : public ScreenForm, public AccountPeriod {
  public:
   frmAcReconciliationMark();
 
   /// The year whose books are marked; the open one when nothing was set.
   std::shared_ptr<FinYear> FYear;
-  long AccountCode = 0;
 
-  /// The period that the title tells; the search does not keep to it.
-  Date Date1;
-  Date Date2;
+  // The period is what the title tells; the search does not keep to it.
 
   /// Finds the entry with that number for a row of Grid, fills the row and stores the clear date. `ok` is
   /// false when none, too many or none of several was taken.
@@ -42,7 +39,9 @@ class frmAcReconciliationMark : public ScreenForm {
   void BuildBar() override;
   void LoadScreen() override;
   void FirstShow() override;
-  void ButtonPressed(int index) override;
+  void Pressed(const std::string& key) override;
+  void Print(bool print) override;
+  const CGridPlus* PrintedGrid() const override { return &Grid; }
   GridModel* MainGrid() override { return &Grid; }
 
  private:
@@ -70,7 +69,6 @@ class frmAcReconciliationMark : public ScreenForm {
 
   void RemoveMark();
   void ClearPage();
-  void Print(bool print);
 };
 
 }  // namespace quillon

@@ -1,6 +1,5 @@
 #include "reconciliation/frmInttMethod.h"
 
-#include "host/forms/Runtime.h"
 #include "host/services/ISession.h"
 #include "host/services/IStd.h"
 #include "host/values/Text.h"
@@ -15,24 +14,20 @@ constexpr int kFirstYearWithoutSavingsBank = 2011;
 }  // namespace
 
 frmInttMethod::frmInttMethod()
-    : Form("frmInttMethod"),
+    : DialogForm(
+          {.className = "frmInttMethod", .caption = "Interest Options", .width = 6300, .height = 2550}),
       Frame1(*this, "Frame1"),
       Label1(Frame1, "Label1"),
       cmbInttMethod(Frame1, "cmbInttMethod"),
-      txpInttRate(Frame1, "txpInttRate"),
-      btnOKCancel(*this, "btnOKCancel", {0, 1}) {
+      txpInttRate(Frame1, "txpInttRate") {
   Member("InttRate", InttRate);
   Member("InttMethod", InttMethod);
   Member("ShowBusMethod", ShowBusMethod);
-  Member("Cancelled", Cancelled);
   DesignControls();
   cmbInttMethod.Click = [this] { cmbInttMethod_Click(); };
-  btnOKCancel(0).Click = [this] { Confirm(); };
-  btnOKCancel(1).Click = [this] { gRuntime->Unload(*this); };
 }
 
-void frmInttMethod::OnLoad() {
-  Cancelled = true;
+void frmInttMethod::LoadDialog() {
   txpInttRate.Text = gStd->FormatAmount(InttRate, "N4");
   FillMethods();
 }
@@ -60,30 +55,16 @@ void frmInttMethod::cmbInttMethod_Click() {
       "interest on Savings A/c from F.Y. 2011-12 onwards.");
 }
 
-void frmInttMethod::Confirm() {
+bool frmInttMethod::Confirm() {
   const double typed = Val(txpInttRate.Text());
   if (typed == 0) {
     gStd->MsgBox("Enter Interest Rate", "", "W");
     txpInttRate.SetFocus();
-    return;
+    return false;
   }
   InttRate = Amount::OfDouble(typed);
   InttMethod = cmbInttMethod.Text();
-  Cancelled = false;
-  gRuntime->Unload(*this);
-}
-
-void frmInttMethod::OnKeyDown(KeyEvent& key) {
-  if (key.KeyCode != keys::kF7 || key.Shift != 0) return;
-  key.KeyCode = 0;
-  Confirm();
-}
-
-void frmInttMethod::OnKeyPress(int& character) {
-  if (character != keys::kEnter) return;
-  if (ActiveControl() != nullptr && ActiveControl()->KeepsEnter()) return;
-  gStd->SendKeys("{TAB}");
-  character = 0;
+  return true;
 }
 
 }  // namespace quillon

@@ -2,18 +2,16 @@
 
 #include <string>
 
-#include "host/controls/CButton.h"
 #include "host/controls/CTextPlus.h"
 #include "host/controls/ComboBox.h"
-#include "host/controls/ControlArray.h"
 #include "host/controls/Frame.h"
 #include "host/controls/Label.h"
-#include "host/forms/Form.h"
+#include "host/forms/DialogForm.h"
 
 namespace quillon {
 
 /// "Interest Options": asks the rate and the method before interest is worked out.
-class frmInttMethod : public Form {
+class frmInttMethod : public DialogForm {
  public:
   frmInttMethod();
 
@@ -24,25 +22,19 @@ class frmInttMethod : public Form {
   /// Offers "Business Interest" too.
   bool ShowBusMethod = false;
 
-  /// True from Load until the user confirms.
-  bool Cancelled = true;
-
   quillon::Frame Frame1;
   Label Label1;
   ComboBox cmbInttMethod;
   CTextPlus txpInttRate;
-  ControlArray<CButton> btnOKCancel;
 
  protected:
-  void OnLoad() override;
-  void OnKeyDown(KeyEvent& key) override;
-  void OnKeyPress(int& character) override;
+  void LoadDialog() override;
+  bool Confirm() override;
 
  private:
   void DesignControls();
   void FillMethods();
   void cmbInttMethod_Click();
-  void Confirm();
 };
 
 }  // namespace quillon

@@ -75,6 +75,42 @@ TEST_F(Account, WithoutAnAccountItAsksForOne) {
   EXPECT_EQ(Rows(form).size(), 4U);
 }
 
+TEST_F(Account, EnterInThePickerTakesOnlyWhatWasTypedOrMovedTo) {
+  std::vector<std::function<void()>> acts;
+  const auto picker = [&] { return runtime_.ActiveForm(); };
+  std::size_t next = 0;
+  runtime_.NextCommand = [&] {
+    if (next == acts.size()) return false;
+    Do(acts[next++]);
+    return true;
+  };
+  const auto type = [&](const std::string& text) {
+    At<CTextPlus>(picker(), "txpAccount").UserType("");
+    TypeKeys(*picker(), text);
+  };
+  const auto enter = [&](int key, const std::string& told) {
+    AnswerMessage();
+    Key(*picker(), key);
+    EXPECT_EQ(Messages(), Texts{told});
+    EXPECT_EQ(picker()->Name(), "frmSelectAc");
+  };
+  acts = {[&] { enter(keys::kEnter, "Type the beginning of the account's head, or move to its line."); },
+          [&] {
+            type("asha");
+            type("zzz");
+            enter(keys::kEnter, "No account begins with \"zzz\".");
+            enter(keys::kF7, "No account begins with \"zzz\".");
+          },
+          [&] {
+            Key(*picker(), keys::kDown);
+            Key(*picker(), keys::kEnter);
+          }};
+  const FormPtr form = ShowStatement(0);
+  EXPECT_EQ(next, acts.size());
+  EXPECT_EQ(form->Get("AccountCode").ToInteger(), 101) << "the line below the one that was found last";
+  runtime_.NextCommand = nullptr;
+}
+
 TEST_F(Account, AnAccountThatThereIsNotIsToldInPlainWords) {
   const FormPtr form = ShowStatement(999);
   EXPECT_EQ(Errors(), Texts{"There is no account with the code 999"});

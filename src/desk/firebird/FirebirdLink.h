@@ -50,7 +50,7 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   std::vector<Variant> InsertWith(const std::string& statement, std::span<const Variant> values);
 
   const std::string& Label() const { return label_; }
-  bool InTransaction() const { return inTransaction_; }
+  bool InTransaction() const override { return inTransaction_; }
 
   /// The observer must outlive the link or be taken off with nothing.
   void SetObserver(SqlObserver* observer) { observer_ = observer; }

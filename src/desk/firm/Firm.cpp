@@ -5,6 +5,7 @@
 
 #include "desk/firm/Schema.h"
 #include "host/data/CDataSet.h"
+#include "host/services/FinYear.h"
 #include "host/values/Errors.h"
 
 namespace quillon {
@@ -93,6 +94,14 @@ const FirmYear& Firm::OpenYear(int startYear) {
   Schema::RefreshStatistics(*opened.Db);
   opened.Db->SetObserver(observer_);
   return years_.emplace(startYear, std::move(opened)).first->second;
+}
+
+std::vector<FirmLink> Firm::Links() const {
+  std::vector<FirmLink> links = {{common_.get(), "the firm's common data"}};
+  for (const auto& [start, year] : years_) {
+    links.push_back({year.Db.get(), "the year " + YearName(start)});
+  }
+  return links;
 }
 
 void Firm::SetObserver(SqlObserver* observer) {

@@ -35,6 +35,12 @@ struct FirmYear {
   std::shared_ptr<FirebirdLink> Db;
 };
 
+/// An open database of a firm, as a person calls it: "the year 2024-25", "the firm's common data".
+struct FirmLink {
+  FirebirdLink* Db = nullptr;
+  std::string Name;
+};
+
 /// A firm: a folder with firm.json, a common database and one for each financial year.
 class Firm {
  public:
@@ -55,6 +61,9 @@ class Firm {
   /// One link for each year, opened at its first use. Throws HostError for a year that the firm does not have
   /// or whose database cannot be opened.
   const FirmYear& OpenYear(int startYear);
+
+  /// The databases that are open.
+  std::vector<FirmLink> Links() const;
 
   /// Is told of the statements of all links, those opened later too; nothing takes it off.
   void SetObserver(SqlObserver* observer);

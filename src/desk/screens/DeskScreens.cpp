@@ -3,7 +3,9 @@
 #include "desk/screens/frmAccount.h"
 #include "desk/screens/frmAccountView.h"
 #include "desk/screens/frmAlertLog.h"
+#include "desk/screens/frmFilterAc.h"
 #include "desk/screens/frmMain.h"
+#include "desk/screens/frmMainDB.h"
 #include "desk/screens/frmSelectAc.h"
 #include "desk/screens/frmVoucher.h"
 #include "host/values/Text.h"
@@ -14,6 +16,8 @@ FormPtr DeskScreens::NewForm(const std::string& key) {
   const std::string wanted = text::Lower(key);
   if (wanted == "account") return std::make_shared<frmAccount>();
   if (wanted == "selectac") return std::make_shared<frmSelectAc>();
+  if (wanted == "filterac") return std::make_shared<frmFilterAc>();
+  if (wanted == "maindb") return std::make_shared<frmMainDB>();
   return nullptr;
 }
 

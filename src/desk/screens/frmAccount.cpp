@@ -5,8 +5,10 @@
 #include "books/BooksNames.h"
 #include "books/EntryRows.h"
 #include "books/SqlText.h"
+#include "host/forms/AccountPicker.h"
 #include "host/forms/Busy.h"
 #include "host/forms/GridFill.h"
+#include "host/forms/GridRows.h"
 #include "host/forms/Progress.h"
 #include "host/services/AccountColumns.h"
 #include "host/services/BalanceText.h"
@@ -64,19 +66,14 @@ Variant frmAccount::Master::Get(const std::string& member) {
 }
 
 frmAccount::frmAccount()
-    : ScreenForm(kScreen, Origin::Desk),
+    : ListScreen(kScreen, Origin::Desk),
       lblTitle1(*this, "lblTitle1", {0, 1, 2}),
       lblTitle2(*this, "lblTitle2"),
-      Grid(*this, "Grid"),
       mmOthers(*this, "mmOthers") {
-  Member("AccountCode", AccountCode);
-  Member("Date1", Date1);
-  Member("Date2", Date2);
+  MemberPeriod(*this);
   Member("WithOpening", WithOpening);
   Member("FAMaster", FAMaster);
   Member("MarksRead", MarksRead);
-  Grid.KeyDown = [this](KeyEvent& key) { Grid_KeyDown(key); };
-  Grid.DblClick = [this] { OpenVoucher(); };
   mmOthers.Click = [this](int item) { others_.at(static_cast<std::size_t>(item)).Open(*this); };
 }
 
@@ -104,8 +101,7 @@ void frmAccount::PlaceControls() {
   for (const int item : {0, 1, 2}) lblTitle1(item).Move(item * third, top, third, kLine);
   MStrip1.Move(0, top + kLine, Width / 2, kLine);
   lblTitle2.Move(Width / 2, top + kLine, Width / 2, kLine);
-  Grid.Move(0, top + 2 * kLine, Width, BtnBar1.Top - top - 2 * kLine);
-  Grid.Font = quillon::Font{"Tahoma", 9.75, false, false, false};
+  PlaceGrid(top + 2 * kLine);
 }
 
 void frmAccount::LoadScreen() {
@@ -127,13 +123,9 @@ void frmAccount::FirstShow() {
 
 bool frmAccount::AskAccount() {
   const FlagHold asking(asking_);
-  const FormPtr picker = gApp->MainModule().GetForm("SelectAc");
-  picker->Set("SelectAc", true);
-  gStd->ShowDialog(picker, Self());
-  const bool picked = picker->Get("Modify").ToFlag();
-  if (picked) AccountCode = static_cast<long>(picker->Get("ModifyCode").ToInteger());
-  gRuntime->Unload(*picker);
-  return picked;
+  const std::optional<PickedAccount> picked = PickAccount(*this);
+  if (picked) AccountCode = picked->Code;
+  return picked.has_value();
 }
 
 /// What stands on this statement keeps it as it is, so the other account gets a statement of its own.
@@ -169,10 +161,9 @@ void frmAccount::ReadMaster() {
 }
 
 void frmAccount::ShowTitles() {
-  const int start = gSession->Year().StartYear();
   MStrip1.Code = AccountCode;
-  lblTitle1(1).Caption = "F.Y. " + std::to_string(start) + "-" + std::to_string(start + 1).substr(2);
-  lblTitle1(2).Caption = "Period: " + Date1.Format("dd/MM/yyyy") + " to " + Date2.Format("dd/MM/yyyy");
+  lblTitle1(1).Caption = "F.Y. " + YearName(gSession->Year().StartYear());
+  lblTitle1(2).Caption = PeriodText();
   lblTitle2.Caption = WithOpening ? "With Opening Balance" : "Without Opening Balance";
 }
 
@@ -213,10 +204,8 @@ void frmAccount::FillGrid() {
 }
 
 void frmAccount::ShowTotals(const Sums& sums) {
-  Grid.Footer.SetRows(1);
-  Grid.Footer.SetTextMatrix(0, col::kNarration, "Totals");
-  Grid.Footer.SetTextMatrix(0, col::kDebit, gStd->FormatAmount(sums.debits, "C2"));
-  Grid.Footer.SetTextMatrix(0, col::kCredit, gStd->FormatAmount(sums.credits, "C2"));
+  quillon::ShowTotals(Grid, 0, col::kNarration, "Totals",
+                      {{col::kDebit, sums.debits}, {col::kCredit, sums.credits}});
   Grid.Footer.SetTextMatrix(0, col::kBalance, BalanceText(sums.balance, "C2"));
 }
 
@@ -292,8 +281,7 @@ void frmAccount::AddEntry(CDataSet& entry, int row, bool returned, Sums& sums) {
   if (returned) Grid.SetTextMatrix(row, col::kReturned, "Y");
 }
 
-void frmAccount::ButtonPressed(int index) {
-  const std::string key = BtnBar1.Buttons(index).Key();
+void frmAccount::Pressed(const std::string& key) {
   if (key == "Account") {
     if (!gRuntime->StandingOn(*this).empty()) {
       OpenAnother();
@@ -308,10 +296,6 @@ void frmAccount::ButtonPressed(int index) {
     OpenMarking();
   } else if (key == "Others") {
     PopupOthers();
-  } else if (key == "Preview" || key == "Print") {
-    Print(key == "Print");
-  } else if (key == "Exit") {
-    PressExit();
   }
 }
 
@@ -320,7 +304,6 @@ void frmAccount::PopupOthers() {
 }
 
 void frmAccount::Print(bool print) {
-  if (!RequireComplete(Grid)) return;
   CReportOptions options;
   options.SetOption("MainHeadForm1", "AcMain1");
   options.SetOption("MainHeadForm2", "AcMain2");
@@ -402,15 +385,8 @@ void frmAccount::ReadMarks() {
   ++MarksRead;
 }
 
-void frmAccount::Grid_KeyDown(KeyEvent& key) {
-  if (key.KeyCode != keys::kEnter || key.Shift != 0) return;
-  key.KeyCode = 0;
-  OpenVoucher();
-}
-
-void frmAccount::OpenVoucher() {
-  if (Grid.Row < 1) return;
-  gApp->OpenVoucher(*this, ValInteger(Grid.Cell(Grid.Row, col::kVoucherId)), gSession->Year().StartYear(),
+void frmAccount::OpenRow(int row) {
+  gApp->OpenVoucher(*this, ValInteger(Grid.Cell(row, col::kVoucherId)), gSession->Year().StartYear(),
                     AccountCode);
 }
 

@@ -7,25 +7,21 @@
 #include <vector>
 
 #include "desk/screens/AccountTool.h"
-#include "host/controls/CGridPlus.h"
 #include "host/controls/ControlArray.h"
 #include "host/controls/Menu.h"
 #include "host/data/CDataSet.h"
-#include "host/forms/ScreenForm.h"
+#include "host/forms/ListScreen.h"
 
 namespace quillon {
 
 /// The statement of an account: its entries of a period with a running balance. Other screens are opened on
 /// it and read its grid, its titles and the account's master. While one of them stands on it, it keeps its
 /// account, period and rows.
-class frmAccount : public ScreenForm {
+class frmAccount : public ListScreen, public AccountPeriod {
  public:
   frmAccount();
 
-  /// 0 asks for an account first; empty dates take the open year.
-  long AccountCode = 0;
-  Date Date1;
-  Date Date2;
+  // Without an account it asks for one first; empty dates take the open year.
 
   /// Begins with the balance of all that lies before the period.
   bool WithOpening = true;
@@ -45,7 +41,6 @@ class frmAccount : public ScreenForm {
 
   ControlArray<Label> lblTitle1;
   Label lblTitle2;
-  CGridPlus Grid;
   Menu mmOthers;
 
   /// Reads the account's entries anew.
@@ -61,9 +56,10 @@ class frmAccount : public ScreenForm {
   void BuildBar() override;
   void LoadScreen() override;
   void FirstShow() override;
-  void ButtonPressed(int index) override;
+  void Pressed(const std::string& key) override;
+  void Print(bool print) override;
+  void OpenRow(int row) override;
   void ShownAgain() override;
-  GridModel* MainGrid() override { return &Grid; }
 
  private:
   struct Sums;
@@ -87,9 +83,6 @@ class frmAccount : public ScreenForm {
   void OpenWorkbench(bool interest);
   void OpenMarking();
   void PopupOthers();
-  void Print(bool print);
-  void Grid_KeyDown(KeyEvent& key);
-  void OpenVoucher();
 
   std::vector<AccountTool> others_;
   bool asking_ = false;  // while the picker is up, whose closing changes nothing by itself

@@ -36,20 +36,18 @@ constexpr FieldSpec kFields[] = {
 }  // namespace
 
 frmAccountView::frmAccountView()
-    : Form("frmAccountView", Origin::Desk), Grid(*this, "Grid"), btnOKCancel(*this, "btnOKCancel", {1}) {
-  Caption = "Account";
-  Width = 8400;
-  Height = 7200;
-  Left = (gRuntime->ScreenWidth() - Width) / 2;
-  Top = (gRuntime->ScreenHeight() - Height) / 2;
+    : DialogForm({.className = "frmAccountView",
+                  .caption = "Account",
+                  .width = 8400,
+                  .height = 7200,
+                  .origin = Origin::Desk,
+                  .onlyCloses = true}),
+      Grid(*this, "Grid") {
   Grid.Move(0, 0, Width, Height - 720);
-  btnOKCancel(1).Caption = "Esc: Close";
-  btnOKCancel(1).Move(Width - 1650, Height - 570, 1500, 420);
-  btnOKCancel(1).Click = [this] { gRuntime->Unload(*this); };
   Member("AccountCode", AccountCode);
 }
 
-void frmAccountView::OnLoad() {
+void frmAccountView::LoadDialog() {
   Grid.Cols = 2;
   gStd->SetupGrid(Grid);
   gStd->SetGridColumn(Grid, 0, "", 0.25, kAlignLeft);

@@ -3,25 +3,22 @@
 #include <string>
 #include <vector>
 
-#include "host/controls/CButton.h"
 #include "host/controls/CGridPlus.h"
-#include "host/controls/ControlArray.h"
-#include "host/forms/Form.h"
+#include "host/forms/DialogForm.h"
 
 namespace quillon {
 
 /// The master record of an account, to read.
-class frmAccountView : public Form {
+class frmAccountView : public DialogForm {
  public:
   frmAccountView();
 
   std::int64_t AccountCode = 0;
 
   CGridPlus Grid;
-  ControlArray<CButton> btnOKCancel;
 
  protected:
-  void OnLoad() override;
+  void LoadDialog() override;
 };
 
 }  // namespace quillon

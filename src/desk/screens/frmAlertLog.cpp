@@ -62,23 +62,21 @@ void AlertLog::Show(const std::shared_ptr<quillon::Form>& owner) {
 std::shared_ptr<CAlertLog> frmAlertLog::New() { return std::make_shared<AlertLog>(); }
 
 frmAlertLog::frmAlertLog()
-    : quillon::Form("frmAlertLog", Origin::Desk),
+    : DialogForm({.className = "frmAlertLog",
+                  .caption = "",
+                  .width = 12000,
+                  .height = 6600,
+                  .origin = Origin::Desk,
+                  .onlyCloses = true}),
       lblHeading(*this, "lblHeading"),
-      Grid(*this, "Grid"),
-      btnOKCancel(*this, "btnOKCancel", {1}) {
-  Width = 12000;
-  Height = 6600;
-  Left = (gRuntime->ScreenWidth() - Width) / 2;
-  Top = (gRuntime->ScreenHeight() - Height) / 2;
+      Grid(*this, "Grid") {
   lblHeading.Move(120, 90, Width - 240, 360);
   Grid.Move(0, 510, Width, Height - 510 - 630);
   Grid.Rows = 1;
-  btnOKCancel(1).Caption = "Esc: Close";
-  btnOKCancel(1).Move(Width - 1650, Height - 540, 1500, 420);
-  btnOKCancel(1).Click = [this] { gRuntime->Unload(*this); };
 }
 
 void frmAlertLog::OnKeyDown(KeyEvent& key) {
+  DialogForm::OnKeyDown(key);
   if (key.KeyCode != keys::kEnter || key.Shift != 0 || !Grid.HasFocus()) return;
   key.KeyCode = 0;
   Grid.DblClick.Raise();

@@ -4,17 +4,15 @@
 #include <string>
 #include <vector>
 
-#include "host/controls/CButton.h"
 #include "host/controls/CGridPlus.h"
-#include "host/controls/ControlArray.h"
 #include "host/controls/Label.h"
 #include "host/forms/CAlertLog.h"
-#include "host/forms/Form.h"
+#include "host/forms/DialogForm.h"
 
 namespace quillon {
 
 /// The alert window: a heading, a list of lines, and Esc to close it.
-class frmAlertLog : public quillon::Form {
+class frmAlertLog : public DialogForm {
  public:
   frmAlertLog();
 
@@ -23,7 +21,6 @@ class frmAlertLog : public quillon::Form {
 
   Label lblHeading;
   CGridPlus Grid;
-  ControlArray<CButton> btnOKCancel;
 
  protected:
   void OnKeyDown(KeyEvent& key) override;

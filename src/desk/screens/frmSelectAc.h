@@ -2,17 +2,15 @@
 
 #include <string>
 
-#include "host/controls/CButton.h"
 #include "host/controls/CSelGrid.h"
 #include "host/controls/CTextPlus.h"
-#include "host/controls/ControlArray.h"
 #include "host/controls/Label.h"
-#include "host/forms/Form.h"
+#include "host/forms/DialogForm.h"
 
 namespace quillon {
 
 /// The account picker. The caller sets what to list and reads the pick back.
-class frmSelectAc : public Form {
+class frmSelectAc : public DialogForm {
  public:
   frmSelectAc();
 
@@ -37,15 +35,13 @@ class frmSelectAc : public Form {
   Label lblTitle;
   CTextPlus txpAccount;
   CSelGrid SelGrid1;
-  ControlArray<CButton> btnOKCancel;
 
  protected:
-  void OnLoad() override;
+  void LoadDialog() override;
   void OnActivate() override;
-  void OnKeyDown(KeyEvent& key) override;
+  bool Confirm() override;
 
  private:
-  void Confirm();
   void TellNotFound(const std::string& typed);
   void Take();
 };

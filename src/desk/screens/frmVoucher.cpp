@@ -1,5 +1,6 @@
 #include "desk/screens/frmVoucher.h"
 
+#include "host/forms/GridRows.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
 
@@ -51,13 +52,15 @@ void frmVoucher::PlaceControls() {
   Grid.Move(0, ContentTop(), Width, lblDocument.Top - ContentTop());
   gStd->SetupGrid(Grid);
   Grid.Cols = col::kCount;
-  gStd->SetGridColumn(Grid, col::kCode, "", 0, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kHead, "A/c Head", 0.22, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kStation, "Station", 0.1, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kNarration, "Narration", 0.34, kAlignLeft);
-  gStd->SetGridColumn(Grid, col::kDebit, "Debit", 0.11, kAlignRight);
-  gStd->SetGridColumn(Grid, col::kCredit, "Credit", 0.11, kAlignRight);
-  gStd->SetGridColumn(Grid, col::kClearedOn, "Cleared On", 0.1, kAlignLeft);
+  SetColumnsInTwips(Grid, {
+                              {col::kCode, "", 0, kAlignLeft},
+                              {col::kHead, "A/c Head", 0.22, kAlignLeft},
+                              {col::kStation, "Station", 0.1, kAlignLeft},
+                              {col::kNarration, "Narration", 0.34, kAlignLeft},
+                              {col::kDebit, "Debit", 0.11, kAlignRight},
+                              {col::kCredit, "Credit", 0.11, kAlignRight},
+                              {col::kClearedOn, "Cleared On", 0.1, kAlignLeft},
+                          });
 }
 
 void frmVoucher::LoadScreen() {
@@ -98,9 +101,7 @@ void frmVoucher::FillLines(CDbLink& db) {
                        gStd->FormatAmount(amount.Abs(), "c2"));
     Grid.SetTextMatrix(row, col::kClearedOn, lines.Field("dBankDate").ToDate().Text());
   }
-  Grid.Footer.SetTextMatrix(0, col::kNarration, "Totals");
-  Grid.Footer.SetTextMatrix(0, col::kDebit, gStd->FormatAmount(debits, "C2"));
-  Grid.Footer.SetTextMatrix(0, col::kCredit, gStd->FormatAmount(credits, "C2"));
+  ShowTotals(Grid, 0, col::kNarration, "Totals", {{col::kDebit, debits}, {col::kCredit, credits}});
 }
 
 void frmVoucher::ShowDocuments(CDbLink& db) {
@@ -137,7 +138,5 @@ void frmVoucher::ShowLeaves(CDbLink& db) {
   }
   lblLeaf.Caption = text.empty() ? std::string("   No cheque leaf") : text;
 }
-
-void frmVoucher::ButtonPressed(int /*index*/) { PressExit(); }
 
 }  // namespace quillon

@@ -26,7 +26,6 @@ class frmVoucher : public ScreenForm {
  protected:
   void BuildBar() override;
   void LoadScreen() override;
-  void ButtonPressed(int index) override;
   GridModel* MainGrid() override { return &Grid; }
 
  private:

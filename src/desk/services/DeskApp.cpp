@@ -16,10 +16,8 @@ namespace quillon {
 
 namespace {
 
+constexpr int kKeyL = 76;
 constexpr int kKeyM = 77;
-
-/// What QuillonForm holds while a form stands in the list of open windows.
-
 }  // namespace
 
 DeskApp::DeskApp(DeskSession& session, IDeskScreens& screens)
@@ -27,8 +25,10 @@ DeskApp::DeskApp(DeskSession& session, IDeskScreens& screens)
       screens_(screens),
       settings_(session.CommonDb(), session.CurrentUser().Name),
       window_(session, screens),
-      mainModule_(screens) {
+      mainModule_(screens),
+      stores_(screens) {
   session_.AddModule(mainModule_.ID(), mainModule_);
+  session_.AddModule(stores_.ID(), stores_);
   gApp = this;
 }
 
@@ -61,6 +61,9 @@ void DeskApp::FormKeyDown(int& keyCode, int& shift, Form& form) {
   if (keyCode == keys::kTab && (shift & keys::kCtrl) != 0) {
     NextWindow(form, (shift & keys::kShift) != 0);
     keyCode = 0;
+  } else if (keyCode == kKeyL && shift == (keys::kCtrl | keys::kShift) && form.Offers("Filter")) {
+    keyCode = 0;
+    form.Call("Filter", {});
   } else if (keyCode == kKeyM && shift == keys::kCtrl) {
     for (Control* control : form.Controls()) {
       auto* strip = dynamic_cast<CMStrip*>(control);
@@ -101,6 +104,7 @@ void DeskApp::BeginBusy(const std::string& text) {
 void DeskApp::EndBusy() { gRuntime->ShowBusy(false, ""); }
 
 void DeskApp::ReportError(const std::exception& error, Form* form, const std::string& routine) {
+  gRuntime->NoteFailure(ErrorText(error));
   gRuntime->TellError(routine, form, ErrorText(error));
 }
 
@@ -116,6 +120,18 @@ void DeskApp::VoucherCrossRef(CDbLink& db, std::int64_t voucherId, Amount amount
   OtherSide other = FindOtherSide(db, voucherId, amount);
   code = other.Code;
   text = std::move(other.Head);
+}
+
+void DeskApp::PostBalanceEntry(CDataSet& /*entries*/, std::string& voucher, const std::string& book,
+                               const std::string& type, int /*line*/, Date date, std::int64_t account,
+                               const std::string& narration, Amount amount, bool /*first*/, bool /*second*/) {
+  NewVoucher part;
+  part.Day = date;
+  part.Book = book;
+  part.Type = type;
+  part.Narration = narration;
+  part.Lines.push_back({account, amount});
+  posting_.Add(session_.MainDb(), voucher, part);
 }
 
 void DeskApp::InitForm(Form& form) { form.Font = Font{}; }

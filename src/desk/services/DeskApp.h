@@ -5,6 +5,7 @@
 
 #include "desk/services/DeskSession.h"
 #include "desk/services/IDeskScreens.h"
+#include "desk/services/Posting.h"
 #include "desk/services/Settings.h"
 #include "host/services/IApp.h"
 
@@ -57,6 +58,10 @@ class DeskApp : public IApp {
   void OpenMaster(Form& form, std::int64_t code) override;
   void ShowAccountDetails(Form& form, std::int64_t code) override;
 
+  void PostBalanceEntry(CDataSet& entries, std::string& voucher, const std::string& book,
+                        const std::string& type, int line, Date date, std::int64_t account,
+                        const std::string& narration, Amount amount, bool first, bool second) override;
+
   const std::vector<OpenWindow>& Windows() const { return windows_; }
 
  private:
@@ -90,6 +95,14 @@ class DeskApp : public IApp {
     IDeskScreens& screens_;
   };
 
+  /// The host's stores module, of which the other modules ask one form.
+  class StoresModule : public AccountsModule {
+   public:
+    using AccountsModule::AccountsModule;
+    std::string ID() const override { return "StoreworksModule"; }
+    std::string Description() const override { return "Stores"; }
+  };
+
   void NextWindow(Form& form, bool backwards);
 
   DeskSession& session_;
@@ -97,6 +110,8 @@ class DeskApp : public IApp {
   Settings settings_;
   Window window_;
   AccountsModule mainModule_;
+  StoresModule stores_;
+  Posting posting_;
   std::vector<OpenWindow> windows_;
 };
 

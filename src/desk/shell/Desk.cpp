@@ -33,11 +33,13 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
   screens_ = std::make_unique<DeskScreens>();
   app_ = std::make_unique<DeskApp>(*session_, *screens_);
   session_->AddModule(module_->ID(), *module_);
+  unfinished_ = std::make_unique<UnfinishedWork>(*session_);
   module_->Init(app_->MainWindow());
 }
 
 void Desk::CloseFirm() {
   if (!session_) return;
+  unfinished_->UndoAll();
   module_->Terminate();
   for (const FormPtr& form : gRuntime->AllForms()) {
     try {
@@ -46,6 +48,7 @@ void Desk::CloseFirm() {
       gRuntime->TellError("", form.get(), error.what());
     }
   }
+  unfinished_.reset();
   app_.reset();
   screens_.reset();
   session_.reset();

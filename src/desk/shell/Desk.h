@@ -8,6 +8,7 @@
 #include "desk/services/DeskApp.h"
 #include "desk/services/DeskSession.h"
 #include "desk/services/DeskStd.h"
+#include "desk/shell/UnfinishedWork.h"
 #include "host/services/IModule.h"
 
 namespace quillon {
@@ -49,6 +50,7 @@ class Desk {
   std::unique_ptr<DeskScreens> screens_;
   std::unique_ptr<DeskSession> session_;
   std::unique_ptr<DeskApp> app_;
+  std::unique_ptr<UnfinishedWork> unfinished_;
 };
 
 }  // namespace quillon

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/controls/Control.h"
 
@@ -13,7 +13,7 @@ namespace quillon {
 template <class T>
 class ControlArray {
  public:
-  ControlArray(Control& parent, const std::string& name, std::initializer_list<int> indexes) {
+  ControlArray(Control& parent, const std::string& name, const std::vector<int>& indexes) {
     for (const int index : indexes) items_.emplace(index, std::make_unique<T>(parent, name, index));
   }
 
@@ -24,6 +24,7 @@ class ControlArray {
     return *item->second;
   }
 
+  int Count() const { return static_cast<int>(items_.size()); }
   auto begin() { return items_.begin(); }
   auto end() { return items_.end(); }
 

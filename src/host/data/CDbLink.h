@@ -47,6 +47,7 @@ class CDbLink {
   virtual void BeginTrans() = 0;
   virtual void CommitTrans() = 0;
   virtual void RollbackTrans() = 0;
+  virtual bool InTransaction() const = 0;
 
   /// What CDataSet opens. `changeable` asks for a set whose rows can be changed and added to; `keep` for one
   /// that stays readable after the link is gone.

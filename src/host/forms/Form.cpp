@@ -165,6 +165,13 @@ void Form::DispatchKey(KeyEvent& key, int character) {
   }
 }
 
+void Form::MoveOnAtEnter(int& character) {
+  if (character != keys::kEnter) return;
+  if (ActiveControl() != nullptr && ActiveControl()->KeepsEnter()) return;
+  gRuntime->SendKeys("{TAB}");
+  character = 0;
+}
+
 void Form::PopupMenu(Menu& menu, long left, long top) {
   const FormPtr alive = Self();
   const int item = gRuntime->AskPopup(*this, menu, left, top);

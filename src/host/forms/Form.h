@@ -109,6 +109,9 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
 
   bool IsShown() const override { return shown_; }
 
+  /// Enter moves on to the next field, unless the focus is where Enter means something else.
+  void MoveOnAtEnter(int& character);
+
   /// Registers a public member under its name. Kinds: flags, whole numbers, Amount, Date, text, forms, year
   /// objects and other objects, bags of named values.
   template <class T>

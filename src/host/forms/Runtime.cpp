@@ -156,13 +156,28 @@ void Runtime::UpdateActive() {
 }
 
 void Runtime::Act(const std::function<void()>& act) {
+  failures_.emplace_back();
+  if (watch_ != nullptr) watch_->EventBegins();
   try {
     act();
   } catch (const Refused&) {
+    EndEvent();
     throw;
   } catch (const std::exception& error) {
+    NoteFailure(ErrorText(error));
     TellError("", ActiveForm().get(), ErrorText(error));
   }
+  EndEvent();
+}
+
+void Runtime::EndEvent() {
+  const std::string failure = failures_.back();
+  failures_.pop_back();
+  if (watch_ != nullptr) watch_->EventEnds(failure);
+}
+
+void Runtime::NoteFailure(const std::string& text) {
+  if (!failures_.empty() && failures_.back().empty()) failures_.back() = text;
 }
 
 void Runtime::DoEvents() {

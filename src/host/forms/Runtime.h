@@ -59,6 +59,20 @@ struct PartiesRequest {
 inline constexpr int kPointerDefault = 0;
 inline constexpr int kPointerBusy = 11;
 
+/// Watches the events of the runtime, one inside the other where a modal form is up.
+class IEventWatch {
+ public:
+  IEventWatch() = default;
+  IEventWatch(const IEventWatch&) = delete;
+  IEventWatch& operator=(const IEventWatch&) = delete;
+  virtual ~IEventWatch() = default;
+
+  virtual void EventBegins() = 0;
+
+  /// `failure` is what was told of the first error in the event; empty when there was none.
+  virtual void EventEnds(const std::string& failure) = 0;
+};
+
 /// The forms runtime: carries every form through its life, keeps the order of the shown forms, delivers
 /// queued keys, and asks the user. A maker (the window, the driver) supplies the waiting and the asking.
 class Runtime {
@@ -110,6 +124,12 @@ class Runtime {
   /// Runs what a person did: an error that no handler caught is reported, the event abandoned. Refused
   /// passes.
   void Act(const std::function<void()>& act);
+
+  /// An error of the event at hand was told, also one that a routine caught itself.
+  void NoteFailure(const std::string& text);
+
+  /// Nothing takes the watch off; it must outlive the events that it is told of.
+  void SetEventWatch(IEventWatch* watch) { watch_ = watch; }
 
   /// Lets queued keys and repaints through.
   void DoEvents();
@@ -185,11 +205,14 @@ class Runtime {
   void UpdateActive();
   void RunModal(const FormPtr& form);
   void Press(const std::string& name);
+  void EndEvent();
 
   std::vector<FormPtr> loaded_;
   std::vector<FormPtr> shown_;  // the form shown last is the last
   std::weak_ptr<Form> active_;
   std::deque<std::string> keys_;
+  std::vector<std::string> failures_;  // of the events at hand, the innermost last
+  IEventWatch* watch_ = nullptr;
   int pointer_ = kPointerDefault;
 };
 

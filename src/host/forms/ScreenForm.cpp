@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "host/forms/GridFill.h"
 #include "host/forms/Runtime.h"
 #include "host/services/IApp.h"
 #include "host/services/ISession.h"
@@ -33,11 +34,35 @@ ScreenForm::ScreenForm(const ScreenSpec& spec, Origin origin)
   lblTitle.Caption = spec.caption;
   Caption = spec.registerTitle;
   BtnBar1.ButtonPressed = [this](int index) {
-    if (BtnBar1.Buttons(index).Enabled()) ButtonPressed(index);
+    if (BtnBar1.Buttons(index).Enabled()) PressKey(BtnBar1.Buttons(index).Key());
   };
   QuillonStdButtons1.ButtonClick = [this](int index, bool& cancel) {
-    if (index == CStdButtons::kExit) ExitPressed(cancel);
+    if (index != CStdButtons::kExit) return;
+    ExitPressed(cancel);
+    if (!cancel && HasUnsavedWork()) {
+      cancel = !gStd->AskYesNo("Do you want to exit without saving?", "Q", IStd::kNo);
+    }
   };
+}
+
+void ScreenForm::MemberPeriod(AccountPeriod& period) {
+  Member("AccountCode", period.AccountCode);
+  Member("Date1", period.Date1);
+  Member("Date2", period.Date2);
+}
+
+/// What is being typed is dealt with first, so that what is asked for has it; Exit deals with it itself.
+void ScreenForm::PressKey(const std::string& key) {
+  if (key == "Exit") {
+    PressExit();
+  } else if (!EndEditing()) {
+    return;
+  } else if (key == "Preview" || key == "Print") {
+    const CGridPlus* const grid = PrintedGrid();
+    if (MayPrint() && (grid == nullptr || RequireComplete(*grid))) Print(key == "Print");
+  } else {
+    Pressed(key);
+  }
 }
 
 long ScreenForm::ContentTop() const { return MStrip1.Top + MStrip1.Height; }
@@ -124,13 +149,6 @@ void ScreenForm::OnKeyDown(KeyEvent& key) {
   if (index < BtnBar1.Count() && BtnBar1.IsReachable() && BtnBar1.Buttons(index).Visible()) {
     BtnBar1.Buttons(index).Click();
   }
-}
-
-void ScreenForm::OnKeyPress(int& character) {
-  if (character != keys::kEnter) return;
-  if (ActiveControl() != nullptr && ActiveControl()->KeepsEnter()) return;
-  gStd->SendKeys("{TAB}");
-  character = 0;
 }
 
 }  // namespace quillon

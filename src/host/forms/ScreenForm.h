@@ -3,10 +3,12 @@
 #include <string>
 
 #include "host/controls/CButtonBar.h"
+#include "host/controls/CGridPlus.h"
 #include "host/controls/CMStrip.h"
 #include "host/controls/CStdButtons.h"
 #include "host/controls/GridModel.h"
 #include "host/controls/Label.h"
+#include "host/forms/AccountPeriod.h"
 #include "host/forms/Form.h"
 #include "host/forms/GridColumns.h"
 
@@ -47,7 +49,21 @@ class ScreenForm : public Form {
   /// The first activation, after the right was checked; the form may unload itself here. Afterwards it is
   /// registered, also when this throws: a screen that could not be filled is left like any other.
   virtual void FirstShow() {}
-  virtual void ButtonPressed(int index) = 0;
+
+  /// A button of the bar, by its key; Exit, Preview and Print are dealt with here.
+  virtual void Pressed(const std::string& /*key*/) {}
+
+  /// Previews or prints, once the user may and the grid is complete.
+  virtual void Print(bool /*print*/) {}
+
+  /// The grid that Print hands over, where there is one.
+  virtual const CGridPlus* PrintedGrid() const { return nullptr; }
+
+  /// Ends the editing at hand before a button acts; false when what was typed was refused.
+  virtual bool EndEditing() { return true; }
+
+  /// Whether leaving loses something: then the user is asked.
+  virtual bool HasUnsavedWork() const { return false; }
 
   /// The screen has become the current one again.
   virtual void ShownAgain() {}
@@ -59,8 +75,8 @@ class ScreenForm : public Form {
   /// Takes the focus after the first activation.
   virtual GridModel* MainGrid() { return nullptr; }
 
-  /// Whether the user may print here; otherwise he was told.
-  bool MayPrint();
+  /// Registers the account and period as public members.
+  void MemberPeriod(AccountPeriod& period);
 
   /// Clicks the standard Exit button.
   void PressExit() { QuillonStdButtons1.Buttons(CStdButtons::kExit).Click(); }
@@ -73,11 +89,13 @@ class ScreenForm : public Form {
   void OnActivate() override;
   void OnUnload() override;
   void OnKeyDown(KeyEvent& key) override;
-  void OnKeyPress(int& character) override;
+  void OnKeyPress(int& character) override { MoveOnAtEnter(character); }
 
  private:
   void PlaceFrame();
   bool MayOpen();
+  bool MayPrint();
+  void PressKey(const std::string& key);
   void Register();
 
   const ScreenSpec& spec_;

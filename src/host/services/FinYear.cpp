@@ -4,6 +4,10 @@
 
 namespace quillon {
 
+std::string YearName(int startYear) {
+  return std::to_string(startYear) + "-" + std::to_string(startYear + 1).substr(2);
+}
+
 Variant FinYear::Get(const std::string& member) {
   const std::string name = text::Lower(member);
   if (name == "startyear") return StartYear();

@@ -1,10 +1,15 @@
 #pragma once
 
+#include <string>
+
 #include "host/data/CDbLink.h"
 #include "host/values/Date.h"
 #include "host/values/Variant.h"
 
 namespace quillon {
+
+/// "2024-25" for the year that starts in 2024.
+std::string YearName(int startYear);
 
 /// A financial year of the firm. A new object is bound to no year until OpenYear: reading it then throws
 /// HostError. Reached late it answers StartYear, StartDate, EndDate and StartMonth.

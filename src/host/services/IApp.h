@@ -14,14 +14,25 @@
 
 namespace quillon {
 
-/// Application services.
-class IApp {
+/// Posts lines of vouchers.
+class IPosting {
  public:
-  IApp() = default;
-  IApp(const IApp&) = delete;
-  IApp& operator=(const IApp&) = delete;
-  virtual ~IApp() = default;
+  IPosting() = default;
+  IPosting(const IPosting&) = delete;
+  IPosting& operator=(const IPosting&) = delete;
+  virtual ~IPosting() = default;
 
+  /// Posts one line of a voucher, `entries` being an open set on the FAData of the year. The first line of a
+  /// voucher fills `voucher`, and the next ones read it. The voucher is stored, whole, when its lines come to
+  /// zero. Throws HostError and DbError.
+  virtual void PostBalanceEntry(CDataSet& entries, std::string& voucher, const std::string& book,
+                                const std::string& type, int line, Date date, std::int64_t account,
+                                const std::string& narration, Amount amount, bool first, bool second) = 0;
+};
+
+/// Application services.
+class IApp : public IPosting {
+ public:
   virtual HostApp& MainWindow() = 0;
 
   /// Whether the user may do the action ("N" open a screen, "P" print) on the right. When denied the host has
@@ -88,20 +99,6 @@ class IApp {
   virtual std::string AccountDetails(std::int64_t code) = 0;
   virtual void OpenMaster(Form& form, std::int64_t code) = 0;
   virtual void ShowAccountDetails(Form& form, std::int64_t code) = 0;
-};
-
-/// Posts lines of vouchers. A host that has it implements it beside IApp; ask with a dynamic_cast.
-class IPosting {
- public:
-  IPosting() = default;
-  IPosting(const IPosting&) = delete;
-  IPosting& operator=(const IPosting&) = delete;
-  virtual ~IPosting() = default;
-
-  /// Posts one line of a voucher. The first line of a voucher fills `voucher`, and the next ones read it.
-  virtual void PostBalanceEntry(CDataSet& entries, std::string& voucher, const std::string& book,
-                                const std::string& type, int line, Date date, std::int64_t account,
-                                const std::string& narration, Amount amount, bool first, bool second) = 0;
 };
 
 extern IApp* gApp;

@@ -34,10 +34,6 @@ namespace {
 constexpr int kWidth = 1280;
 constexpr int kHeight = 760;
 
-QString YearName(int start) {
-  return QStringLiteral("%1-%2").arg(start).arg(QString::number(start + 1).right(2));
-}
-
 }  // namespace
 
 DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
@@ -165,7 +161,7 @@ void DeskWindow::AskYear() {
   int chosen = 0;
   for (const int year : years) {
     if (year == open) chosen = static_cast<int>(lines.size());
-    lines << YearName(year);
+    lines << QString::fromStdString(YearName(year));
   }
   ChoiceDialog dialog(QStringLiteral("Financial Year"), lines, chosen, this);
   if (dialog.exec() != QDialog::Accepted) return;
@@ -256,7 +252,7 @@ void DeskWindow::ShowState() {
   DeskSession& session = desk_->Session();
   const QString name = QString::fromStdString(session.FirmName());
   firm_->setText(QStringLiteral(" %1     F.Y. %2     %3")
-                     .arg(name, YearName(session.Year().StartYear()),
+                     .arg(name, QString::fromStdString(YearName(session.Year().StartYear())),
                           QString::fromStdString(session.CurrentUser().Name)));
   start_->ShowFirm(name);
   ShowPage();
