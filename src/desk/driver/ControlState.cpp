@@ -42,6 +42,7 @@ Json StateOf(const Control& control, const Json& command) {
   if (const auto* grid = dynamic_cast<const GridModel*>(&control)) {
     for (Json& paint : state["colors"])
       paint = Named(paint, {"row", "firstcol", "lastcol", "backcolor", "forecolor"});
+    if (state.contains("cell")) state["cell"] = Named(state["cell"], {"left", "top", "width", "height"});
     state["cells"] = CellsOf(*grid, command);
   }
   if (state.contains("font") && state["font"].is_array()) {

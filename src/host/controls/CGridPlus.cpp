@@ -1,9 +1,11 @@
 #include "host/controls/CGridPlus.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 void GridFooter::SetRows(int rows) {
-  if (rows < 0) throw SubscriptError("footer rows " + std::to_string(rows));
+  if (rows < 0 || rows > kMostRows) throw SubscriptError("footer rows " + std::to_string(rows));
   rows_.resize(static_cast<std::size_t>(rows));
   grid_.Touched();
 }
@@ -48,6 +50,11 @@ void GridFooter::PaintRow(int row, long backColor) {
 }
 
 long GridFooter::BackColor(int row) const { return At(row).backColor; }
+
+long CGridPlus::FooterLine() const {
+  const long own = Footer.Rows() > 0 ? Footer.Height() / Footer.Rows() : 0;
+  return own > 0 ? own : std::max(kDefaultRowHeight, RowHeightMin());
+}
 
 Control::State CGridPlus::Describe() const {
   State state = EditableGrid::Describe();

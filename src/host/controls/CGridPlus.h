@@ -15,7 +15,11 @@ class GridFooter {
  public:
   explicit GridFooter(CGridPlus& grid) : grid_(grid) {}
 
+  static constexpr int kMostRows = 100;
+
   int Rows() const { return static_cast<int>(rows_.size()); }
+
+  /// Throws SubscriptError below 0 and above kMostRows.
   void SetRows(int rows);
 
   /// Twips of the whole band; 0 is one line for each row.
@@ -56,6 +60,12 @@ class CGridPlus : public EditableGrid {
   Property<bool> Complete{*this, "Complete", true};
 
   State Describe() const override;
+
+  /// Twips of one line of the footer.
+  long FooterLine() const;
+
+ protected:
+  long FooterHeight() const override { return Footer.Rows() * FooterLine(); }
 
  private:
   friend class GridFooter;

@@ -22,15 +22,30 @@ Variant ToVariant(const Font& value) {
 
 void FromVariant(const Variant& value, std::string& out) { out = value.ToText(); }
 
-void FromVariant(const Variant& value, bool& out) { out = value.ToFlag(); }
+std::int64_t WholeNumber(const Variant& value) {
+  if (value.Is<std::string>() && !value.IsNumeric()) throw HostError("This is no number: " + value.ToText());
+  return value.ToInteger();
+}
+
+bool Flag(const Variant& value) {
+  if (value.Is<std::string>() && !value.IsNumeric()) {
+    const std::string text = value.ToText();
+    if (!text::EqualNoCase(text, "true") && !text::EqualNoCase(text, "false")) {
+      throw HostError("This is neither true nor false: " + text);
+    }
+  }
+  return value.ToFlag();
+}
+
+void FromVariant(const Variant& value, bool& out) { out = Flag(value); }
 
 void FromVariant(const Variant& value, int& out) {
-  const std::int64_t wide = value.ToInteger();
+  const std::int64_t wide = WholeNumber(value);
   if (wide > INT32_MAX || wide < INT32_MIN) throw OverflowError();
   out = static_cast<int>(wide);
 }
 
-void FromVariant(const Variant& value, long& out) { out = value.ToInteger(); }
+void FromVariant(const Variant& value, long& out) { out = WholeNumber(value); }
 
 void FromVariant(const Variant& value, Font& out) {
   const Array& parts = value.ToArray();

@@ -181,7 +181,7 @@ bool EditableGrid::HandleEditKey(const KeyEvent& key) {
     case keys::kDown: {
       const int direction = key.KeyCode == keys::kUp ? -1 : 1;
       const int row = VisibleRowFrom(editRow_ + direction, direction);
-      if (row > 0 && EndEdit()) KeyMoveTo(row, Col);
+      if (row >= 0 && EndEdit()) KeyMoveTo(row, Col);
       return true;
     }
     default:
@@ -205,6 +205,16 @@ void EditableGrid::HandleChar(int character) {
     EditBox.SelectAll();
   }
   EditBox.HandleChar(character);
+}
+
+void EditableGrid::RowsShifted(int row, int by) {
+  if (!editing_ || row > editRow_) return;
+  // The text under edit belongs to its row; with the row it goes.
+  if (by < 0 && row == editRow_) {
+    HideEditor();
+  } else {
+    editRow_ += by;
+  }
 }
 
 void EditableGrid::PropertyChanged(const PropertyBase& property) {

@@ -69,6 +69,7 @@ class EditableGrid : public GridModel {
 
  protected:
   void PropertyChanged(const PropertyBase& property) override;
+  void RowsShifted(int row, int by) override;
 
  private:
   enum class Answer { Open, Refused, Stop };

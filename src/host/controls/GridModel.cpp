@@ -1,15 +1,13 @@
 #include "host/controls/GridModel.h"
 
 #include <algorithm>
+#include <new>
 
-#include "host/forms/Form.h"
 #include "host/values/Text.h"
 
 namespace quillon {
 
 namespace {
-
-constexpr int kPageRows = 20;
 
 const std::vector<GridModel::Paint> kNoPaint;
 
@@ -94,7 +92,8 @@ void GridModel::SetHeadingAlignment(int col, int alignment) {
 
 long GridModel::RowHeight(int row) const {
   const long own = Data(row).height;
-  return own >= 0 ? own : std::max(kDefaultRowHeight, RowHeightMin());
+  if (own == 0) return 0;
+  return std::max(own > 0 ? own : kDefaultRowHeight, RowHeightMin());
 }
 
 void GridModel::SetRowHeight(int row, long height) {
@@ -115,13 +114,18 @@ void GridModel::Clear() {
   Touched();
 }
 
-void GridModel::AddItem(std::string_view tabbedText) {
-  const int row = Rows;
-  Rows = row + 1;
+void GridModel::AddItem(std::string_view tabbedText, int row) {
+  if (row == kNoIndex) row = Rows;
+  if (row < 0 || row > Rows) throw SubscriptError(Name() + " row " + std::to_string(row));
+  // The row is made below the last one, which may be refused, and then put in its place.
+  Rows = Rows + 1;
+  std::rotate(rows_.begin() + row, rows_.end() - 1, rows_.end());
+  RowsShifted(row, 1);
   const std::vector<std::string> parts = text::Split(tabbedText, "\t");
   for (int col = 0; col < std::min(Cols(), static_cast<int>(parts.size())); ++col) {
     SetTextMatrix(row, col, parts[static_cast<std::size_t>(col)]);
   }
+  Touched();
 }
 
 void GridModel::RemoveItem(int row) {
@@ -129,6 +133,7 @@ void GridModel::RemoveItem(int row) {
   rows_.erase(rows_.begin() + row);
   Rows.PutSilently(Rows - 1);
   ClampCursor();
+  RowsShifted(row, -1);
   Touched();
 }
 
@@ -181,100 +186,6 @@ void GridModel::SetCellFontUnderline(int row, int col, bool underline) {
   Touched();
 }
 
-int GridModel::VisibleRowFrom(int row, int step) const {
-  for (; row >= FixedRows && row < Rows; row += step) {
-    if (IsRowVisible(row)) return row;
-  }
-  return 0;
-}
-
-bool GridModel::HandleKey(const KeyEvent& key) {
-  const bool ctrl = key.Shift == keys::kCtrl;
-  if (key.Shift != 0 && !ctrl) return false;
-  const int last = Rows - 1;
-  int row = Row;
-  const auto step = [&](int count, int direction) {
-    for (int i = 0; i < count; ++i) {
-      const int next = VisibleRowFrom(row + direction, direction);
-      if (next != 0) row = next;
-    }
-  };
-  int col = Col;
-  const auto stepCol = [&](int direction) {
-    for (int next = col + direction; next >= 0 && next < Cols; next += direction) {
-      if (IsColVisible(next)) {
-        col = next;
-        return;
-      }
-    }
-  };
-  switch (key.KeyCode) {
-    case keys::kUp:
-      step(1, -1);
-      break;
-    case keys::kDown:
-      step(1, 1);
-      break;
-    case keys::kPageUp:
-      step(kPageRows, -1);
-      break;
-    case keys::kPageDown:
-      step(kPageRows, 1);
-      break;
-    case keys::kLeft:
-      stepCol(-1);
-      break;
-    case keys::kRight:
-      stepCol(1);
-      break;
-    case keys::kHome:
-      row = VisibleRowFrom(FixedRows, 1);
-      break;
-    case keys::kEnd:
-      row = VisibleRowFrom(last, -1);
-      break;
-    default:
-      return false;
-  }
-  if (row > 0) KeyMoveTo(row, col);
-  return true;
-}
-
-void GridModel::RequireUserCell(int row, int col) const {
-  RequireReachable();
-  const std::string called = FullName() + " row " + std::to_string(row);
-  if (row < FixedRows || row >= Rows || col < 0 || col >= Cols) {
-    throw Refused(called + ", column " + std::to_string(col) + " is no cell of the grid");
-  }
-  if (!IsRowVisible(row)) throw Refused(called + " is hidden");
-}
-
-void GridModel::UserMoveTo(int row, int col) {
-  RequireUserCell(row, col);
-  if (!OwnerForm().UserFocus(*this)) return;
-  KeyMoveTo(row, col);
-}
-
-void GridModel::KeyMoveTo(int row, int col) {
-  Row.PutSilently(row);
-  Col.PutSilently(col);
-  CursorMoved();
-}
-
-void GridModel::UserSelect(int row, int col, int rowSel, int colSel) {
-  RequireUserCell(rowSel, colSel);
-  UserMoveTo(row, col);
-  RowSel = rowSel;
-  ColSel = colSel;
-}
-
-void GridModel::UserDoubleClickRow(int row) {
-  UserMoveTo(row, Col);
-  DblClick.Raise();
-}
-
-void GridModel::UserDoubleClick() { UserDoubleClickRow(Row); }
-
 void GridModel::Touched() {
   if (Redraw) ContentChanged();
 }
@@ -288,12 +199,14 @@ void GridModel::ClampCursor() {
   toldCol_ = Col;
 }
 
-/// A cursor outside the cells goes back to where it was.
+/// A place outside the cells goes back to where it was.
 void GridModel::RequireCursor() {
-  const int row = Row;
-  const int col = Col;
-  if (row < 0 || row >= Rows) Row.PutSilently(toldRow_);
-  if (col < 0 || col >= Cols) Col.PutSilently(toldCol_);
+  const int row = Row < 0 || Row >= Rows ? Row : RowSel;
+  const int col = Col < 0 || Col >= Cols ? Col : ColSel;
+  if (Row < 0 || Row >= Rows) Row.PutSilently(toldRow_);
+  if (Col < 0 || Col >= Cols) Col.PutSilently(toldCol_);
+  if (RowSel < 0 || RowSel >= Rows) RowSel.PutSilently(Row);
+  if (ColSel < 0 || ColSel >= Cols) ColSel.PutSilently(Col);
   RequireRow(row);
   RequireCol(col);
 }
@@ -309,27 +222,52 @@ void GridModel::CursorMoved() {
   RowChange.Raise(Row);
 }
 
+void GridModel::RequireRoom(std::int64_t rows, std::int64_t cols) const {
+  if (rows <= kMostRows && cols <= kMostCols && rows * cols <= kMostCells) return;
+  throw HostError("The grid " + Name() + " cannot hold " + std::to_string(rows) + " rows of " +
+                  std::to_string(cols) + " columns");
+}
+
+void GridModel::ResizeRows() {
+  const int asked = Rows;
+  Rows.PutSilently(static_cast<int>(rows_.size()));
+  if (asked < 0) throw SubscriptError(Name() + " Rows " + std::to_string(asked));
+  RequireRoom(asked, Cols);
+  try {
+    rows_.resize(static_cast<std::size_t>(asked));
+  } catch (const std::bad_alloc&) {
+    throw HostError("There is not enough memory for " + std::to_string(asked) + " rows of the grid " +
+                    Name());
+  }
+  Rows.PutSilently(asked);
+  ClampCursor();
+}
+
+void GridModel::ResizeCols() {
+  const int asked = Cols;
+  Cols.PutSilently(static_cast<int>(columns_.size()));
+  if (asked < 0) throw SubscriptError(Name() + " Cols " + std::to_string(asked));
+  RequireRoom(Rows, asked);
+  columns_.resize(static_cast<std::size_t>(asked));
+  Cols.PutSilently(asked);
+  for (RowData& row : rows_) {
+    if (row.cells.size() > columns_.size()) row.cells.resize(columns_.size());
+  }
+  ClampCursor();
+}
+
 void GridModel::PropertyChanged(const PropertyBase& property) {
   if (&property == &Rows) {
-    if (const int asked = Rows; asked < 0) {
-      Rows.PutSilently(static_cast<int>(rows_.size()));
-      throw SubscriptError(Name() + " Rows " + std::to_string(asked));
-    }
-    rows_.resize(static_cast<std::size_t>(Rows()));
-    ClampCursor();
+    ResizeRows();
   } else if (&property == &Cols) {
-    if (const int asked = Cols; asked < 0) {
-      Cols.PutSilently(static_cast<int>(columns_.size()));
-      throw SubscriptError(Name() + " Cols " + std::to_string(asked));
-    }
-    columns_.resize(static_cast<std::size_t>(Cols()));
-    for (RowData& row : rows_) {
-      if (row.cells.size() > columns_.size()) row.cells.resize(columns_.size());
-    }
-    ClampCursor();
+    ResizeCols();
   } else if (&property == &Row || &property == &Col) {
     RequireCursor();
     CursorMoved();
+  } else if (&property == &RowSel || &property == &ColSel) {
+    RequireCursor();
+  } else if (&property == &Width || &property == &Height) {
+    sight_ = {};
   }
   if (&property == &Redraw || Redraw) Control::PropertyChanged(property);
 }
@@ -353,16 +291,25 @@ Control::State GridModel::Describe() const {
   Array widths;
   Array heights;
   Array colors;
+  Array underlined;
   for (int col = 0; col < Cols; ++col) widths.emplace_back(ColWidth(col));
   for (int row = 0; row < Rows; ++row) {
     heights.emplace_back(RowHeight(row));
     for (const Paint& paint : Paints(row)) {
       colors.emplace_back(Array{row, paint.firstCol, paint.lastCol, paint.backColor, paint.foreColor});
     }
+    for (int col = 0; Data(row).extra && col < Cols; ++col) {
+      if (CellFontUnderline(row, col)) underlined.emplace_back(Array{row, col});
+    }
   }
   state.emplace_back("colwidth", widths);
   state.emplace_back("rowheight", heights);
   state.emplace_back("colors", colors);
+  state.emplace_back("underlined", underlined);
+  if (Row >= 0 && Row < Rows && Col >= 0 && Col < Cols) {
+    const Place cell = CellPlace(Row, Col);
+    state.emplace_back("cell", Array{cell.left, cell.top, cell.width, cell.height});
+  }
   return state;
 }
 

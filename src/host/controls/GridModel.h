@@ -17,8 +17,17 @@ inline constexpr int kAlignRight = 7;
 
 /// Rows and columns of texts with a cursor, a selected rectangle and painted rows. The first FixedRows rows
 /// are titles. Widths and heights are twips; a column of width 0 and a row of height 0 are hidden.
+///
+/// A grid that would pass one of the limits below, or for which memory ends, refuses with HostError and stays
+/// as it was.
 class GridModel : public Control {
  public:
+  static constexpr int kMostRows = 4'000'000;
+  static constexpr int kMostCols = 1'000;
+  static constexpr std::int64_t kMostCells = 64'000'000;
+
+  /// Twips of the line that shows the title of a grid that has one.
+  static constexpr long kTitleLine = 345;
   static constexpr long kDefaultRowHeight = 285;
   static constexpr long kDefaultColumnWidth = 960;
 
@@ -28,13 +37,23 @@ class GridModel : public Control {
   Property<int> Cols{*this, "Cols", 2};
   Property<int> FixedRows{*this, "FixedRows", 1};
   Property<int> FixedCols{*this, "FixedCols"};
+
+  /// No row that is not hidden is lower.
   Property<long> RowHeightMin{*this, "RowHeightMin"};
+
+  /// Texts that are too long for their cell go on in the next line, as far as the row is high.
+  Property<bool> WordWrap{*this, "WordWrap"};
+
+  /// What a selection takes: 0 the cells of its rectangle, 1 whole rows, 2 whole columns.
+  Property<int> SelectionMode{*this, "SelectionMode"};
 
   /// False holds back the repaint while a form fills the grid.
   Property<bool> Redraw{*this, "Redraw", true};
   TextProperty Title{*this, "Title"};
 
-  /// The cursor. Moving it raises RowColChange, and RowChange with the new row when the row is another one.
+  /// The cursor and the corner of the selection that is opposite to it. Moving the cursor takes the selection
+  /// along and raises RowColChange, and RowChange with the new row when the row is another one. Outside the
+  /// grid they throw SubscriptError and stay.
   Property<int> Row{*this, "Row", 1};
   Property<int> Col{*this, "Col"};
   Property<int> RowSel{*this, "RowSel", 1};
@@ -43,6 +62,21 @@ class GridModel : public Control {
   Event<> RowColChange;
   Event<int> RowChange;
   Event<> DblClick;
+
+  /// The selected cells, as SelectionMode widens them; rows above the first that scrolls are never taken by
+  /// it.
+  struct Rectangle {
+    int firstRow = 0;
+    int lastRow = 0;
+    int firstCol = 0;
+    int lastCol = 0;
+
+    bool Contains(int row, int col) const {
+      return row >= firstRow && row <= lastRow && col >= firstCol && col <= lastCol;
+    }
+    bool IsOneCell() const { return firstRow == lastRow && firstCol == lastCol; }
+  };
+  Rectangle Selection() const;
 
   /// Throws SubscriptError outside the grid.
   std::string TextMatrix(int row, int col) const { return std::string(Cell(row, col)); }
@@ -66,7 +100,9 @@ class GridModel : public Control {
 
   /// Empties the cells below the titles and takes the paint off.
   virtual void Clear();
-  void AddItem(std::string_view tabbedText);
+
+  /// A new row with these cells, before the row of that number or, without one, below the last row.
+  void AddItem(std::string_view tabbedText, int row = kNoIndex);
   void RemoveItem(int row);
 
   /// Columns, widths, alignments, titles, fonts and row heights of another grid.
@@ -98,8 +134,37 @@ class GridModel : public Control {
   void UserDoubleClickRow(int row);
   void UserDoubleClick() override;
 
-  /// The nearest visible row from `row` in steps of `step`; 0 when there is none.
+  /// The nearest visible row below the titles from `row` in steps of `step`; -1 when there is none.
   int VisibleRowFrom(int row, int step) const;
+
+  /// Where a cell is drawn, in twips from the grid's top left corner; no width and height for a hidden one.
+  /// The cursor's cell is first brought into sight. Throws SubscriptError outside the grid.
+  struct Place {
+    long left = 0;
+    long top = 0;
+    long width = 0;
+    long height = 0;
+  };
+  Place CellPlace(int row, int col) const;
+
+  /// That of the cursor's cell.
+  long CellLeft() const { return CellPlace(Row, Col).left; }
+  long CellTop() const { return CellPlace(Row, Col).top; }
+  long CellWidth() const { return CellPlace(Row, Col).width; }
+  long CellHeight() const { return CellPlace(Row, Col).height; }
+
+  /// What a window that draws the grid shows of the cells below the titles, in twips. Without a window the
+  /// grid's own size tells it.
+  struct Sight {
+    long left = 0;
+    long top = 0;
+    long width = 0;  ///< 0 while no window has told
+    long height = 0;
+  };
+  void TellSight(const Sight& sight) { sight_ = sight; }
+
+  /// A row of titles that says nothing is no line on the screen.
+  bool IsTitleShown(int row) const;
 
   State Describe() const override;
 
@@ -117,10 +182,20 @@ class GridModel : public Control {
   /// The cursor moves by a key of the grid itself.
   void KeyMoveTo(int row, int col);
 
+  /// Twips of what stands under the rows.
+  virtual long FooterHeight() const { return 0; }
+
+  /// A row was put in before `row` (1) or the row was taken out (-1).
+  virtual void RowsShifted(int /*row*/, int /*by*/) {}
+
   /// Throws Refused for a cell that a person cannot go to.
   void RequireUserCell(int row, int col) const;
 
  private:
+  struct CellAt {
+    int row;
+    int col;
+  };
   struct ColumnData {
     long width = kDefaultColumnWidth;
     int alignment = kAlignLeft;
@@ -141,12 +216,21 @@ class GridModel : public Control {
   const RowData& Data(int row) const;
   RowData& Data(int row);
   RowExtra& Extra(int row);
+  void RequireRoom(std::int64_t rows, std::int64_t cols) const;
+  void ResizeRows();
+  void ResizeCols();
+  bool MoveByKey(int keyCode, CellAt& to) const;
+  int ScreenfulFrom(int row, int direction) const;
+  int ColBeside(int col, int direction) const;
+  long BodyTop() const;
+  Sight OwnSight() const;
   void ClampCursor();
   void RequireCursor();
   void CursorMoved();
 
   std::vector<RowData> rows_;
   std::vector<ColumnData> columns_;
+  mutable Sight sight_;
   int toldRow_ = 1;
   int toldCol_ = 0;
 };

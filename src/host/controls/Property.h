@@ -38,6 +38,10 @@ inline Variant ToVariant(bool value) { return value; }
 inline Variant ToVariant(int value) { return value; }
 inline Variant ToVariant(long value) { return value; }
 Variant ToVariant(const Font& value);
+
+/// A text that is none throws HostError, which tells it.
+std::int64_t WholeNumber(const Variant& value);
+bool Flag(const Variant& value);
 void FromVariant(const Variant& value, std::string& out);
 void FromVariant(const Variant& value, bool& out);
 void FromVariant(const Variant& value, int& out);
@@ -115,7 +119,7 @@ class VisibleProperty : public PropertyBase {
   bool Own() const { return own_; }
 
   Variant Value() const override { return static_cast<bool>(*this); }
-  void Assign(const Variant& value) override { *this = value.ToFlag(); }
+  void Assign(const Variant& value) override { *this = property::Flag(value); }
 
  private:
   Control& control_;

@@ -163,19 +163,24 @@ void Assign(T& target, const Variant& value) {
   if constexpr (IsSharedPtr<T>::value) {
     const std::shared_ptr<Object> object = value.ToObject();
     auto typed = std::dynamic_pointer_cast<typename T::element_type>(object);
+    const bool none = value.IsEmpty() || value.IsNull() || value.Is<std::shared_ptr<Object>>();
+    if (!none) throw HostError("A form or another object is wanted here");
     if (object && !typed) throw HostError("Type mismatch");
     target = typed;
   } else if constexpr (std::is_same_v<T, CNameValues>) {
     target = ToBag(value);
   } else if constexpr (std::is_same_v<T, bool>) {
-    target = value.ToFlag();
+    target = property::Flag(value);
   } else if constexpr (std::is_same_v<T, Amount>) {
+    if (value.Is<std::string>() && !value.IsNumeric()) {
+      throw HostError("This is no amount: " + value.ToText());
+    }
     target = value.ToAmount();
   } else if constexpr (std::is_same_v<T, Date>) {
     target = value.ToDate();
     if (target.IsEmpty() && !value.ToText().empty()) throw HostError("This is no date: " + value.ToText());
   } else if constexpr (std::is_integral_v<T>) {
-    const std::int64_t wide = value.ToInteger();
+    const std::int64_t wide = property::WholeNumber(value);
     if (static_cast<std::int64_t>(static_cast<T>(wide)) != wide) throw OverflowError();
     target = static_cast<T>(wide);
   } else {

@@ -22,6 +22,26 @@ std::string NumberText(double value) {
 
 }  // namespace
 
+bool Variant::IsNumeric() const {
+  if (!Is<std::string>()) {
+    return IsEmpty() || IsNull() || Is<bool>() || Is<std::int64_t>() || Is<double>() || Is<Amount>();
+  }
+  const std::string text = text::Trim(As<std::string>());
+  std::size_t digits = 0;
+  bool point = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (c >= '0' && c <= '9') {
+      ++digits;
+    } else if (c == '.' && !point) {
+      point = true;
+    } else if (i != 0 || (c != '-' && c != '+')) {
+      return false;
+    }
+  }
+  return text.empty() || digits > 0;
+}
+
 std::int64_t Variant::ToInteger() const {
   if (Is<std::int64_t>()) return As<std::int64_t>();
   if (Is<Amount>()) return As<Amount>().Units() / 10000;

@@ -49,6 +49,9 @@ class Variant {
     return std::get<T>(value_);
   }
 
+  /// True for a number, a flag, nothing at all, and a text that is blank or from end to end a number.
+  bool IsNumeric() const;
+
   /// Numbers: texts by Val, flags as -1 and 0, empty and null as 0. Anything else throws HostError.
   std::int64_t ToInteger() const;
   double ToDouble() const;

@@ -7,18 +7,6 @@
 
 namespace quillon {
 
-namespace {
-
-/// Titles that say nothing are no line on the screen.
-bool SaysSomething(const GridModel& grid, int row) {
-  for (int col = 0; col < grid.Cols; ++col) {
-    if (grid.IsColVisible(col) && !grid.Cell(row, col).empty()) return true;
-  }
-  return false;
-}
-
-}  // namespace
-
 void GridLayout::Measure(const GridModel& grid, int room) {
   modelRows_ = grid.Rows;
   rows_.clear();
@@ -28,7 +16,7 @@ void GridLayout::Measure(const GridModel& grid, int room) {
   const int fixed = std::min(grid.FixedRows(), grid.Rows());
   long twips = 0;
   for (int row = 0; row < fixed; ++row) {
-    if (!grid.IsRowVisible(row) || !SaysSomething(grid, row)) continue;
+    if (!grid.IsTitleShown(row)) continue;
     titles_.push_back(row);
     titleTops_.push_back(Scale::Px(twips += grid.RowHeight(row)));
   }

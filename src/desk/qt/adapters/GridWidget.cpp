@@ -17,7 +17,7 @@ namespace quillon {
 namespace {
 
 constexpr int kPadding = 6;
-constexpr long kTitleLine = 345;
+constexpr int kLineTop = 2;
 constexpr const char* kRuled = "*hline1*";
 
 QColor Translucent(QColor color, int alpha) {
@@ -61,7 +61,8 @@ void GridWidget::Measure() {
 void GridWidget::Settle() {
   waiting_ = false;
   if (stale_ || !layout_.Fits(model_)) Measure();
-  const CellPlace cursor{model_.Row, model_.Col};
+  // The keys move the end of a selection, which a cursor alone is too.
+  const CellPlace cursor{model_.RowSel, model_.ColSel};
   if (cursor != cursor_) {
     cursor_ = cursor;
     ScrollTo(cursor.row, cursor.col);
@@ -80,6 +81,13 @@ void GridWidget::UpdateBars() {
   horizontalScrollBar()->setRange(0, std::max(0, layout_.Width() - body.width()));
   horizontalScrollBar()->setPageStep(std::max(1, body.width()));
   horizontalScrollBar()->setSingleStep(Scale::Px(600));
+  TellSight();
+}
+
+void GridWidget::TellSight() {
+  const QRect body = Body();
+  model_.TellSight({Scale::Twips(horizontalScrollBar()->value()), Scale::Twips(verticalScrollBar()->value()),
+                    Scale::Twips(body.width()), Scale::Twips(body.height())});
 }
 
 void GridWidget::ScrollTo(int row, int col) {
@@ -101,7 +109,7 @@ void GridWidget::ScrollTo(int row, int col) {
   if (left < right.value()) right.setValue(left);
 }
 
-int GridWidget::TitleLine() const { return model_.Title().empty() ? 0 : Scale::Px(kTitleLine); }
+int GridWidget::TitleLine() const { return model_.Title().empty() ? 0 : Scale::Px(GridModel::kTitleLine); }
 
 int GridWidget::FooterHeight() const {
   const auto* plus = dynamic_cast<const CGridPlus*>(&model_);
@@ -111,9 +119,7 @@ int GridWidget::FooterHeight() const {
 int GridWidget::FooterLine() const {
   const auto* plus = dynamic_cast<const CGridPlus*>(&model_);
   if (plus == nullptr || plus->Footer.Rows() == 0) return 0;
-  const long own = plus->Footer.Height() / plus->Footer.Rows();
-  const long line = own > 0 ? own : std::max(GridModel::kDefaultRowHeight, model_.RowHeightMin());
-  return std::max(Scale::Px(line), fontMetrics().height() + kPadding);
+  return std::max(Scale::Px(plus->FooterLine()), fontMetrics().height() + kPadding);
 }
 
 QRect GridWidget::Body() const {
@@ -181,10 +187,24 @@ void GridWidget::EachCol(QPainter& painter, const QRect& band, const DrawCell& d
   }
 }
 
+bool GridWidget::DrawLines(QPainter& painter, const QRect& cell, const QString& text, int alignment) const {
+  const bool lines = model_.WordWrap || text.contains(QLatin1Char('\n'));
+  if (!lines || cell.height() < 2 * QFontMetrics(painter.font()).lineSpacing()) return false;
+  const auto across = static_cast<int>(AlignmentOf(alignment) & Qt::AlignHorizontal_Mask);
+  const int wraps = model_.WordWrap ? static_cast<int>(Qt::TextWordWrap) : 0;
+  painter.save();
+  painter.setClipRect(cell, Qt::IntersectClip);
+  painter.drawText(cell.adjusted(0, kLineTop, 0, 0), across | Qt::AlignTop | wraps,
+                   QString(text).remove(QLatin1Char('\r')));
+  painter.restore();
+  return true;
+}
+
 void GridWidget::DrawText(QPainter& painter, QRect cell, std::string_view text, int alignment) const {
   if (text.empty()) return;
   cell.adjust(kPadding, 0, -kPadding, 0);
   QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  if (DrawLines(painter, cell, shown, alignment)) return;
   const QFontMetrics metrics(painter.font());
   const int width = metrics.horizontalAdvance(shown);
   if (width > cell.width() && alignment == kAlignRight && cell.width() > 0) {
@@ -256,9 +276,8 @@ void GridWidget::PaintRow(QPainter& painter, int row, const QRect& band) const {
   const std::vector<GridModel::Paint>& paints = model_.Paints(row);
   const QColor own =
       model_.ForeColor == Control::kDefaultColor ? Theme::Text() : Theme::ColorOf(model_.ForeColor);
-  const auto [firstRow, lastRow] = std::minmax(model_.Row(), model_.RowSel());
-  const auto [firstCol, lastCol] = std::minmax(model_.Col(), model_.ColSel());
-  const bool block = firstRow != lastRow || firstCol != lastCol;
+  const GridModel::Rectangle taken = model_.Selection();
+  const bool block = !taken.IsOneCell();
   EachCol(painter, band, [&](int col, const QRect& cell) {
     QColor fore = own;
     for (const GridModel::Paint& paint : paints) {
@@ -266,7 +285,7 @@ void GridWidget::PaintRow(QPainter& painter, int row, const QRect& band) const {
       if (paint.backColor != Control::kDefaultColor) painter.fillRect(cell, Theme::ColorOf(paint.backColor));
       if (paint.foreColor != Control::kDefaultColor) fore = Theme::ColorOf(paint.foreColor);
     }
-    if (block && row >= firstRow && row <= lastRow && col >= firstCol && col <= lastCol) {
+    if (block && taken.Contains(row, col)) {
       painter.fillRect(cell, Translucent(Theme::Accent(), 60));
     }
     const bool command = col == layout_.Cols() - 1 && model_.Cell(row, col) == kRuled;
@@ -325,6 +344,7 @@ void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void GridWidget::scrollContentsBy(int /*dx*/, int /*dy*/) {
+  TellSight();
   if (OnMoved) OnMoved();
   viewport()->update();
 }

@@ -59,6 +59,7 @@ class GridWidget : public QAbstractScrollArea {
 
   void Measure();
   void UpdateBars();
+  void TellSight();
   int TitleLine() const;
   int FooterHeight() const;
   int FooterLine() const;
@@ -72,6 +73,7 @@ class GridWidget : public QAbstractScrollArea {
   void PaintCursor(QPainter& painter) const;
   void PaintFooter(QPainter& painter) const;
   void DrawText(QPainter& painter, QRect cell, std::string_view text, int alignment) const;
+  bool DrawLines(QPainter& painter, const QRect& cell, const QString& text, int alignment) const;
   QColor Back() const;
   bool HasKeys() const;
 

@@ -144,13 +144,12 @@ void FormView::CopySelection() {
   }
   const auto* grid = dynamic_cast<const GridModel*>(focused);
   if (grid == nullptr) return;
-  const auto [firstRow, lastRow] = std::minmax(grid->Row(), grid->RowSel());
-  const auto [firstCol, lastCol] = std::minmax(grid->Col(), grid->ColSel());
+  const GridModel::Rectangle taken = grid->Selection();
   std::vector<std::string> lines;
-  for (int row = firstRow; row <= lastRow; ++row) {
+  for (int row = taken.firstRow; row <= taken.lastRow; ++row) {
     if (!grid->IsRowVisible(row)) continue;
     std::vector<std::string> cells;
-    for (int col = firstCol; col <= lastCol; ++col) {
+    for (int col = taken.firstCol; col <= taken.lastCol; ++col) {
       if (grid->IsColVisible(col)) cells.push_back(grid->TextMatrix(row, col));
     }
     lines.push_back(text::Join(cells, "\t"));

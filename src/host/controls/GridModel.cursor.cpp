@@ -1,0 +1,196 @@
+#include "host/controls/GridModel.h"
+
+#include <algorithm>
+
+#include "host/forms/Form.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr long kScrollBar = 240;
+
+}  // namespace
+
+int GridModel::VisibleRowFrom(int row, int step) const {
+  for (; row >= FixedRows && row < Rows; row += step) {
+    if (IsRowVisible(row)) return row;
+  }
+  return -1;
+}
+
+int GridModel::ColBeside(int col, int direction) const {
+  for (int next = col + direction; next >= 0 && next < Cols; next += direction) {
+    if (IsColVisible(next)) return next;
+  }
+  return col;
+}
+
+bool GridModel::IsTitleShown(int row) const {
+  if (!IsRowVisible(row)) return false;
+  for (int col = 0; col < Cols; ++col) {
+    if (IsColVisible(col) && !Cell(row, col).empty()) return true;
+  }
+  return false;
+}
+
+long GridModel::BodyTop() const {
+  long top = Title().empty() ? 0 : kTitleLine;
+  for (int row = 0; row < std::min(FixedRows(), Rows()); ++row) {
+    if (IsTitleShown(row)) top += RowHeight(row);
+  }
+  return top;
+}
+
+GridModel::Sight GridModel::OwnSight() const {
+  Sight sight{sight_.left, sight_.top, Width, std::max(Height - BodyTop() - FooterHeight(), 0L)};
+  long whole = 0;
+  for (int row = FixedRows; row < Rows && whole <= sight.height; ++row) whole += RowHeight(row);
+  if (whole > sight.height) sight.width = std::max(sight.width - kScrollBar, 0L);
+  return sight;
+}
+
+GridModel::Place GridModel::CellPlace(int row, int col) const {
+  RequireRow(row);
+  RequireCol(col);
+  Sight sight = sight_.width > 0 ? sight_ : OwnSight();
+  Place place{0, 0, ColWidth(col), RowHeight(row)};
+  long whole = 0;
+  for (int i = 0; i < Cols; ++i) {
+    if (i == col) place.left = whole;
+    whole += std::max(ColWidth(i), 0L);
+  }
+  // Columns share the width that is left over, as they do on the screen.
+  if (whole > 0 && whole < sight.width) {
+    const long right = (place.left + place.width) * sight.width / whole;
+    place.left = place.left * sight.width / whole;
+    place.width = right - place.left;
+  }
+  for (int i = FixedRows; i < row; ++i) place.top += RowHeight(i);
+  if (row == Row && col == Col) {
+    sight.top = std::min(std::max(sight.top, place.top + place.height - sight.height), place.top);
+    if (col >= FixedCols) {
+      sight.left = std::min(std::max(sight.left, place.left + place.width - sight.width), place.left);
+    }
+    sight_.left = sight.left;
+    sight_.top = sight.top;
+  }
+  if (col >= FixedCols) place.left -= sight.left;
+  place.top += BodyTop() - sight.top;
+  if (place.width <= 0 || place.height <= 0) place.width = place.height = 0;
+  return place;
+}
+
+GridModel::Rectangle GridModel::Selection() const {
+  const auto [firstRow, lastRow] = std::minmax(Row(), RowSel());
+  const auto [firstCol, lastCol] = std::minmax(Col(), ColSel());
+  Rectangle taken{firstRow, lastRow, firstCol, lastCol};
+  if (SelectionMode == 1) {
+    taken.firstCol = 0;
+    taken.lastCol = Cols - 1;
+  } else if (SelectionMode == 2) {
+    taken.firstRow = FixedRows;
+    taken.lastRow = Rows - 1;
+  }
+  return taken;
+}
+
+int GridModel::ScreenfulFrom(int row, int direction) const {
+  long room = sight_.height > 0 ? sight_.height : OwnSight().height;
+  int reached = row;
+  for (int next = VisibleRowFrom(row + direction, direction); next >= 0;
+       next = VisibleRowFrom(next + direction, direction)) {
+    room -= RowHeight(next);
+    if (room < 0 && reached != row) break;
+    reached = next;
+  }
+  return reached;
+}
+
+/// False for a key that moves nothing.
+bool GridModel::MoveByKey(int keyCode, CellAt& to) const {
+  int row = to.row;
+  switch (keyCode) {
+    case keys::kUp:
+      row = VisibleRowFrom(row - 1, -1);
+      break;
+    case keys::kDown:
+      row = VisibleRowFrom(row + 1, 1);
+      break;
+    case keys::kPageUp:
+      row = ScreenfulFrom(row, -1);
+      break;
+    case keys::kPageDown:
+      row = ScreenfulFrom(row, 1);
+      break;
+    case keys::kLeft:
+      to.col = ColBeside(to.col, -1);
+      break;
+    case keys::kRight:
+      to.col = ColBeside(to.col, 1);
+      break;
+    case keys::kHome:
+      row = VisibleRowFrom(FixedRows, 1);
+      break;
+    case keys::kEnd:
+      row = VisibleRowFrom(Rows - 1, -1);
+      break;
+    default:
+      return false;
+  }
+  if (row >= 0) to.row = row;
+  return true;
+}
+
+bool GridModel::HandleKey(const KeyEvent& key) {
+  const bool extends = key.Shift == keys::kShift;
+  if (key.Shift != 0 && key.Shift != keys::kCtrl && !extends) return false;
+  CellAt to = extends ? CellAt{RowSel, ColSel} : CellAt{Row, Col};
+  if (!MoveByKey(key.KeyCode, to)) return false;
+  // A cursor on the titles of an empty grid goes nowhere.
+  if (to.row < FixedRows || to.row >= Rows) return true;
+  if (extends) {
+    RowSel = to.row;
+    ColSel = to.col;
+  } else {
+    KeyMoveTo(to.row, to.col);
+  }
+  return true;
+}
+
+void GridModel::RequireUserCell(int row, int col) const {
+  RequireReachable();
+  const std::string called = FullName() + " row " + std::to_string(row);
+  if (row < FixedRows || row >= Rows || col < 0 || col >= Cols) {
+    throw Refused(called + ", column " + std::to_string(col) + " is no cell of the grid");
+  }
+  if (!IsRowVisible(row)) throw Refused(called + " is hidden");
+}
+
+void GridModel::UserMoveTo(int row, int col) {
+  RequireUserCell(row, col);
+  if (!OwnerForm().UserFocus(*this)) return;
+  KeyMoveTo(row, col);
+}
+
+void GridModel::KeyMoveTo(int row, int col) {
+  Row.PutSilently(row);
+  Col.PutSilently(col);
+  CursorMoved();
+}
+
+void GridModel::UserSelect(int row, int col, int rowSel, int colSel) {
+  RequireUserCell(rowSel, colSel);
+  UserMoveTo(row, col);
+  RowSel = rowSel;
+  ColSel = colSel;
+}
+
+void GridModel::UserDoubleClickRow(int row) {
+  UserMoveTo(row, Col);
+  DblClick.Raise();
+}
+
+void GridModel::UserDoubleClick() { UserDoubleClickRow(Row); }
+
+}  // namespace quillon
