@@ -171,7 +171,7 @@ TEST_F(AdaptersTest, AFieldIsSelectedByKeys) {
   // A line's end is one character to the keys.
   form_->txtLines.Text = "a\r\nb";
   form_->UserFocus(form_->txtLines);
-  Press(*form_, Qt::Key_End);
+  Press(*form_, Qt::Key_End, Qt::ControlModifier);
   Press(*form_, Qt::Key_Left);
   Press(*form_, Qt::Key_Backspace);
   EXPECT_EQ(form_->txtLines.Text(), "ab");

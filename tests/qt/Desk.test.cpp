@@ -1,11 +1,13 @@
 #include <QCloseEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 
 #include "desk/qt/dialogs/DateDialog.h"
 #include "desk/qt/dialogs/MessageDialog.h"
 #include "desk/qt/windows/PageView.h"
 #include "desk/qt/windows/PreviewWindow.h"
 #include "host/forms/Progress.h"
+#include "host/forms/ScreenForm.h"
 #include "host/services/ISession.h"
 #include "host/values/Text.h"
 #include "tests/qt/DeskTest.h"
@@ -20,6 +22,66 @@ QString AnswerMessage(Qt::Key key) {
   const QString text = box->accessibleDescription();
   QTest::keyClick(box->focusWidget(), key);
   return text;
+}
+
+/// A full-size screen that answers F1 itself where it is told to.
+class frmPicker : public ScreenForm {
+ public:
+  frmPicker() : ScreenForm(kSpec, Origin::Module) {}
+
+  bool AnswersHelp = false;
+
+ protected:
+  void BuildBar() override {}
+  void LoadScreen() override {}
+  void ButtonPressed(int) override {}
+  void OnKeyDown(KeyEvent& key) override {
+    if (AnswersHelp && key.KeyCode == keys::kF1) {
+      key.KeyCode = 0;
+      lblTitle.Caption = "Answered";
+    }
+    ScreenForm::OnKeyDown(key);
+  }
+
+ private:
+  static constexpr ScreenSpec kSpec{.className = "frmPicker",
+                                    .caption = "Picker",
+                                    .titleSuffix = "",
+                                    .rightKey = "",
+                                    .registerTitle = "Picker",
+                                    .iconKey = "List"};
+};
+
+TEST_F(DeskTest, AModalScreenLiesInTheAreaAndKeepsTheMenusAway) {
+  OpenStatement();
+  const auto picker = std::make_shared<frmPicker>();
+  int helps = 0;
+  Soon([&] {
+    FormView* const view = runtime_.ViewOf(*picker);
+    EXPECT_FALSE(view->isWindow());
+    EXPECT_TRUE(view->isVisible());
+    EXPECT_FALSE(window_.menuBar()->isEnabled());
+    Soon([&] {
+      if (QWidget* help = QApplication::activeModalWidget()) {
+        ++helps;
+        QTest::keyClick(help, Qt::Key_Escape);
+      }
+    });
+    Press(Qt::Key_F1);
+    EXPECT_EQ(helps, 1) << "the keys of the screen";
+    picker->AnswersHelp = true;
+    Press(Qt::Key_F1);
+    EXPECT_EQ(picker->lblTitle.Caption(), "Answered");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    window_.close();
+    EXPECT_TRUE(window_.isVisible()) << "the desk waits for the answer";
+    Press(Qt::Key_Escape);
+  });
+  Acts::Run([&] { gRuntime->Show(picker, true); });
+  EXPECT_FALSE(picker->IsLoaded());
+  EXPECT_TRUE(window_.menuBar()->isEnabled());
+  EXPECT_EQ(Top().Name(), "frmAccount");
+  EXPECT_TRUE(runtime_.TopView()->isVisible());
 }
 
 TEST_F(DeskTest, EntriesAreMarkedByKeysAlone) {

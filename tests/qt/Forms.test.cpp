@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "desk/qt/dialogs/DateDialog.h"
@@ -117,6 +118,24 @@ TEST_F(FormsTest, AMessageTakesItsDefaultByEnterAndTheLastButtonByEsc) {
   first.Default = 1;
   Soon([] { QTest::keyClick(QApplication::activeModalWidget()->focusWidget(), Qt::Key_Return); });
   EXPECT_EQ(runtime_.AskMessage(first), 1);
+}
+
+TEST_F(FormsTest, WhatOnlyAnExpertReadsStandsBehindDetails) {
+  MessageRequest request{"The books cannot be reached.", "E", {"Try again", "Cancel"}, "Quillon", 1};
+  request.Details = "SQLSTATE 08006: connection lost";
+  Soon([] {
+    QWidget* const box = QApplication::activeModalWidget();
+    auto* const details = box->findChild<QPlainTextEdit*>();
+    ASSERT_NE(details, nullptr);
+    EXPECT_FALSE(details->isVisible());
+    for (auto* button : box->findChildren<QPushButton*>()) {
+      if (button->accessibleName() == QLatin1String("Details")) button->click();
+    }
+    EXPECT_TRUE(details->isVisible()) << "and the box is still open";
+    EXPECT_EQ(details->toPlainText(), "SQLSTATE 08006: connection lost");
+    QTest::keyClick(box, Qt::Key_Escape);
+  });
+  EXPECT_EQ(runtime_.AskMessage(request), 2);
 }
 
 TEST_F(FormsTest, SentKeysReachTheFormThatTheKeyOpened) {

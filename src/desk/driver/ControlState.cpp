@@ -4,6 +4,7 @@
 #include <climits>
 
 #include "host/controls/GridModel.h"
+#include "host/controls/Surface.h"
 
 namespace quillon {
 
@@ -38,6 +39,9 @@ Json StateOf(const Control& control, const Json& command) {
     for (Json& button : state["buttons"]) {
       button = Named(button, {"key", "caption", "picture", "tooltip", "enabled", "visible"});
     }
+  }
+  if (dynamic_cast<const Surface*>(&control) != nullptr) {
+    for (Json& line : state["lines"]) line = Named(line, {"fromleft", "fromtop", "toleft", "totop", "color"});
   }
   if (const auto* grid = dynamic_cast<const GridModel*>(&control)) {
     for (Json& paint : state["colors"])

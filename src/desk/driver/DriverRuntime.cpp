@@ -67,6 +67,7 @@ std::optional<Json> DriverRuntime::Answer(const std::string& kind, Json& event) 
 int DriverRuntime::AskMessage(const MessageRequest& request) {
   Json event{{"event", "message"},         {"text", request.Text},   {"icon", request.Icon},
              {"buttons", request.Buttons}, {"title", request.Title}, {"default", request.Default}};
+  if (!request.Details.empty()) event["details"] = request.Details;
   int button = request.Default;
   if (const std::optional<Json> answer = Answer("message", event)) {
     button = answer->at("button").get<int>();
@@ -168,6 +169,10 @@ bool DriverRuntime::AskPrint(PrintSetup& setup) {
   setup.Copies = answer->value("copies", setup.Copies);
   setup.PrinterObj = answer->value("printer", setup.PrinterObj);
   return true;
+}
+
+void DriverRuntime::ShowHelp(Form& form, int context) {
+  log_.Write({{"event", "help"}, {"form", log_.IdOf(form)}, {"context", context}});
 }
 
 int DriverRuntime::AskPopup(Form& form, Menu& menu, long /*left*/, long /*top*/) {

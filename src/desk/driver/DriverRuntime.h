@@ -53,6 +53,7 @@ class DriverRuntime : public Runtime {
   bool AskPick(const CPickList& list, std::size_t& item) override;
   bool AskParties(PartiesRequest& request) override;
   bool AskPrint(PrintSetup& setup) override;
+  void ShowHelp(Form& form, int context) override;
   int AskPopup(Form& form, Menu& menu, long left, long top) override;
   void TellError(const std::string& routine, Form* form, const std::string& text) override;
 

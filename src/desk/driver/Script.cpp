@@ -26,39 +26,19 @@ Script::Script(std::istream& in, Desk& desk, DriverRuntime& runtime, EventLog& l
 }
 
 Script::Command Script::Find(const std::string& name) {
-  static const std::map<std::string, Command> kCommands = {{"firm", &Script::DoFirm},
-                                                           {"form", &Script::DoForm},
-                                                           {"menu", &Script::DoMenu},
-                                                           {"set", &Script::DoSet},
-                                                           {"get", &Script::DoGet},
-                                                           {"call", &Script::DoCall},
-                                                           {"show", &Script::DoShow},
-                                                           {"close", &Script::DoClose},
-                                                           {"forms", &Script::DoForms},
-                                                           {"key", &Script::DoKey},
-                                                           {"focus", &Script::DoFocus},
-                                                           {"type", &Script::DoType},
-                                                           {"click", &Script::DoClick},
-                                                           {"dblclick", &Script::DoDblClick},
-                                                           {"bar", &Script::DoBar},
-                                                           {"choose", &Script::DoChoose},
-                                                           {"check", &Script::DoCheck},
-                                                           {"row", &Script::DoRow},
-                                                           {"cell", &Script::DoCell},
-                                                           {"range", &Script::DoRange},
-                                                           {"gridrow", &Script::DoGridRow},
-                                                           {"scroll", &Script::DoScroll},
-                                                           {"pickbutton", &Script::DoPickButton},
-                                                           {"picked", &Script::DoPicked},
-                                                           {"popup", &Script::DoPopup},
-                                                           {"answer", &Script::DoAnswer},
-                                                           {"state", &Script::DoState},
-                                                           {"tree", &Script::DoTree},
-                                                           {"query", &Script::DoQuery},
-                                                           {"execute", &Script::DoExecute},
-                                                           {"setting", &Script::DoSetting},
-                                                           {"picture", &Script::DoPicture},
-                                                           {"trace", &Script::DoTrace}};
+  static const std::map<std::string, Command> kCommands = {
+      {"firm", &Script::DoFirm},       {"form", &Script::DoForm},       {"menu", &Script::DoMenu},
+      {"set", &Script::DoSet},         {"get", &Script::DoGet},         {"call", &Script::DoCall},
+      {"show", &Script::DoShow},       {"close", &Script::DoClose},     {"forms", &Script::DoForms},
+      {"key", &Script::DoKey},         {"focus", &Script::DoFocus},     {"type", &Script::DoType},
+      {"paste", &Script::DoPaste},     {"click", &Script::DoClick},     {"dblclick", &Script::DoDblClick},
+      {"bar", &Script::DoBar},         {"choose", &Script::DoChoose},   {"check", &Script::DoCheck},
+      {"row", &Script::DoRow},         {"cell", &Script::DoCell},       {"range", &Script::DoRange},
+      {"gridrow", &Script::DoGridRow}, {"scroll", &Script::DoScroll},   {"pickbutton", &Script::DoPickButton},
+      {"picked", &Script::DoPicked},   {"popup", &Script::DoPopup},     {"answer", &Script::DoAnswer},
+      {"state", &Script::DoState},     {"tree", &Script::DoTree},       {"query", &Script::DoQuery},
+      {"execute", &Script::DoExecute}, {"setting", &Script::DoSetting}, {"picture", &Script::DoPicture},
+      {"trace", &Script::DoTrace}};
   const auto known = kCommands.find(name);
   if (known == kCommands.end()) throw HostError("There is no command \"" + name + "\"");
   return known->second;
@@ -139,9 +119,11 @@ Control& Script::ControlOf(const Json& command) {
     if (dynamic_cast<CStdButtons*>(control) == nullptr) throw;
   }
   if (!command.contains("part")) return *control;
-  if (auto* period = dynamic_cast<CPeriod*>(control))
-    return period->Part(command.at("part").get<std::string>());
-  throw HostError(name + " has no parts");
+  const std::string part = command.at("part").get<std::string>();
+  if (auto* period = dynamic_cast<CPeriod*>(control)) return period->Part(part);
+  auto* const inner = dynamic_cast<Control*>(control->Get(part).ToObject().get());
+  if (inner == nullptr) throw HostError(name + " has no part " + part);
+  return *inner;
 }
 
 Json Script::Act(const std::function<void()>& act) {

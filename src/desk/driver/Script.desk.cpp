@@ -95,7 +95,10 @@ Json Script::DoForms(const Json& /*command*/) {
   return {{"forms", forms}};
 }
 
-Json Script::DoState(const Json& command) { return StateOf(ControlOf(command), command); }
+Json Script::DoState(const Json& command) {
+  if (command.contains("control")) return StateOf(ControlOf(command), command);
+  return StateOf(*Current(command), command);
+}
 
 Json Script::DoTree(const Json& command) { return TreeOf(*Current(command), log_); }
 

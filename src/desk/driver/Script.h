@@ -57,6 +57,7 @@ class Script {
   Json DoKey(const Json& command);
   Json DoFocus(const Json& command);
   Json DoType(const Json& command);
+  Json DoPaste(const Json& command);
   Json DoClick(const Json& command);
   Json DoDblClick(const Json& command);
   Json DoBar(const Json& command);

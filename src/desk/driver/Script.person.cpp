@@ -69,6 +69,18 @@ Json Script::DoType(const Json& command) {
   });
 }
 
+Json Script::DoPaste(const Json& command) {
+  Control& control = ControlOf(command);
+  const std::string text = command.at("text").get<std::string>();
+  return Act([&] {
+    const FormPtr form = control.OwnerForm().Self();
+    if (!form->UserFocus(control)) throw Refused("The field that has the focus was not left");
+    if (control.TypedBox() == nullptr) throw Refused(control.Name() + " is no field to paste into");
+    if (control.TypedBox()->Locked) throw Refused(control.Name() + " is locked");
+    form->UserPaste(text);
+  });
+}
+
 Json Script::DoClick(const Json& command) {
   Control& control = ControlOf(command);
   if (auto* standard = dynamic_cast<CStdButtons*>(&control)) {

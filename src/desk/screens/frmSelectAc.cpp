@@ -54,7 +54,7 @@ void frmSelectAc::OnActivate() { txpAccount.SetFocus(); }
 
 /// A pick closes the dialog by itself.
 bool frmSelectAc::Confirm() {
-  if (!SelGrid1.PickMeant()) TellNotFound(txpAccount.Text());
+  if (!SelGrid1.PickChoice()) TellNotFound(txpAccount.Text());
   return false;
 }
 

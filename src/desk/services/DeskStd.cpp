@@ -133,9 +133,8 @@ IFiles& DeskStd::Files() {
   return files;
 }
 
-void DeskStd::ShowHelp(int /*context*/) {
-  MsgBox("The keys of this screen stand on its buttons: F2 to F9 along the bottom, Esc to leave.", "", "I",
-         "Help", 0, 0);
+void DeskStd::ShowHelp(int context) {
+  if (const FormPtr form = gRuntime->ActiveForm()) gRuntime->ShowHelp(*form, context);
 }
 
 }  // namespace quillon

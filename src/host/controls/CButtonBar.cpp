@@ -86,6 +86,12 @@ int CButtonBar::IndexOf(const std::string& key) const {
   return same == buttons_.end() ? -1 : static_cast<int>(same - buttons_.begin());
 }
 
+void CButtonBar::PressByKey(int index) {
+  if (index < 0 || index >= Count() || !IsReachable()) return;
+  Button& button = Buttons(index);
+  if (button.visible_ && button.enabled_) button.Click();
+}
+
 void CButtonBar::UserPress(int index) {
   RequireReachable();
   Button& button = Buttons(index);

@@ -69,6 +69,10 @@ class CButtonBar : public Control {
 
   Event<int> ButtonPressed;
 
+  /// The function key of a button: one that is hidden, disabled or missing does nothing, nor does any while a
+  /// person cannot reach the bar.
+  void PressByKey(int index);
+
   /// A person presses a button that he can see.
   void UserPress(int index);
   void UserPress(const std::string& key);

@@ -12,6 +12,7 @@ class CEditGrid : public EditableGrid {
   const char* Kind() const override { return "CEditGrid"; }
 
   GridModel& FlexGrid() { return *this; }
+  Variant Get(const std::string& member) override;
   int RowCount() const { return Rows; }
   void SetRowCount(int rows) { Rows = rows; }
 };

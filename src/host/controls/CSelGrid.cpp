@@ -1,5 +1,8 @@
 #include "host/controls/CSelGrid.h"
 
+#include <algorithm>
+
+#include "host/controls/EditableGrid.h"
 #include "host/data/CDataSet.h"
 #include "host/forms/Form.h"
 #include "host/forms/Runtime.h"
@@ -11,6 +14,23 @@ bool Finds(std::string_view typed, std::string_view line) {
   return text::Lower(line).starts_with(text::Lower(typed));
 }
 
+namespace {
+
+constexpr long kLowest = 1200;
+
+/// Where a field, or the cell that a grid has in edit, lies on the form.
+GridModel::Place PlaceOnForm(Control& field) {
+  const Control::Corner corner = field.CornerOnForm();
+  const auto* grid = dynamic_cast<EditableGrid*>(&field);
+  if (grid == nullptr) return {corner.left, corner.top, field.Width, field.Height};
+  GridModel::Place place = grid->CellPlace(grid->EditRow(), grid->EditCol());
+  place.left += corner.left;
+  place.top += corner.top;
+  return place;
+}
+
+}  // namespace
+
 CSelGrid::CSelGrid(Control& parent, std::string name, int index)
     : Control(parent, std::move(name), index),
       Grid(*this, "Grid", kNoIndex, false),
@@ -21,7 +41,56 @@ CSelGrid::~CSelGrid() { SetBoundText(nullptr); }
 void CSelGrid::SetBoundText(TextBox* box) {
   if (bound_ != nullptr && bound_->Companion == this) bound_->Companion = nullptr;
   bound_ = box;
+  hasChoice_ = false;
   if (bound_ != nullptr) bound_->Companion = this;
+}
+
+void CSelGrid::OpenUnder(Control& field) { OpenUnder(field, Room()); }
+
+void CSelGrid::OpenUnder(Control& field, const Room& room) {
+  TextBox* const box = field.TypedBox();
+  if (box == nullptr) throw HostError("A list cannot open under " + field.Name());
+  if (!open_) {
+    designedWidth_ = Width;
+    designedHeight_ = Height;
+  }
+  open_ = true;
+  const GridModel::Place place = PlaceOnForm(field);
+  const Corner origin = Parent()->CornerOnForm();
+  const long formWidth = OwnerForm().ScaleWidth();
+  const long formHeight = OwnerForm().ScaleHeight();
+  const long width = std::min(room.width > 0 ? room.width : designedWidth_, formWidth);
+  const long left = std::max(std::min(place.left + room.indent, formWidth - width), 0L);
+  long top = place.top + place.height;
+  const long below = formHeight - std::max(room.aboveBottom, 0L) - top;
+  const long wanted = room.aboveBottom >= 0 ? below : designedHeight_;
+  long height = std::min(wanted, below);
+  if (height < std::min(wanted, kLowest) && place.top > below) {
+    height = std::min(std::max(wanted, designedHeight_), place.top);
+    top = place.top - height;
+  }
+  Move(left - origin.left, top - origin.top, width, std::max(height, 0L));
+  SetBoundText(box);
+  Visible = true;
+}
+
+void CSelGrid::Close() {
+  Visible = false;
+  SetBoundText(nullptr);
+  if (!open_) return;
+  open_ = false;
+  Width = designedWidth_;
+  Height = designedHeight_;
+}
+
+/// The inner grid has the room below the title, so that its keys go a screenful.
+void CSelGrid::PlaceInside() {
+  const long title = Title.Caption().empty() ? 0 : GridModel::kTitleLine;
+  Grid.Move(0, title, Width, std::max(Height - title, 0L));
+}
+
+Variant CSelGrid::Get(const std::string& member) {
+  return Control::Get(text::EqualNoCase(member, "TitleLabel") ? "Title" : member);
 }
 
 bool CSelGrid::CompanionKey(const KeyEvent& key) {
@@ -31,10 +100,14 @@ bool CSelGrid::CompanionKey(const KeyEvent& key) {
     case keys::kDown:
     case keys::kPageUp:
     case keys::kPageDown:
-      meant_ = true;
+      hasChoice_ = true;
+      PlaceInside();
       return Grid.HandleKey(key);
     case keys::kEnter:
-      if (!PickMeant()) NotFound.Raise(bound_ != nullptr ? bound_->Text() : "");
+      // A line that nobody went to or typed is not taken.
+      if (PickChoice()) return true;
+      if (!NotFound) return false;
+      NotFound.Raise(bound_ != nullptr ? bound_->Text() : "");
       return true;
     default:
       return false;
@@ -42,11 +115,11 @@ bool CSelGrid::CompanionKey(const KeyEvent& key) {
 }
 
 void CSelGrid::CompanionTyped(const std::string& text) {
-  if (Visible) meant_ = !text.empty() && Search(text);
+  hasChoice_ = Visible && !text.empty() && Search(text);
 }
 
-bool CSelGrid::PickMeant() {
-  if (!meant_ || IsEmpty()) return false;
+bool CSelGrid::PickChoice() {
+  if (!HasChoice() || IsEmpty()) return false;
   Pick(Grid.Row);
   return true;
 }
@@ -70,7 +143,6 @@ void CSelGrid::Load(const std::string& sql, CDbLink& db, bool captionFlag, int w
   if (width > 0 && cols > 0) Grid.SetColWidth(0, width * gRuntime->TextWidth(Grid.Font, "9"));
   Grid.Redraw = true;
   loaded_ = true;
-  meant_ = false;
 }
 
 bool CSelGrid::Search(const std::string& text) {
@@ -85,6 +157,7 @@ bool CSelGrid::Search(const std::string& text) {
 void CSelGrid::Pick(int row) {
   if (row < 1 || row >= Grid.Rows) throw SubscriptError(FullName() + " row " + std::to_string(row));
   Grid.Row = row;
+  hasChoice_ = false;
   if (bound_ != nullptr) bound_->Text = Cell(row, 0);
   Selected.Raise();
 }
@@ -110,6 +183,11 @@ Control::State CSelGrid::Describe() const {
   State state = Control::Describe();
   state.emplace_back("title", Title.Caption());
   state.emplace_back("row", Grid.Row());
+  state.emplace_back("haschoice", HasChoice());
+  if (bound_ != nullptr) {
+    Control& holder = *bound_->Parent();
+    state.emplace_back("bound", holder.TypedBox() == bound_ ? holder.Name() : bound_->Name());
+  }
   state.emplace_back("cells", Grid.CellTexts(1, Grid.Rows - 1, {}));
   return state;
 }

@@ -31,6 +31,26 @@ class CSelGrid : public Control, private ITextCompanion {
   /// With `captionFlag` the columns' names stand above them.
   void Load(const std::string& sql, CDbLink& db, bool captionFlag, int width);
 
+  /// Opens the list under a field, or under the cell that a grid has in edit, and ties it to what is typed
+  /// there. It stays on the form: it moves to the left, becomes lower, or stands above where there is more
+  /// room. Throws HostError for a control that is not typed into.
+  void OpenUnder(Control& field);
+
+  /// The same with a place that differs: so far to the right of the field, so wide (0: as the screen made the
+  /// list), down to so far above the form's bottom (below 0: as high as the screen made the list). Twips.
+  struct Room {
+    long indent = 0;
+    long width = 0;
+    long aboveBottom = -1;
+  };
+  void OpenUnder(Control& field, const Room& room);
+
+  /// Hides the list, unties it and gives it back the size that the screen made.
+  void Close();
+
+  /// Whether the person went to a line, or what he typed found one: what Enter takes.
+  bool HasChoice() const { return hasChoice_ && !IsEmpty(); }
+
   /// The text box that the list serves; nothing unties it.
   void SetBoundText(TextBox* box);
   TextBox* BoundText() const { return bound_; }
@@ -47,24 +67,29 @@ class CSelGrid : public Control, private ITextCompanion {
   bool Search(const std::string& text);
   void Pick(int row);
 
-  /// Picks what the person means: the row that he moved to, or the first one that the typed text finds. False
-  /// when the text finds nothing, or when he neither typed nor moved.
-  bool PickMeant();
+  /// Picks the line that the person typed or went to; false when there is none such.
+  bool PickChoice();
 
-  /// Enter, with a text that finds no line.
+  /// Enter without a line that was typed or gone to. A list that has no handler leaves the key to its field.
   Event<const std::string&> NotFound;
 
   void UserPick(int row);
   void UserPick(const std::string& text);
   State Describe() const override;
+  Variant Get(const std::string& member) override;
 
  private:
   bool CompanionKey(const KeyEvent& key) override;
   void CompanionTyped(const std::string& text) override;
+  bool TakesEnter() const override { return Visible && (HasChoice() || NotFound); }
+  void PlaceInside();
 
   TextBox* bound_ = nullptr;
+  bool open_ = false;
+  bool hasChoice_ = false;
+  long designedWidth_ = 0;
+  long designedHeight_ = 0;
   bool loaded_ = false;
-  bool meant_ = false;  // the person moved to the row, or typed what finds it
 };
 
 }  // namespace quillon

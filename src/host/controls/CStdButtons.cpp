@@ -21,7 +21,9 @@ void CStdButtons::Press(int index) {
   const FormPtr alive = OwnerForm().Self();
   bool cancel = false;
   ButtonClick.Raise(index, cancel);
-  if (index == kExit && !cancel && alive->IsLoaded()) gRuntime->Unload(*alive);
+  if (cancel || !alive->IsLoaded()) return;
+  if (index == kHelp) gRuntime->ShowHelp(*alive, alive->HelpContext);
+  if (index == kExit) gRuntime->Unload(*alive);
 }
 
 }  // namespace quillon

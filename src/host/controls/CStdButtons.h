@@ -6,9 +6,10 @@
 
 namespace quillon {
 
-/// The small strip of standard buttons at the window's corner: 1 configuration, 2 Exit.
+/// The small strip of standard buttons at the window's corner: 0 help, 1 configuration, 2 Exit.
 class CStdButtons : public Control {
  public:
+  static constexpr int kHelp = 0;
   static constexpr int kConfigure = 1;
   static constexpr int kExit = 2;
   static constexpr int kCount = 3;
@@ -34,7 +35,7 @@ class CStdButtons : public Control {
   /// Throws SubscriptError outside 0 to 2.
   Button Buttons(int index);
 
-  /// Cancel set to true stops the close.
+  /// Cancel set to true stops what the button does by itself: the help is shown, the form is closed.
   Event<int, bool&> ButtonClick;
 
   void UserPress(int index);

@@ -35,7 +35,8 @@ class CTextPlus : public Control {
   Event<>& Change = TextBox.Change;
 
   bool CanTakeFocus() const override { return true; }
-  bool KeepsEnter() const override { return SuppressEnter; }
+  bool KeepsEnter() const override { return SuppressEnter || TextBox.KeepsEnter(); }
+  quillon::TextBox* TypedBox() override { return &TextBox; }
   bool HandleKey(const KeyEvent& key) override { return TextBox.HandleKey(key); }
   void HandleChar(int character) override { TextBox.HandleChar(character); }
   void EnterFocus() override;

@@ -135,14 +135,41 @@ Control::State Control::Describe() const {
   return state;
 }
 
+Control::Corner Control::CornerOnForm() const {
+  Corner corner;
+  for (const Control* control = this; control->parent_ != nullptr; control = control->parent_) {
+    corner.left += control->Left;
+    corner.top += control->Top;
+  }
+  return corner;
+}
+
+std::shared_ptr<Object> Control::Inner(const std::string& name) {
+  std::shared_ptr<Object> inner = Get(name).ToObject();
+  if (!inner) throw HostError("There is no control " + name);
+  return inner;
+}
+
 Variant Control::Get(const std::string& member) {
+  if (const std::size_t dot = member.find('.'); dot != std::string::npos) {
+    return Inner(member.substr(0, dot))->Get(member.substr(dot + 1));
+  }
   for (const PropertyBase* property : properties_) {
     if (text::EqualNoCase(property->Name(), member)) return property->Value();
+  }
+  for (Control* child : children_) {
+    if (!child->listed_ && text::EqualNoCase(child->Name(), member)) {
+      return std::shared_ptr<Object>(form_->Self(), child);
+    }
   }
   return Object::Get(member);
 }
 
 void Control::Set(const std::string& member, const Variant& value) {
+  if (const std::size_t dot = member.find('.'); dot != std::string::npos) {
+    Inner(member.substr(0, dot))->Set(member.substr(dot + 1), value);
+    return;
+  }
   for (PropertyBase* property : properties_) {
     if (text::EqualNoCase(property->Name(), member)) {
       property->Assign(value);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/controls/Keys.h"
+#include "host/controls/Pointers.h"
 #include "host/controls/Property.h"
 #include "host/values/Errors.h"
 #include "host/values/Event.h"
@@ -14,6 +15,7 @@ namespace quillon {
 
 class Control;
 class Form;
+class TextBox;
 
 /// Raised by a user verb for an act that a person could not do: on a control that is hidden, disabled, locked
 /// or covered by a modal form.
@@ -78,6 +80,9 @@ class Control : public Object {
   TextProperty ToolTipText{*this, "ToolTipText"};
   Property<bool> TabStop{*this, "TabStop", true};
 
+  /// The shape of the mouse pointer over the control.
+  Property<int> MousePointer{*this, "MousePointer", kPointerDefault};
+
   Event<> GotFocus;
   Event<> LostFocus;
 
@@ -88,6 +93,13 @@ class Control : public Object {
 
   void Move(long left, long top, long width, long height);
   void SetFocus();
+
+  /// Where the control's top left corner lies on its form, in twips.
+  struct Corner {
+    long left = 0;
+    long top = 0;
+  };
+  Corner CornerOnForm() const;
   bool HasFocus() const;
 
   /// Whether Tab and SetFocus may come here at all.
@@ -96,6 +108,9 @@ class Control : public Object {
 
   /// True when Enter and Tab belong to the control itself.
   virtual bool KeepsEnter() const { return false; }
+
+  /// The box that a person types into while the control has the focus, or nothing.
+  virtual TextBox* TypedBox() { return nullptr; }
 
   /// The key is offered to the form under the control's name, before the form hears of the character that it
   /// makes.
@@ -122,6 +137,7 @@ class Control : public Object {
   using State = std::vector<std::pair<std::string, Variant>>;
   virtual State Describe() const;
 
+  /// A property, or a control inside this one; "TitleLabel.Caption" goes on in that one.
   Variant Get(const std::string& member) override;
   void Set(const std::string& member, const Variant& value) override;
 
@@ -150,6 +166,7 @@ class Control : public Object {
 
  private:
   void Tell(const PropertyBase* property);
+  std::shared_ptr<Object> Inner(const std::string& name);
 };
 
 }  // namespace quillon

@@ -61,6 +61,7 @@ class EditableGrid : public GridModel {
   bool UserLeaveCell() { return EndEdit(); }
 
   void UserMoveTo(int row, int col) override;
+  TextBox* TypedBox() override { return editing_ ? &EditBox : nullptr; }
   bool MayLeave() override;
   void LeaveFocus() override;
   void OfferKey(KeyEvent& key) override;

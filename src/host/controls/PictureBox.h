@@ -1,15 +1,13 @@
 #pragma once
 
-#include <vector>
-
-#include "host/controls/Control.h"
+#include "host/controls/Surface.h"
 
 namespace quillon {
 
 /// A surface that holds other controls; may be clicked.
-class PictureBox : public Control {
+class PictureBox : public Surface {
  public:
-  using Control::Control;
+  using Surface::Surface;
 
   const char* Kind() const override { return "PictureBox"; }
 

@@ -1,10 +1,21 @@
 #include "host/controls/TextBox.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "host/values/Text.h"
 
 namespace quillon {
+
+namespace {
+
+/// Twips that the edges and the scroll bar of a box of several lines leave to no line.
+constexpr long kBesideLines = 600;
+constexpr long kNarrowestLine = 300;
+constexpr double kTwipsOfPoint = 20;
+constexpr double kLineOfFont = 1.2;
+
+}  // namespace
 
 std::string TextBox::Accepted(const std::string& text) const {
   std::string kept;
@@ -34,6 +45,7 @@ void TextBox::Select(int from, int to) {
   SelStart = std::min(from, to);
   SelLength = std::abs(to - from);
   anchor_ = from;
+  indent_ = -1;
 }
 
 int TextBox::Caret() const { return anchor_ == SelStart + SelLength ? SelStart : SelStart + SelLength; }
@@ -51,6 +63,7 @@ void TextBox::Replace(int start, int length, const std::string& with) {
   Text = taken;
   SelStart = std::min(start + static_cast<int>(text::Length(with)), static_cast<int>(text::Length(taken)));
   SelLength = 0;
+  indent_ = -1;
   if (Companion != nullptr) Companion->CompanionTyped(Text);
 }
 
@@ -92,32 +105,93 @@ int TextBox::Beside(int place, bool back) const {
   return std::clamp(back ? place - step : place + step, 0, static_cast<int>(text::Length(Text())));
 }
 
-bool TextBox::HandleMove(const KeyEvent& key) {
-  const bool extends = (key.Shift & keys::kShift) != 0;
+const TextLines& TextBox::Lines() const {
+  const long width = std::max(Width - kBesideLines, kNarrowestLine);
+  if (!laid_ || laid_->text != Text() || laid_->font != Font() || laid_->width != width) {
+    laid_ = std::make_unique<Laid>(Laid{Text(), Font(), width, TextLines(Text(), Font(), width)});
+  }
+  return laid_->lines;
+}
+
+int TextBox::Screenful() const {
+  const long line = std::lround(Font().Size * kTwipsOfPoint * kLineOfFont);
+  return static_cast<int>(std::max(Height / std::max(line, 1L) - 1, 1L));
+}
+
+/// Where the caret gets to so many lines below, above for a number below 0.
+int TextBox::LineTarget(int lines, long& indent) const {
+  const TextLines& laid = Lines();
+  indent = indent_ >= 0 ? indent_ : laid.Indent(Caret());
+  const int last = static_cast<int>(laid.All().size()) - 1;
+  return laid.PlaceNear(std::clamp(laid.LineAt(Caret()) + lines, 0, last), indent);
+}
+
+bool TextBox::MoveTarget(const KeyEvent& key, int& to, long& indent) const {
   const bool back = key.KeyCode == keys::kLeft;
-  const int end = static_cast<int>(text::Length(Text()));
-  int to = 0;
+  const bool inLine = MultiLine && (key.Shift & keys::kCtrl) == 0;
   switch (key.KeyCode) {
     case keys::kHome:
-      break;
+      to = inLine ? Lines().All()[static_cast<std::size_t>(Lines().LineAt(Caret()))].start : 0;
+      return true;
     case keys::kEnd:
-      to = end;
-      break;
+      to = inLine ? Lines().All()[static_cast<std::size_t>(Lines().LineAt(Caret()))].end
+                  : static_cast<int>(text::Length(Text()));
+      return true;
     case keys::kLeft:
     case keys::kRight:
       if ((key.Shift & ~keys::kShift) != 0) return false;
-      if (SelLength > 0 && !extends) {
+      if (SelLength > 0 && (key.Shift & keys::kShift) == 0) {
         to = back ? SelStart : SelStart + SelLength;
       } else {
         to = Beside(Caret(), back);
       }
-      break;
+      return true;
+    case keys::kUp:
+    case keys::kDown:
+      if (!MultiLine || (key.Shift & ~keys::kShift) != 0) return false;
+      to = LineTarget(key.KeyCode == keys::kUp ? -1 : 1, indent);
+      return true;
+    case keys::kPageUp:
+    case keys::kPageDown:
+      if (!MultiLine || (key.Shift & ~keys::kShift) != 0) return false;
+      to = LineTarget(key.KeyCode == keys::kPageUp ? -Screenful() : Screenful(), indent);
+      return true;
     default:
       return false;
   }
+}
+
+bool TextBox::HandleMove(const KeyEvent& key) {
+  int to = 0;
+  long indent = -1;
+  if (!MoveTarget(key, to, indent)) return false;
+  const bool extends = (key.Shift & keys::kShift) != 0;
   const int fixed = Caret() == SelStart ? SelStart + SelLength : SelStart;
   Select(extends ? fixed : to, to);
+  indent_ = indent;
   return true;
+}
+
+void TextBox::UserPaste(const std::string& text) {
+  if (Locked) throw Refused(Name() + " is locked");
+  std::string lines = text::ReplaceAll(text::ReplaceAll(text, "\r\n", "\n"), "\r", "\n");
+  lines = MultiLine ? text::ReplaceAll(lines, "\n", "\r\n") : lines.substr(0, lines.find('\n'));
+  const int end = static_cast<int>(text::Length(Text()));
+  SelStart = std::clamp(SelStart, 0, end);
+  Replace(SelStart, std::clamp(SelLength, 0, end - SelStart), lines);
+}
+
+Control::State TextBox::Describe() const {
+  State state = Control::Describe();
+  state.emplace_back("selstart", SelStart);
+  state.emplace_back("sellength", SelLength);
+  state.emplace_back("caret", Caret());
+  if (MultiLine) {
+    Array lines;
+    for (const TextLines::Line& line : Lines().All()) lines.emplace_back(line.text);
+    state.emplace_back("lines", lines);
+  }
+  return state;
 }
 
 void TextBox::HandleChar(int character) {

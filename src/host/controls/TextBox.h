@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "host/controls/Control.h"
+#include "host/controls/TextLines.h"
 
 namespace quillon {
 
@@ -16,6 +18,9 @@ class ITextCompanion {
 
   virtual bool CompanionKey(const KeyEvent& key) = 0;
   virtual void CompanionTyped(const std::string& text) = 0;
+
+  /// Whether Enter would take a line of the list.
+  virtual bool TakesEnter() const = 0;
 };
 
 /// A field of text. Every single-line editor is one of these: the plain box, the box of a labelled field, the
@@ -45,10 +50,14 @@ class TextBox : public Control {
   ITextCompanion* Companion = nullptr;
 
   bool CanTakeFocus() const override { return true; }
-  bool KeepsEnter() const override { return MultiLine; }
+  bool KeepsEnter() const override { return MultiLine || (Companion != nullptr && Companion->TakesEnter()); }
+  TextBox* TypedBox() override { return this; }
 
   /// A person replaces the whole text; what the field does not take is dropped.
   void UserType(const std::string& text);
+
+  /// A person pastes a text in place of the selection. A box of one line takes the first.
+  void UserPaste(const std::string& text);
 
   bool HandleKey(const KeyEvent& key) override;
   void HandleChar(int character) override;
@@ -61,6 +70,11 @@ class TextBox : public Control {
   /// The end of the selection that the keys move.
   int Caret() const;
 
+  /// The lines of a box of several lines as it shows them.
+  const TextLines& Lines() const;
+
+  State Describe() const override;
+
  protected:
   void PropertyChanged(const PropertyBase& property) override;
 
@@ -68,12 +82,26 @@ class TextBox : public Control {
   std::string Accepted(const std::string& text) const;
   void Replace(int start, int length, const std::string& with);
   bool HandleMove(const KeyEvent& key);
+  bool MoveTarget(const KeyEvent& key, int& to, long& indent) const;
+  int LineTarget(int lines, long& indent) const;
+  int Screenful() const;
 
   /// The place before or after one character; a line's end is one.
   int Beside(int place, bool back) const;
 
   /// Where the selection began; counts only while it is one of the ends.
   int anchor_ = 0;
+
+  /// How far from the left Up and Down began; below 0 when another key was the last.
+  long indent_ = -1;
+
+  struct Laid {
+    std::string text;
+    quillon::Font font;
+    long width;
+    TextLines lines;
+  };
+  mutable std::unique_ptr<Laid> laid_;
 };
 
 }  // namespace quillon

@@ -12,6 +12,7 @@
 #include "host/controls/CStdButtons.h"
 #include "host/controls/CTextPlus.h"
 #include "host/controls/CheckBox.h"
+#include "host/controls/Colors.h"
 #include "host/controls/ComboBox.h"
 #include "host/controls/CommandButton.h"
 #include "host/controls/ControlArray.h"

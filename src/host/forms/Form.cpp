@@ -5,6 +5,7 @@
 #include "host/controls/CButton.h"
 #include "host/controls/CStdButtons.h"
 #include "host/controls/Menu.h"
+#include "host/controls/TextBox.h"
 #include "host/forms/Runtime.h"
 #include "host/values/Text.h"
 
@@ -27,7 +28,7 @@ CNameValues ToBag(const Variant& value) {
 
 }  // namespace member
 
-Form::Form(std::string className, Origin origin) : Control(std::move(className)), origin_(origin) {
+Form::Form(std::string className, Origin origin) : Surface(std::move(className)), origin_(origin) {
   BindForm(*this);
   Member("CallingForm", CallingForm);
   Member("QuillonForm", QuillonForm);
@@ -53,19 +54,23 @@ Control& Form::ControlAt(const std::string& name, int index) {
 
 Variant Form::Get(const std::string& member) {
   if (const auto known = members_.find(Key(member)); known != members_.end()) return known->second.get();
+  if (member.empty()) return Surface::Get(member);
+  const std::size_t bracket = member.back() == ')' ? member.find('(') : std::string::npos;
+  const std::string name = member.substr(0, bracket);
   for (Control* control : controls_) {
-    if (!text::EqualNoCase(control->Name(), member)) continue;
+    if (!text::EqualNoCase(control->Name(), name)) continue;
+    if (bracket != std::string::npos && control->Index() != ValInteger(member.substr(bracket + 1))) continue;
     gRuntime->Load(Self());
     return std::shared_ptr<Object>(Self(), control);
   }
-  return Control::Get(member);
+  return Surface::Get(member);
 }
 
 void Form::Set(const std::string& member, const Variant& value) {
   if (const auto known = members_.find(Key(member)); known != members_.end()) {
     known->second.set(value);
   } else {
-    Control::Set(member, value);
+    Surface::Set(member, value);
   }
 }
 
@@ -162,6 +167,25 @@ void Form::DispatchKey(KeyEvent& key, int character) {
   } else if (character >= keys::kSpace && focused != nullptr &&
              (key.Shift & (keys::kCtrl | keys::kAlt)) == 0) {
     focused->HandleChar(character);
+  } else if (key.KeyCode == keys::kF1 && key.Shift == 0) {
+    gRuntime->ShowHelp(*this, HelpContext);
+  }
+}
+
+void Form::UserPaste(const std::string& text) {
+  Control* const focused = active_ != nullptr && active_->IsReachable() ? active_ : nullptr;
+  TextBox* const box = focused != nullptr ? focused->TypedBox() : nullptr;
+  if (box != nullptr && box->MultiLine) {
+    box->UserPaste(text);
+    return;
+  }
+  const FormPtr alive = Self();
+  for (std::size_t at = 0; at < text.size() && StillAlive() && gRuntime->ActiveForm() == alive;) {
+    const std::size_t bytes = text::CharBytes(text, at);
+    const int character = text::CodePoint(text.substr(at, bytes));
+    if (character < keys::kSpace) return;
+    UserKey(CodeOfCharacter(character), 0, character);
+    at += bytes;
   }
 }
 

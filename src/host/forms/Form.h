@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/controls/Control.h"
+#include "host/controls/Surface.h"
 #include "host/data/CNameValues.h"
 
 namespace quillon {
@@ -24,7 +24,7 @@ enum class UnloadMode { CloseBox = 0, Code = 1 };
 
 /// A screen or a dialog. The object exists before it is loaded; unloading does not destroy it, its members
 /// stay readable until the last holder lets go. Late callers reach public members and methods by name.
-class Form : public Control, public std::enable_shared_from_this<Form> {
+class Form : public Surface, public std::enable_shared_from_this<Form> {
  public:
   /// Whose form it is: the runtime's list of a module's forms holds only its own.
   enum class Origin { Module, Desk };
@@ -36,6 +36,9 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
   Origin FormOrigin() const { return origin_; }
 
   TextProperty Caption{*this, "Caption"};
+
+  /// What F1 tells of the form where it does not answer the key itself; 0 is its keys.
+  Property<int> HelpContext{*this, "HelpContextID"};
 
   /// The form or host window that opened this one, or nothing. Cleared at Unload.
   FormPtr CallingForm;
@@ -59,7 +62,7 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
   const std::vector<Control*>& Controls() const { return controls_; }
 
   /// Public members first, then controls (as objects), then the form's own properties. Touching a control
-  /// loads.
+  /// loads. "Lbl(2)" names a control of an array.
   Variant Get(const std::string& member) override;
   void Set(const std::string& member, const Variant& value) override;
   Variant Call(const std::string& method, const Array& arguments) override;
@@ -80,6 +83,9 @@ class Form : public Control, public std::enable_shared_from_this<Form> {
 
   /// A key as a person presses it; `character` is its Unicode value, 0 when it makes none.
   void UserKey(int keyCode, int shift, int character);
+
+  /// A person pastes a text: whole into a box of several lines, elsewhere its first line as if typed.
+  void UserPaste(const std::string& text);
 
   /// Shows the menu and runs the chosen item's Click.
   void PopupMenu(Menu& menu, long left, long top);

@@ -24,6 +24,7 @@ struct MessageRequest {
   std::vector<std::string> Buttons;
   std::string Title;
   int Default = 1;
+  std::string Details{};  ///< what only an expert reads; shown when it is asked for
 };
 
 struct InputRequest {
@@ -54,10 +55,6 @@ struct PartiesRequest {
   std::string OrderBy;
   std::string JoinCnd;
 };
-
-/// Shapes of the mouse pointer that the forms use.
-inline constexpr int kPointerDefault = 0;
-inline constexpr int kPointerBusy = 11;
 
 /// Watches the events of the runtime, one inside the other where a modal form is up.
 class IEventWatch {
@@ -180,6 +177,9 @@ class Runtime {
   virtual bool AskPick(const CPickList& list, std::size_t& item) = 0;
   virtual bool AskParties(PartiesRequest& request) = 0;
   virtual bool AskPrint(PrintSetup& setup) = 0;
+
+  /// Tells the keys of a form, or what stands under another context than 0.
+  virtual void ShowHelp(Form& /*form*/, int /*context*/) {}
 
   /// The item taken, counted from 0; below 0 when the menu was left.
   virtual int AskPopup(Form& form, Menu& menu, long left, long top) = 0;

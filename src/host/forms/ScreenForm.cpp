@@ -146,9 +146,7 @@ void ScreenForm::OnKeyDown(KeyEvent& key) {
   if (key.Shift != 0 || key.KeyCode < spec_.firstKey || key.KeyCode > spec_.lastKey) return;
   const int index = key.KeyCode - spec_.firstKey;
   key.KeyCode = 0;
-  if (index < BtnBar1.Count() && BtnBar1.IsReachable() && BtnBar1.Buttons(index).Visible()) {
-    BtnBar1.Buttons(index).Click();
-  }
+  BtnBar1.PressByKey(index);
 }
 
 }  // namespace quillon

@@ -22,6 +22,17 @@ bool Names(const Control& label, const Control& named) {
   return onLine && gap >= 0 && gap <= kNear;
 }
 
+Qt::CursorShape ShapeOf(int pointer) {
+  switch (pointer) {
+    case kPointerHand:
+      return Qt::PointingHandCursor;
+    case kPointerBusy:
+      return Qt::WaitCursor;
+    default:
+      return Qt::ArrowCursor;
+  }
+}
+
 }  // namespace
 
 Adapter::Adapter(Control& model, QWidget* widget) : QObject(widget), model_(model), widget_(widget) {
@@ -62,6 +73,11 @@ void Adapter::Dress() {
   Color();
   widget_->setToolTip(QString::fromStdString(model_.ToolTipText()));
   widget_->setAccessibleName(QString::fromStdString(SpokenName()));
+  if (model_.MousePointer == kPointerDefault) {
+    widget_->unsetCursor();
+  } else {
+    widget_->setCursor(ShapeOf(model_.MousePointer));
+  }
   widget_->setVisible(model_.Visible.Own());
 }
 
@@ -98,7 +114,8 @@ bool Adapter::eventFilter(QObject* watched, QEvent* event) {
       if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) return true;
       down_ = true;
       Pressed(true);
-      if (event->type() == QEvent::MouseButtonDblClick) DoubleClicked();
+      // The release that follows a double click is no click of its own, and may go to another window.
+      if (event->type() == QEvent::MouseButtonDblClick && DoubleClicked()) down_ = false;
       return true;
     }
     case QEvent::MouseButtonRelease: {

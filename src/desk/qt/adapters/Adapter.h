@@ -55,7 +55,9 @@ class Adapter : public QObject, public IControlListener {
   void TakeClicks();
   virtual void Pressed(bool /*down*/) {}
   virtual void Clicked();
-  virtual void DoubleClicked() {}
+
+  /// True when the second click is a double click and nothing more.
+  virtual bool DoubleClicked() { return false; }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

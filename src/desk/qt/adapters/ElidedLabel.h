@@ -4,7 +4,7 @@
 
 namespace quillon {
 
-/// A label whose line, when it is too long for the place, ends in dots instead of in half a letter.
+/// A label whose lines, where they are too long for the place, end in dots instead of in half a letter.
 class ElidedLabel : public QLabel {
  public:
   explicit ElidedLabel(QWidget* parent);

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "desk/qt/adapters/GridAccessible.h"
+#include "desk/qt/adapters/LinePainter.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
 #include "host/controls/CGridPlus.h"
@@ -189,14 +190,9 @@ void GridWidget::EachCol(QPainter& painter, const QRect& band, const DrawCell& d
 
 bool GridWidget::DrawLines(QPainter& painter, const QRect& cell, const QString& text, int alignment) const {
   const bool lines = model_.WordWrap || text.contains(QLatin1Char('\n'));
-  if (!lines || cell.height() < 2 * QFontMetrics(painter.font()).lineSpacing()) return false;
-  const auto across = static_cast<int>(AlignmentOf(alignment) & Qt::AlignHorizontal_Mask);
-  const int wraps = model_.WordWrap ? static_cast<int>(Qt::TextWordWrap) : 0;
-  painter.save();
-  painter.setClipRect(cell, Qt::IntersectClip);
-  painter.drawText(cell.adjusted(0, kLineTop, 0, 0), across | Qt::AlignTop | wraps,
-                   QString(text).remove(QLatin1Char('\r')));
-  painter.restore();
+  if (!lines || cell.height() < 2 * LinePainter::LineHeight(painter.font())) return false;
+  LinePainter::Draw(painter, cell.adjusted(0, kLineTop, 0, -1),
+                    AlignmentOf(alignment) & Qt::AlignHorizontal_Mask, text, model_.WordWrap);
   return true;
 }
 

@@ -27,7 +27,7 @@ Qt::Alignment AlignmentOf(int alignment) {
 
 LabelAdapter::LabelAdapter(Label& model, QWidget* parent)
     : Adapter(model, new ElidedLabel(parent)), label_(model) {
-  if (label_.Click || label_.DblClick) TakeClicks();
+  TakeClicks();
 }
 
 void LabelAdapter::Dress() {
@@ -45,17 +45,26 @@ void LabelAdapter::Dress() {
 
 void LabelAdapter::Draw() {
   auto& shown = static_cast<QLabel&>(Widget());
-  shown.setText(QString::fromStdString(label_.Caption));
+  const QString caption = QString::fromStdString(label_.Caption).remove(QLatin1Char('\r'));
+  const bool fromTop = label_.WordWrap || caption.contains(QLatin1Char('\n'));
+  shown.setText(caption);
   shown.setWordWrap(label_.WordWrap);
-  shown.setAlignment(AlignmentOf(label_.Alignment) | (label_.WordWrap ? Qt::AlignTop : Qt::AlignVCenter));
+  shown.setAlignment(AlignmentOf(label_.Alignment) | (fromTop ? Qt::AlignTop : Qt::AlignVCenter));
 }
 
 void LabelAdapter::Clicked() {
   if (label_.Click) Adapter::Clicked();
 }
 
-void LabelAdapter::DoubleClicked() {
-  if (label_.DblClick) Acts::Run([this] { label_.UserDoubleClick(); });
+bool LabelAdapter::DoubleClicked() {
+  if (!label_.DblClick) return false;
+  Acts::Run([this] { label_.UserDoubleClick(); });
+  return true;
+}
+
+bool LabelAdapter::eventFilter(QObject* watched, QEvent* event) {
+  // What lies behind a label that nobody clicks gets its clicks.
+  return (label_.Click || label_.DblClick) && Adapter::eventFilter(watched, event);
 }
 
 }  // namespace quillon

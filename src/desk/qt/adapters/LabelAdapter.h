@@ -5,7 +5,7 @@
 
 namespace quillon {
 
-/// Shows a Label; a text that is too long ends in dots.
+/// Shows a Label; a line that is too long ends in dots, several lines stand from the top.
 class LabelAdapter : public Adapter {
  public:
   LabelAdapter(Label& model, QWidget* parent);
@@ -15,7 +15,8 @@ class LabelAdapter : public Adapter {
   void Dress() override;
   std::string SpokenName() const override { return label_.Caption; }
   void Clicked() override;
-  void DoubleClicked() override;
+  bool DoubleClicked() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   Label& label_;

@@ -10,7 +10,6 @@ namespace quillon {
 
 namespace {
 
-constexpr long kTitleHeight = 330;
 constexpr int kIndent = 6;
 
 }  // namespace
@@ -39,11 +38,13 @@ SelectionGridAdapter::~SelectionGridAdapter() {
 
 void SelectionGridAdapter::Draw() {
   static_cast<QLabel*>(title_)->setText(QString::fromStdString(list_.Title.Caption));
-  const int title = list_.Title.Caption().empty() ? 0 : Scale::Px(kTitleHeight);
+  const int title = list_.Title.Caption().empty() ? 0 : Scale::Px(GridModel::kTitleLine);
   title_->setGeometry(0, 0, Widget().width(), title);
   grid_->setGeometry(0, title, Widget().width(), Widget().height() - title);
   grid_->setFont(Scale::FontOf(list_.Grid.Font));
   grid_->Touch();
+  // A list that opens on a field stands before what was made after it.
+  Widget().raise();
 }
 
 void SelectionGridAdapter::Settle() { grid_->Settle(); }

@@ -3,6 +3,8 @@
 #include "desk/qt/adapters/Adapter.h"
 #include "host/controls/PictureBox.h"
 
+class QPainter;
+
 namespace quillon {
 
 /// Shows a PictureBox: a surface that holds other controls and may be clicked.
@@ -11,6 +13,9 @@ class SurfaceAdapter : public Adapter {
   SurfaceAdapter(PictureBox& model, QWidget* parent);
 
   QWidget* Container() override { return &Widget(); }
+
+  /// The lines that are drawn on a surface, a form too.
+  static void DrawLines(QPainter& painter, const Surface& surface);
 
  protected:
   void Draw() override;

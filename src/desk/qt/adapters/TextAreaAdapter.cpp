@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <algorithm>
 
 #include "desk/qt/adapters/Acts.h"
 #include "host/forms/Form.h"
@@ -10,23 +11,26 @@ namespace quillon {
 
 namespace {
 
-/// The widget has one character where the text has CR and LF.
-QString Shown(const std::string& text) {
-  return QString::fromStdString(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+QString Shown(const TextLines& lines) {
+  QStringList shown;
+  for (const TextLines::Line& line : lines.All()) shown << QString::fromStdString(line.text);
+  return shown.join(QLatin1Char('\n'));
 }
 
-int ToShown(const std::string& text, int position) {
-  const QString head = QString::fromStdString(text).left(position);
-  return position - static_cast<int>(head.count(QLatin1String("\r\n")));
+int ToShown(const TextLines& lines, int place) {
+  const auto line = static_cast<std::size_t>(lines.LineAt(place));
+  int before = 0;
+  for (std::size_t i = 0; i < line; ++i) before += lines.All()[i].stop - lines.All()[i].start + 1;
+  return before + std::min(place, lines.All()[line].stop) - lines.All()[line].start;
 }
 
-int ToModel(const std::string& text, int position) {
-  const QString whole = QString::fromStdString(text);
-  int at = 0;
-  for (int shown = 0; shown < position && at < whole.size(); ++shown) {
-    at += whole.mid(at, 2) == QLatin1String("\r\n") ? 2 : 1;
+int ToModel(const TextLines& lines, int shown) {
+  for (const TextLines::Line& line : lines.All()) {
+    const int length = line.stop - line.start;
+    if (shown <= length) return line.start + shown;
+    shown -= length + 1;
   }
-  return at;
+  return lines.All().back().stop;
 }
 
 }  // namespace
@@ -34,6 +38,9 @@ int ToModel(const std::string& text, int position) {
 TextAreaAdapter::TextAreaAdapter(TextBox& model, QWidget* parent)
     : Adapter(model, new QPlainTextEdit(parent)), box_(model) {
   auto& area = static_cast<QPlainTextEdit&>(Widget());
+  // The model has broken the lines already.
+  area.setLineWrapMode(QPlainTextEdit::NoWrap);
+  area.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   area.setContextMenuPolicy(Qt::NoContextMenu);
   area.setAcceptDrops(false);
   area.viewport()->installEventFilter(this);
@@ -41,20 +48,21 @@ TextAreaAdapter::TextAreaAdapter(TextBox& model, QWidget* parent)
 
 void TextAreaAdapter::Draw() {
   auto& area = static_cast<QPlainTextEdit&>(Widget());
-  const QString text = Shown(box_.Text);
+  const TextLines& lines = box_.Lines();
+  const QString text = Shown(lines);
   if (area.toPlainText() != text) area.setPlainText(text);
   const int end = static_cast<int>(text.size());
   QTextCursor caret = area.textCursor();
   const int moved = box_.Caret();
   const int fixed = moved == box_.SelStart ? box_.SelStart + box_.SelLength : box_.SelStart;
-  caret.setPosition(std::clamp(ToShown(box_.Text, fixed), 0, end));
-  caret.setPosition(std::clamp(ToShown(box_.Text, moved), 0, end), QTextCursor::KeepAnchor);
+  caret.setPosition(std::clamp(ToShown(lines, fixed), 0, end));
+  caret.setPosition(std::clamp(ToShown(lines, moved), 0, end), QTextCursor::KeepAnchor);
   area.setTextCursor(caret);
 }
 
 void TextAreaAdapter::TellCaret() {
   const QTextCursor caret = static_cast<QPlainTextEdit&>(Widget()).textCursor();
-  box_.Select(ToModel(box_.Text, caret.anchor()), ToModel(box_.Text, caret.position()));
+  box_.Select(ToModel(box_.Lines(), caret.anchor()), ToModel(box_.Lines(), caret.position()));
 }
 
 bool TextAreaAdapter::eventFilter(QObject* /*watched*/, QEvent* event) {

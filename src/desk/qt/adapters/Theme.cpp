@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <cstdint>
 
 #include "desk/qt/adapters/DeskStyle.h"
 #include "desk/qt/adapters/Scale.h"
+#include "host/controls/Colors.h"
 
 namespace quillon {
 
@@ -12,6 +14,23 @@ namespace {
 
 constexpr double kFontSize = 9.75;
 constexpr double kCorner = 3;
+constexpr std::uint32_t kOfTheLook = 0x80000000;
+
+QColor OfTheLook(long color) {
+  switch (color) {
+    case colors::kHighlight:
+      return Theme::Accent();
+    case colors::kHighlightText:
+    case colors::kWindowBackground:
+      return Theme::Surface();
+    case colors::kButtonFace:
+      return Theme::Window();
+    case colors::kGrayText:
+      return Theme::Off();
+    default:
+      return Theme::Text();
+  }
+}
 
 }  // namespace
 
@@ -44,6 +63,8 @@ void Theme::ApplyFont(QApplication& application) {
 }
 
 QColor Theme::ColorOf(long color) {
+  const auto bits = static_cast<std::uint32_t>(color);  // late callers may give the same as a negative number
+  if ((bits & kOfTheLook) != 0) return OfTheLook(static_cast<long>(bits));
   return {static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
           static_cast<int>(color >> 16 & 0xFF)};
 }

@@ -29,7 +29,7 @@ class Theme {
   /// The program's font at the zoom of the desk.
   static void ApplyFont(QApplication& application);
 
-  /// A colour of a form, 0xBBGGRR.
+  /// A colour of a form: 0xBBGGRR, or one that stands for a part of the look.
   static QColor ColorOf(long color);
 
   /// The edge of a field or a button: strong when it has the focus.

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPlainTextEdit>
 
 #include "desk/qt/adapters/Icons.h"
 #include "desk/qt/adapters/PushButton.h"
@@ -15,6 +16,7 @@ namespace {
 constexpr long kIcon = 480;
 constexpr long kWidest = 7500;
 constexpr long kNarrowest = 3000;
+constexpr long kDetails = 1800;
 
 QString PictureOf(const std::string& icon) {
   if (icon == "Q") return QStringLiteral("question");
@@ -44,6 +46,7 @@ MessageDialog::MessageDialog(const MessageRequest& request, QWidget* parent)
   line->addWidget(text, 1, Qt::AlignVCenter);
   Content().addLayout(line);
   setAccessibleDescription(text->text());
+  if (!request.Details.empty()) AddDetails(QString::fromStdString(request.Details));
   for (std::size_t i = 0; i < request.Buttons.size(); ++i) {
     const int number = static_cast<int>(i) + 1;
     PushButton& button = AddButton(QString::fromStdString(request.Buttons[i]), [this, number] {
@@ -56,6 +59,20 @@ MessageDialog::MessageDialog(const MessageRequest& request, QWidget* parent)
       button.setFocus();
     }
   }
+}
+
+void MessageDialog::AddDetails(const QString& details) {
+  auto* const box = new QPlainTextEdit(details, this);
+  box->setReadOnly(true);
+  box->setAccessibleName(QStringLiteral("Details"));
+  box->setFixedHeight(Scale::Px(kDetails));
+  box->hide();
+  Content().addWidget(box);
+  PushButton& button = AddButton(QStringLiteral("Details"), [this, box] {
+    box->setVisible(!box->isVisible());
+    adjustSize();
+  });
+  button.setAutoDefault(false);
 }
 
 int MessageDialog::Ask() {

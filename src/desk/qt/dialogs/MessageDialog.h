@@ -5,7 +5,8 @@
 
 namespace quillon {
 
-/// A message box. Esc and the close box take the last button; a button's first letter presses it.
+/// A message box; what only an expert reads stands behind the button "Details". Esc and the close box take
+/// the last button; a button's first letter presses it.
 class MessageDialog : public DeskDialog {
  public:
   MessageDialog(const MessageRequest& request, QWidget* parent);
@@ -17,6 +18,8 @@ class MessageDialog : public DeskDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void AddDetails(const QString& details);
+
   QList<PushButton*> buttons_;
   int taken_;
 };

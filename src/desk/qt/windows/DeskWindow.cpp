@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
 #include <QStackedLayout>
@@ -259,6 +260,9 @@ void DeskWindow::ShowState() {
 }
 
 void DeskWindow::ShowPage() {
+  // A modal screen in the area is as near to the user as a modal window before it.
+  const FormPtr top = runtime_.ActiveForm();
+  menuBar()->setEnabled(!top || !top->IsModal());
   const bool screen = area_->Top() != nullptr;
   static_cast<QStackedLayout*>(centralWidget()->layout())
       ->setCurrentWidget(screen ? static_cast<QWidget*>(area_) : start_);

@@ -95,6 +95,14 @@ bool FormKeys::eventFilter(QObject* watched, QEvent* event) {
     if (view == nullptr || BelongsToField(*watched, key)) return false;
     return view->TakeKey(key);
   }
+  if (event->type() == QEvent::ShortcutOverride) {
+    // F1 is the menu's only where no form is; a form may answer it itself.
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    const bool forms =
+        key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier && ViewOf(watched) != nullptr;
+    if (forms) event->accept();
+    return forms;
+  }
   if (event->type() == QEvent::InputMethod) {
     FormView* const view = ViewOf(watched);
     if (view == nullptr || watched->property(ComboAdapter::kTypesItself).toBool()) return false;

@@ -9,9 +9,9 @@
 #include "desk/qt/adapters/Adapter.h"
 #include "desk/qt/adapters/AdapterFactory.h"
 #include "desk/qt/adapters/Scale.h"
+#include "desk/qt/adapters/SurfaceAdapter.h"
 #include "desk/qt/adapters/Theme.h"
 #include "desk/qt/windows/FormKeys.h"
-#include "host/controls/CTextPlus.h"
 #include "host/controls/EditableGrid.h"
 #include "host/forms/Runtime.h"
 #include "host/values/Text.h"
@@ -21,12 +21,7 @@ namespace quillon {
 namespace {
 
 /// The text box that a control is typed into, or nothing.
-TextBox* BoxOf(Control* control) {
-  if (auto* field = dynamic_cast<CTextPlus*>(control)) return &field->TextBox;
-  auto* grid = dynamic_cast<EditableGrid*>(control);
-  if (grid != nullptr) return grid->EditMode() ? &grid->EditBox : nullptr;
-  return dynamic_cast<TextBox*>(control);
-}
+TextBox* BoxOf(Control* control) { return control != nullptr ? control->TypedBox() : nullptr; }
 
 }  // namespace
 
@@ -99,7 +94,10 @@ void FormView::Settle() {
   update();
 }
 
-void FormView::ControlChanged(Control& /*control*/, const PropertyBase* /*property*/) { Dress(); }
+void FormView::ControlChanged(Control& /*control*/, const PropertyBase* property) {
+  if (property != nullptr) Dress();
+  update();
+}
 
 bool FormView::TakeKey(const QKeyEvent& key) {
   if (key.matches(QKeySequence::Copy)) {
@@ -115,7 +113,8 @@ bool FormView::TakeKey(const QKeyEvent& key) {
     return true;
   }
   if (key.matches(QKeySequence::Paste)) {
-    TypeText(QString::fromStdString(gRuntime->ClipboardText()));
+    const FormPtr form = form_;
+    Acts::Run([&] { form->UserPaste(gRuntime->ClipboardText()); });
     return true;
   }
   const FormKey pressed = FormKeys::Of(key);
@@ -128,7 +127,7 @@ bool FormView::TakeKey(const QKeyEvent& key) {
 void FormView::TypeText(const QString& text) {
   const FormPtr form = form_;
   for (const char32_t character : text.toUcs4()) {
-    if (character < U' ' || gRuntime->ActiveForm() != form) break;  // of several lines the first is taken
+    if (character < U' ' || gRuntime->ActiveForm() != form) break;
     const int code = static_cast<int>(character);
     Acts::Run([&] { form->UserKey(CodeOfCharacter(code), 0, code); });
   }
@@ -176,8 +175,9 @@ bool FormView::event(QEvent* event) {
 
 void FormView::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
-  if (!isWindow()) return;
   QPainter painter(this);
+  SurfaceAdapter::DrawLines(painter, *form_);
+  if (!isWindow()) return;
   painter.setPen(Theme::Border());
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

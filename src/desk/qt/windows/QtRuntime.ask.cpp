@@ -6,6 +6,7 @@
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/dialogs/DateDialog.h"
 #include "desk/qt/dialogs/InputDialog.h"
+#include "desk/qt/dialogs/KeysDialog.h"
 #include "desk/qt/dialogs/MessageDialog.h"
 #include "desk/qt/dialogs/PartyDialog.h"
 #include "desk/qt/dialogs/PickDialog.h"
@@ -102,6 +103,11 @@ bool QtRuntime::AskPrint(PrintSetup& setup) {
   if (dialog.exec() != QDialog::Accepted) return false;
   dialog.TakeInto(setup);
   return true;
+}
+
+void QtRuntime::ShowHelp(Form& form, int /*context*/) {
+  const PointerRest rest(*this);
+  KeysDialog(&form, TopWindow()).exec();
 }
 
 int QtRuntime::AskPopup(Form& form, Menu& menu, long left, long top) {

@@ -18,16 +18,13 @@
 
 namespace quillon {
 
-namespace {
-
-/// What fills the main window's area, rather than standing before it.
-bool IsScreen(const Form& form) {
-  if (form.IsModal()) return false;
+/// What fills the main window's area, rather than standing before it. A modal window keeps the area from the
+/// user, so what it opens is a window too.
+bool QtRuntime::IsScreen(const Form& form) const {
+  if (area_ == nullptr || (form.IsModal() && QApplication::activeModalWidget() != nullptr)) return false;
   if (dynamic_cast<const ScreenForm*>(&form) != nullptr) return true;
   return gSession != nullptr && form.Width >= gSession->FormWidth() && form.Height >= gSession->FormHeight();
 }
-
-}  // namespace
 
 QtRuntime::QtRuntime(std::string outputFolder) : printer_(std::move(outputFolder), this) {
   Acts::SetAfterwards([this] { Settle(); });
@@ -101,7 +98,12 @@ std::vector<std::string> QtRuntime::Printers() const { return Spooler::Printers(
 
 void QtRuntime::ShowView(Form& form) {
   FormView*& view = views_[&form];
-  const bool screen = area_ && IsScreen(form);
+  const bool screen = IsScreen(form);
+  if (view != nullptr && view->isWindow() == screen) {
+    HideView(form);
+    view->deleteLater();
+    view = nullptr;
+  }
   if (view == nullptr) {
     const Qt::WindowFlags window =
         Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;

@@ -16,8 +16,8 @@ namespace quillon {
 class DeskArea;
 class FormView;
 
-/// The runtime with windows: full screens lie in the desk's area, other forms are windows of their own, and
-/// the questions are dialogs.
+/// The runtime with windows: full screens lie in the desk's area, modal ones too; other forms are windows of
+/// their own, and the questions are dialogs.
 class QtRuntime : public Runtime, private PrintObserver {
  public:
   /// Print jobs leave their PDF in the folder.
@@ -67,6 +67,7 @@ class QtRuntime : public Runtime, private PrintObserver {
   bool AskPick(const CPickList& list, std::size_t& item) override;
   bool AskParties(PartiesRequest& request) override;
   bool AskPrint(PrintSetup& setup) override;
+  void ShowHelp(Form& form, int context) override;
   int AskPopup(Form& form, Menu& menu, long left, long top) override;
   void TellError(const std::string& routine, Form* form, const std::string& text) override;
 
@@ -94,6 +95,7 @@ class QtRuntime : public Runtime, private PrintObserver {
 
   void OnText(int, double, double, const std::string&, const Font&) override {}
   void OnPrinted(const std::string& file, int pages, int paper, int orientation) override;
+  bool IsScreen(const Form& form) const;
   void ShowView(Form& form);
   void HideView(Form& form);
   void Settle();
