@@ -20,7 +20,7 @@ from pathlib import Path
 DRIVE, SAMPLE = sys.argv[1:3]
 HERE = Path(__file__).resolve().parent
 COMMANDS = set(
-    "firm form menu set get call show close forms key focus type click dblclick bar choose check row cell range "
+    "firm form menu set get call show close forms key focus type paste click dblclick bar choose check row cell range "
     "gridrow scroll pickbutton picked popup answer state tree query execute setting picture trace".split()
 )
 
@@ -148,6 +148,9 @@ class Driver(unittest.TestCase):
     def test_refusals(self):
         lines, _ = self.run_script("refusals.jsonl", 1)
         self.assertEqual(lines[-1], {"left_over": [{"to": "input", "text": "Nigdi Branch"}]})
+
+    def test_fields_and_what_stands_inside_them(self):
+        self.run_script("fields.jsonl", 1)
 
     def test_modal_forms_answer_from_the_inside(self):
         _, answers = self.run_script("modal.jsonl", 0)
