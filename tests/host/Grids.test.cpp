@@ -1,3 +1,7 @@
+#include <fstream>
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {
@@ -54,6 +58,28 @@ TEST_F(Grids, BeyondTheLimitsAreRefusedAndStayAsTheyWere) {
   EXPECT_EQ(Grid().TextMatrix(40, 2), "c");
   EXPECT_THROW(Grid().RowSel = 41, SubscriptError);
   EXPECT_EQ(Grid().RowSel(), Grid().Row());
+}
+
+TEST_F(Grids, RefuseWhenMemoryEnds) {
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "the sanitizer ends the program where memory ends";
+#else
+  // In a process of its own, which may have 50 MB more than it has.
+  const auto ask = [&] {
+    std::size_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    const rlim_t most = pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)) + 50'000'000;
+    const rlimit limit{most, most};
+    setrlimit(RLIMIT_AS, &limit);
+    try {
+      Grid().Rows = GridModel::kMostRows;
+    } catch (const HostError&) {
+      _exit(Grid().Rows() == 40 ? 0 : 1);
+    }
+    _exit(2);
+  };
+  EXPECT_EXIT(ask(), testing::ExitedWithCode(0), "");
+#endif
 }
 
 TEST_F(Grids, MembersRefuseTextsOfAnotherKind) {

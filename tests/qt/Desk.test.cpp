@@ -52,15 +52,27 @@ class frmPicker : public ScreenForm {
                                     .iconKey = "List"};
 };
 
+/// A window that is not modal.
+class frmNote : public Form {
+ public:
+  frmNote() : Form("frmNote"), txtNote(*this, "txtNote") { Height = 1500; }
+
+  TextBox txtNote;
+};
+
 TEST_F(DeskTest, AModalScreenLiesInTheAreaAndKeepsTheMenusAway) {
   OpenStatement();
   const auto picker = std::make_shared<frmPicker>();
+  const auto note = std::make_shared<frmNote>();
+  runtime_.Show(note);
   int helps = 0;
   Soon([&] {
     FormView* const view = runtime_.ViewOf(*picker);
     EXPECT_FALSE(view->isWindow());
     EXPECT_TRUE(view->isVisible());
     EXPECT_FALSE(window_.menuBar()->isEnabled());
+    QTest::keyClick(runtime_.ViewOf(*note)->focusWidget(), Qt::Key_A);
+    EXPECT_EQ(note->txtNote.Text(), "") << "the windows beside it wait";
     Soon([&] {
       if (QWidget* help = QApplication::activeModalWidget()) {
         ++helps;
@@ -80,6 +92,9 @@ TEST_F(DeskTest, AModalScreenLiesInTheAreaAndKeepsTheMenusAway) {
   Acts::Run([&] { gRuntime->Show(picker, true); });
   EXPECT_FALSE(picker->IsLoaded());
   EXPECT_TRUE(window_.menuBar()->isEnabled());
+  QTest::keyClick(runtime_.ViewOf(*note)->focusWidget(), Qt::Key_A);
+  EXPECT_EQ(note->txtNote.Text(), "a");
+  runtime_.Unload(*note);
   EXPECT_EQ(Top().Name(), "frmAccount");
   EXPECT_TRUE(runtime_.TopView()->isVisible());
 }

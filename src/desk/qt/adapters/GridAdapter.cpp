@@ -70,7 +70,9 @@ void GridAdapter::PlaceEditor() {
     editor_->setAlignment(grid_.ColAlignment(editable_->EditCol()) == kAlignRight ? Qt::AlignRight
                                                                                   : Qt::AlignLeft);
     editor_->setGeometry(cell);
-    editor_->setAccessibleName(QString::fromStdString(grid_.TextMatrix(0, editable_->EditCol())));
+    const bool titled = grid_.FixedRows > 0;
+    editor_->setAccessibleName(titled ? QString::fromStdString(grid_.TextMatrix(0, editable_->EditCol()))
+                                      : QString());
     editor_->ShowBox();
   }
   editor_->setVisible(inSight);

@@ -100,6 +100,8 @@ void FormView::ControlChanged(Control& /*control*/, const PropertyBase* property
 }
 
 bool FormView::TakeKey(const QKeyEvent& key) {
+  // A modal screen in the area keeps its keys from the other windows too.
+  if (gRuntime->IsCovered(*form_)) return true;
   if (key.matches(QKeySequence::Copy)) {
     CopySelection();
     return true;
