@@ -207,7 +207,7 @@ class frmBar : public ScreenForm {
  public:
   frmBar() : ScreenForm(kSpec, Origin::Module) {}
 
-  std::vector<int> Pressed;
+  std::vector<std::string> PressedKeys;
   bool AnswersHelp = false;
 
  protected:
@@ -217,7 +217,7 @@ class frmBar : public ScreenForm {
     BtnBar1.DisableButtons({2});
   }
   void LoadScreen() override { HelpContext = 12; }
-  void ButtonPressed(int index) override { Pressed.push_back(index); }
+  void Pressed(const std::string& key) override { PressedKeys.push_back(key); }
   void OnKeyDown(KeyEvent& key) override {
     if (AnswersHelp && key.KeyCode == keys::kF1) {
       gStd->ShowHelp(7);
@@ -241,7 +241,7 @@ TEST_F(Fields, AFunctionKeyNeverPressesAButtonThatAPersonCannotPress) {
   const auto screen = std::make_shared<frmBar>();
   Do([&] { gRuntime->Show(screen); });
   for (const int key : {keys::kF2, keys::kF3, keys::kF4}) Key(*screen, key);
-  EXPECT_EQ(screen->Pressed, std::vector<int>{0});
+  EXPECT_EQ(screen->PressedKeys, std::vector<std::string>{"One"});
   Refuses([&] { screen->BtnBar1.UserPress("Two"); }, "BtnBar1 button Two is hidden");
   Refuses([&] { screen->BtnBar1.UserPress("Three"); }, "BtnBar1 button Three is disabled");
 }

@@ -43,8 +43,8 @@ std::size_t TextLines::Fitting(const std::string& text) const {
 void TextLines::Wrap(const std::string& text, int start) {
   std::string rest = text;
   for (;;) {
-    const bool whole = width_ <= 0 || gRuntime == nullptr || gRuntime->TextWidth(font_, rest) <= width_;
-    const std::size_t bytes = whole ? rest.size() : Fitting(rest);
+    const bool wraps = width_ > 0 && gRuntime != nullptr && !rest.empty();
+    const std::size_t bytes = wraps ? Fitting(rest) : rest.size();
     Line line;
     line.text = rest.substr(0, bytes);
     line.start = start;

@@ -51,6 +51,10 @@ void TextAreaAdapter::Draw() {
   const TextLines& lines = box_.Lines();
   const QString text = Shown(lines);
   if (area.toPlainText() != text) area.setPlainText(text);
+  // By itself the area shows a bar that it does not need until it has been on the screen.
+  const int height = area.blockCount() * area.fontMetrics().lineSpacing() + 2 * area.frameWidth() +
+                     static_cast<int>(2 * area.document()->documentMargin());
+  area.setVerticalScrollBarPolicy(height > area.height() ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
   const int end = static_cast<int>(text.size());
   QTextCursor caret = area.textCursor();
   const int moved = box_.Caret();
