@@ -276,42 +276,6 @@ TEST_F(AdaptersTest, AScreenReaderHearsWhatTheControlsAre) {
   EXPECT_EQ(heard(*buttons[0])->text(QAccessible::Name), "F2: One");
 }
 
-TEST_F(AdaptersTest, AChartDrawsItsFiguresInTheColoursOfTheSeries) {
-  MSChart& chart = form_->Chart;
-  constexpr QRgb kBlue = 0xFF0000FF;
-  constexpr QRgb kGreen = 0xFF00FF00;
-  chart.SetSize(2, 2);
-  chart.SetSeriesColor(1, 0xFF0000);
-  chart.SetSeriesColor(2, 0x00FF00);
-  const auto dots = [&](QRgb color) {
-    const QImage picture = WidgetOf<QWidget>(chart).grab().toImage().convertToFormat(QImage::Format_ARGB32);
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == color ? 1 : 0;
-    }
-    return count;
-  };
-  EXPECT_EQ(dots(kBlue), 0) << "figures of 0 have no bars";
-  for (const int row : {1, 2}) {
-    chart.SetData(row, 1, 30);
-    chart.SetData(row, 2, 10);
-  }
-  EXPECT_NEAR(static_cast<double>(dots(kBlue)) / dots(kGreen), 3, 0.3) << "a bar is as high as its figure";
-  const int plain = dots(kGreen);
-  chart.ShowLegend = true;
-  chart.SetColumnLabel(2, "Receipts");
-  EXPECT_NE(dots(kGreen), plain) << "the legend shows the colour too";
-  chart.ShowLegend = false;
-  chart.ChartType = MSChart::k2dPie;
-  EXPECT_GT(dots(kBlue), dots(kGreen));
-  for (const int type : {MSChart::k2dLine, MSChart::k3dLine, MSChart::k3dBar}) {
-    chart.ChartType = type;
-    EXPECT_GT(dots(kBlue), 0) << type;
-  }
-  chart.DeleteRows();
-  EXPECT_EQ(dots(kBlue), 0);
-}
-
 TEST_F(AdaptersTest, FiftyThousandHiddenRowsArePassedOver) {
   constexpr int kRows = 100001;
   form_->Grid.Rows = kRows;

@@ -1,85 +1,29 @@
 #include "host/controls/MSChart.h"
 
-#include <array>
-
 namespace quillon {
 
-namespace {
-
-constexpr std::array<long, 6> kSeriesColors = {0xB5742E, 0x3C8CE6, 0x4E9A06, 0x3434C4, 0x8C5C8C, 0x808080};
-
-}  // namespace
-
-void MSChart::SetSize(int rows, int columns) {
-  if (rows < 0 || columns < 0) throw SubscriptError(Name());
-  rows_.assign(static_cast<std::size_t>(rows), {"", std::vector<double>(static_cast<std::size_t>(columns))});
-  series_.assign(static_cast<std::size_t>(columns), {});
-  ContentChanged();
+int MSChart::SeriesCount() const {
+  return Plot.DataSeriesInRow ? DataGrid.RowCount() : DataGrid.ColumnCount();
 }
 
-void MSChart::DeleteRows() {
-  rows_.clear();
-  ContentChanged();
+int MSChart::PeriodCount() const {
+  return Plot.DataSeriesInRow ? DataGrid.ColumnCount() : DataGrid.RowCount();
 }
 
-const MSChart::RowData& MSChart::RowAt(int row) const {
-  if (row < 1 || row > RowCount()) throw SubscriptError(Name() + " row " + std::to_string(row));
-  return rows_[static_cast<std::size_t>(row - 1)];
+double MSChart::Figure(int series, int period) const {
+  return Plot.DataSeriesInRow ? DataGrid.GetData(series, period) : DataGrid.GetData(period, series);
 }
 
-const MSChart::Series& MSChart::SeriesAt(int column) const {
-  if (column < 1 || column > ColumnCount())
-    throw SubscriptError(Name() + " series " + std::to_string(column));
-  return series_[static_cast<std::size_t>(column - 1)];
+bool MSChart::IsMissing(int series, int period) const {
+  return Plot.DataSeriesInRow ? DataGrid.IsMissing(series, period) : DataGrid.IsMissing(period, series);
 }
 
-double MSChart::GetData(int row, int column) const {
-  SeriesAt(column);
-  return RowAt(row).values[static_cast<std::size_t>(column - 1)];
+std::string MSChart::SeriesLabel(int series) const {
+  return Plot.DataSeriesInRow ? DataGrid.CompositeRowLabel(series) : DataGrid.CompositeColumnLabel(series);
 }
 
-void MSChart::SetData(int row, int column, double value) {
-  GetData(row, column);
-  rows_[static_cast<std::size_t>(row - 1)].values[static_cast<std::size_t>(column - 1)] = value;
-  ContentChanged();
-}
-
-std::string MSChart::RowLabel(int row) const { return RowAt(row).label; }
-
-void MSChart::SetRowLabel(int row, const std::string& label) {
-  RowAt(row);
-  rows_[static_cast<std::size_t>(row - 1)].label = label;
-  ContentChanged();
-}
-
-std::string MSChart::ColumnLabel(int column) const { return SeriesAt(column).label; }
-
-void MSChart::SetColumnLabel(int column, const std::string& label) {
-  SeriesAt(column);
-  series_[static_cast<std::size_t>(column - 1)].label = label;
-  ContentChanged();
-}
-
-long MSChart::SeriesColor(int column) const {
-  const auto own = colors_.find(column);
-  return own != colors_.end() ? own->second
-                              : kSeriesColors.at(static_cast<std::size_t>(column - 1) % kSeriesColors.size());
-}
-
-void MSChart::SetSeriesColor(int column, long color) {
-  colors_[column] = color;
-  ContentChanged();
-}
-
-void MSChart::SetAxisFont(int axis, const quillon::Font& font) {
-  axisFonts_.at(axis) = font;
-  ContentChanged();
-}
-
-void MSChart::SetMarker(int column, bool shown) {
-  SeriesAt(column);
-  series_[static_cast<std::size_t>(column - 1)].marker = shown;
-  ContentChanged();
+std::string MSChart::PeriodLabel(int period) const {
+  return Plot.DataSeriesInRow ? DataGrid.CompositeColumnLabel(period) : DataGrid.CompositeRowLabel(period);
 }
 
 Control::State MSChart::Describe() const {
@@ -88,20 +32,24 @@ Control::State MSChart::Describe() const {
   Array titles;
   Array data;
   Array colors;
-  for (const RowData& row : rows_) {
-    labels.emplace_back(row.label);
+  for (int row = 1; row <= DataGrid.RowCount(); ++row) {
+    labels.emplace_back(DataGrid.CompositeRowLabel(row));
     Array values;
-    for (const double value : row.values) values.emplace_back(value);
+    for (int column = 1; column <= DataGrid.ColumnCount(); ++column)
+      values.emplace_back(DataGrid.IsMissing(row, column) ? Variant::Null()
+                                                          : Variant(DataGrid.GetData(row, column)));
     data.emplace_back(std::move(values));
   }
-  for (int column = 1; column <= ColumnCount(); ++column) {
-    titles.emplace_back(ColumnLabel(column));
-    colors.emplace_back(SeriesColor(column));
-  }
+  for (int column = 1; column <= DataGrid.ColumnCount(); ++column)
+    titles.emplace_back(DataGrid.CompositeColumnLabel(column));
+  for (int series = 1; series <= SeriesCount(); ++series)
+    colors.emplace_back(Plot.SeriesCollection(series).DataPoints(-1).Brush.FillColor.Value());
   state.emplace_back("rowlabels", labels);
   state.emplace_back("columnlabels", titles);
   state.emplace_back("data", data);
   state.emplace_back("colors", colors);
+  state.emplace_back("seriesinrow", Plot.DataSeriesInRow());
+  state.emplace_back("axistitle", Plot.Axis(MSChartPlot::kAxisY).AxisTitle.Text());
   return state;
 }
 

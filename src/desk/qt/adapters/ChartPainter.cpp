@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desk/qt/adapters/ChartInk.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
 
@@ -12,158 +13,200 @@ namespace quillon {
 namespace {
 
 constexpr double kMargin = 12;
-constexpr double kDepth = 8;
-constexpr int kSteps = 5;
-constexpr int kWholeTurn = 360 * 16;
-
-QString Figure(double value) { return QString::number(value, 'f', 0); }
+constexpr double kDepth = 12;
+constexpr double kStepLines = 2.6;     // lines of text from one step of the axis to the next
+constexpr double kLegendShare = 0.34;  // of the width, at most
+constexpr double kLegendNameShare = 0.25;
+constexpr int kRounds[] = {1, 2, 5, 10, 15, 30, 50, 100};
 
 }  // namespace
 
-ChartPainter::ChartPainter(const MSChart& chart, QPainter& painter, const QRectF& place)
-    : chart_(chart),
-      painter_(painter),
-      place_(place.adjusted(kMargin, kMargin, -kMargin, -kMargin)),
-      deep_(chart.ChartType == MSChart::k3dBar || chart.ChartType == MSChart::k3dLine) {}
-
-void ChartPainter::TakeRange() {
-  for (int row = 1; row <= chart_.RowCount(); ++row) {
-    for (int series = 1; series <= chart_.ColumnCount(); ++series) {
-      least_ = std::min(least_, chart_.GetData(row, series));
-      most_ = std::max(most_, chart_.GetData(row, series));
-    }
-  }
-  const double step = std::pow(10, std::floor(std::log10((most_ - least_) / kSteps)));
-  least_ = std::floor(least_ / step) * step;
-  most_ = std::ceil(most_ / step) * step;
+QColor ChartField::ColorOf(int series) const {
+  return Theme::ColorOf(Model.Plot.SeriesCollection(series).DataPoints(-1).Brush.FillColor.Value());
 }
 
-double ChartPainter::Y(double value) const {
-  return place_.bottom() - (value - least_) / (most_ - least_) * place_.height();
+ChartPainter::ChartPainter(const MSChart& chart, QPainter& painter, const QRectF& place,
+                           std::vector<ChartSpot>& spots)
+    : chart_(chart), painter_(painter), field_{chart, painter, Scale::Percent() / 100.0, place, 0,
+                                               {},    spots} {
+  const double margin = kMargin * field_.Unit;
+  field_.Place.adjust(margin, margin, -margin, -margin);
 }
 
-double ChartPainter::SlotWidth() const { return place_.width() / std::max(1, chart_.RowCount()); }
+QFont ChartPainter::FontOf(int axis) const { return Scale::FontOf(chart_.Plot.Axis(axis).Labels(1).Font); }
+
+QFontMetricsF ChartPainter::Metrics() const { return QFontMetricsF(painter_.font(), painter_.device()); }
 
 void ChartPainter::Paint() {
-  painter_.fillRect(place_.adjusted(-kMargin, -kMargin, kMargin, kMargin), Theme::Surface());
-  if (chart_.RowCount() == 0 || chart_.ColumnCount() == 0) return;
-  TakeRange();
-  if (chart_.ShowLegend) PaintLegend();
-  if (chart_.ChartType == MSChart::k2dPie) {
-    PaintPie();
+  field_.Spots.clear();
+  PaintTitle();
+  if (chart_.SeriesCount() == 0 || chart_.PeriodCount() == 0) {
+    painter_.setPen(Theme::Muted());
+    painter_.drawText(field_.Place, Qt::AlignCenter, QStringLiteral("No figures"));
     return;
   }
-  PaintAxes();
-  if (chart_.ChartType == MSChart::k2dLine || chart_.ChartType == MSChart::k3dLine) {
-    PaintLines();
-  } else {
-    PaintBars();
+  if (chart_.ShowLegend) PaintLegend();
+  if (chart_.IsPie()) {
+    painter_.setFont(FontOf(MSChartPlot::kAxisX));
+    PaintChartPies(field_);
+    return;
   }
+  PlanAxis();
+  PaintValues();
+  PaintPeriods();
+  if (chart_.chartType <= MSChart::k2dBar) {
+    PaintChartBars(field_);
+  } else {
+    PaintChartLines(field_);
+  }
+  PaintZero();
+}
+
+void ChartPainter::PaintTitle() {
+  if (chart_.TitleText().empty()) return;
+  painter_.save();
+  QFont font = painter_.font();
+  font.setBold(true);
+  font.setPointSizeF(font.pointSizeF() * 1.2);
+  painter_.setFont(font);
+  const double height = Metrics().height() * 1.4;
+  painter_.setPen(Theme::Text());
+  painter_.drawText(QRectF(field_.Place.left(), field_.Place.top(), field_.Place.width(), height),
+                    Qt::AlignHCenter | Qt::AlignTop, QString::fromStdString(chart_.TitleText));
+  painter_.restore();
+  field_.Place.setTop(field_.Place.top() + height);
 }
 
 void ChartPainter::PaintLegend() {
-  const double line = painter_.fontMetrics().height() * 1.3;
+  const QFontMetricsF metrics = Metrics();
+  const double line = metrics.height() * 1.4;
+  const double room = field_.Place.width();
   double widest = 0;
-  for (int series = 1; series <= chart_.ColumnCount(); ++series) {
-    const QString label = QString::fromStdString(chart_.ColumnLabel(series));
-    widest = std::max<double>(widest, painter_.fontMetrics().horizontalAdvance(label));
+  for (int series = 1; series <= chart_.SeriesCount(); ++series)
+    widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(chart_.SeriesLabel(series))));
+  const double width = std::min(widest, room * kLegendNameShare) + 2.6 * line;
+  const int perColumn = std::max(1, static_cast<int>(field_.Place.height() / line));
+  const int most = std::max(1, static_cast<int>(room * kLegendShare / width));
+  const int columns = std::min(most, (chart_.SeriesCount() + perColumn - 1) / perColumn);
+  const int shown = std::min(chart_.SeriesCount(), columns * perColumn);
+  const double left = field_.Place.right() - columns * width;
+  for (int series = 1; series <= shown; ++series) {
+    const QRectF place(left + (series - 1) / perColumn * width,
+                       field_.Place.top() + (series - 1) % perColumn * line, width, line);
+    if (series == shown && shown < chart_.SeriesCount()) {
+      painter_.setPen(Theme::Muted());
+      painter_.drawText(place, Qt::AlignVCenter,
+                        QStringLiteral("and %1 more").arg(chart_.SeriesCount() - shown + 1));
+    } else {
+      PaintLegendLine(series, place);
+    }
   }
-  const double left = place_.right() - widest - line;
-  for (int series = 1; series <= chart_.ColumnCount(); ++series) {
-    const double top = place_.top() + (series - 1) * line;
-    painter_.fillRect(QRectF(left, top + line * 0.2, line * 0.6, line * 0.6),
-                      Theme::ColorOf(chart_.SeriesColor(series)));
-    painter_.setPen(Theme::Text());
-    painter_.drawText(QRectF(left + line, top, widest + 1, line), Qt::AlignVCenter,
-                      QString::fromStdString(chart_.ColumnLabel(series)));
-  }
-  place_.setRight(left - kMargin);
+  field_.Place.setRight(left - kMargin * field_.Unit);
 }
 
-void ChartPainter::PaintAxes() {
-  painter_.setFont(Scale::FontOf(chart_.AxisFont(0)));
-  const QFontMetricsF metrics(painter_.font());
-  const double figures =
-      std::max(metrics.horizontalAdvance(Figure(most_)), metrics.horizontalAdvance(Figure(least_)));
-  place_.adjust(figures + kMargin, metrics.height(), 0, -1.5 * metrics.height());
-  painter_.setPen(Theme::Muted());
-  painter_.drawText(QPointF(place_.left(), place_.top() - 0.4 * metrics.height()),
-                    QString::fromStdString(chart_.ValueAxisTitle));
-  for (int step = 0; step <= kSteps; ++step) {
-    const double value = least_ + (most_ - least_) * step / kSteps;
-    painter_.setPen(Theme::Rule());
-    painter_.drawLine(QPointF(place_.left(), Y(value)), QPointF(place_.right(), Y(value)));
-    painter_.setPen(Theme::Text());
-    painter_.drawText(QRectF(place_.left() - figures - kMargin / 2, Y(value) - metrics.height() / 2, figures,
-                             metrics.height()),
-                      Qt::AlignRight | Qt::AlignVCenter, Figure(value));
+void ChartPainter::PaintLegendLine(int series, const QRectF& line) {
+  const QColor color = field_.ColorOf(series);
+  const QRectF key(line.left(), line.top() + line.height() * 0.15, line.height() * 1.6, line.height() * 0.7);
+  const bool isLine = chart_.chartType == MSChart::k2dLine || chart_.chartType == MSChart::k2dStep;
+  if (isLine) {
+    painter_.setPen(ChartInk::Line(color, series, field_.Unit));
+    painter_.drawLine(QPointF(key.left(), key.center().y()), QPointF(key.right(), key.center().y()));
+    if (chart_.Plot.SeriesCollection(series).SeriesMarker.Show)
+      ChartInk::Mark(painter_, key.center(), color, series, field_.Unit);
+  } else {
+    QPainterPath area;
+    area.addRect(key);
+    ChartInk::Fill(painter_, area, color, series, field_.Unit);
   }
-  for (int row = 1; row <= chart_.RowCount(); ++row) {
-    const QRectF slot(place_.left() + (row - 1) * SlotWidth(), place_.bottom() + 2, SlotWidth(),
-                      metrics.height() * 1.4);
+  const QRectF words(key.right() + line.height() * 0.4, line.top(),
+                     line.right() - key.right() - line.height() * 0.5, line.height());
+  painter_.setPen(Theme::Text());
+  painter_.drawText(words, Qt::AlignVCenter,
+                    Metrics().elidedText(QString::fromStdString(chart_.SeriesLabel(series)), Qt::ElideRight,
+                                         words.width()));
+}
+
+void ChartPainter::PlanAxis() {
+  double least = 0;
+  double most = 0;
+  for (int period = 1; period <= chart_.PeriodCount(); ++period) {
+    for (int series = 1; series <= chart_.SeriesCount(); ++series) {
+      if (chart_.IsMissing(series, period)) continue;
+      least = std::min(least, chart_.Figure(series, period));
+      most = std::max(most, chart_.Figure(series, period));
+    }
+  }
+  field_.Depth = chart_.IsDeep() ? kDepth * field_.Unit : 0;
+  painter_.setFont(FontOf(MSChartPlot::kAxisX));
+  const double periods = Metrics().height() * 1.5;
+  painter_.setFont(FontOf(MSChartPlot::kAxisY));
+  const QFontMetricsF metrics = Metrics();
+  const double title = chart_.Plot.Axis(MSChartPlot::kAxisY).AxisTitle.Text().empty() ? 0.6 : 1.8;
+  field_.Place.adjust(0, title * metrics.height() + field_.Depth, -field_.Depth, -periods);
+  const double steps = field_.Place.height() / (kStepLines * metrics.height());
+  field_.Axis = ChartAxis::For(least, most, std::clamp(static_cast<int>(steps), 2, 10));
+  double widest = 0;
+  for (int step = 0; step <= field_.Axis.Steps(); ++step)
+    widest = std::max(widest, metrics.horizontalAdvance(field_.Axis.Label(step)));
+  field_.Place.setLeft(field_.Place.left() + widest + kMargin * field_.Unit);
+}
+
+void ChartPainter::PaintValues() {
+  painter_.setFont(FontOf(MSChartPlot::kAxisY));
+  const QFontMetricsF metrics = Metrics();
+  const QPointF back(field_.Depth, -field_.Depth);
+  const double left = field_.Place.left();
+  const QString title = QString::fromStdString(chart_.Plot.Axis(MSChartPlot::kAxisY).AxisTitle.Text());
+  if (!title.isEmpty()) {
+    painter_.setPen(Theme::Muted());
+    painter_.drawText(QPointF(left, field_.Place.top() - field_.Depth - 0.9 * metrics.height()), title);
+  }
+  for (int step = 0; step <= field_.Axis.Steps(); ++step) {
+    const double y = field_.Y(field_.Axis.At(step));
+    painter_.setPen(QPen(Theme::Border(), field_.Unit / 2));
+    if (field_.Depth > 0) painter_.drawLine(QPointF(left, y), QPointF(left, y) + back);
+    painter_.drawLine(QPointF(left, y) + back, QPointF(field_.Place.right(), y) + back);
+    painter_.setPen(Theme::Text());
+    painter_.drawText(QRectF(0, y - metrics.height() / 2, left - kMargin / 2 * field_.Unit, metrics.height()),
+                      Qt::AlignRight | Qt::AlignVCenter, field_.Axis.Label(step));
+  }
+}
+
+void ChartPainter::PaintPeriods() {
+  painter_.setFont(FontOf(MSChartPlot::kAxisX));
+  const QFontMetricsF metrics = Metrics();
+  const int count = chart_.PeriodCount();
+  bool named = false;
+  double widest = 0;
+  for (int period = 1; period <= count; ++period) {
+    const QString label = QString::fromStdString(chart_.PeriodLabel(period));
+    named = named || !label.isEmpty();
+    widest = std::max(widest, metrics.horizontalAdvance(label));
+  }
+  if (!named) widest = metrics.horizontalAdvance(QString::number(count));
+  // Labels without room of their own are left out, at even distances.
+  const int needed = static_cast<int>(std::ceil((widest + metrics.averageCharWidth()) / field_.SlotWidth()));
+  const int* const round =
+      std::find_if(std::begin(kRounds), std::end(kRounds), [needed](int each) { return each >= needed; });
+  const int every = named || round == std::end(kRounds) ? needed : *round;
+  painter_.setPen(Theme::Text());
+  for (int period = 1; period <= count; ++period) {
+    if (named ? (period - 1) % every != 0 : every > 1 && period != 1 && period % every != 0) continue;
+    if (!named && period == 1 && every > 1 && every * field_.SlotWidth() < widest * 1.5) continue;
+    const double centre = field_.SlotLeft(period) + field_.SlotWidth() / 2;
+    const QString label =
+        named ? QString::fromStdString(chart_.PeriodLabel(period)) : QString::number(period);
     painter_.drawText(
-        slot, Qt::AlignHCenter | Qt::AlignTop,
-        metrics.elidedText(QString::fromStdString(chart_.RowLabel(row)), Qt::ElideRight, SlotWidth()));
+        QRectF(centre - widest, field_.Place.bottom() + 3 * field_.Unit, 2 * widest, metrics.height() * 1.4),
+        Qt::AlignHCenter | Qt::AlignTop, label);
   }
 }
 
-void ChartPainter::PaintBars() {
-  const double width = SlotWidth() * 0.7 / chart_.ColumnCount();
-  for (int row = 1; row <= chart_.RowCount(); ++row) {
-    for (int series = 1; series <= chart_.ColumnCount(); ++series) {
-      const double value = chart_.GetData(row, series);
-      const double left = place_.left() + (row - 1) * SlotWidth() + SlotWidth() * 0.15 + (series - 1) * width;
-      const QRectF bar = QRectF(QPointF(left, Y(value)), QPointF(left + width, Y(0))).normalized();
-      const QColor color = Theme::ColorOf(chart_.SeriesColor(series));
-      painter_.setPen(Qt::NoPen);
-      if (deep_) {
-        const QPointF back(kDepth, -kDepth);
-        painter_.setBrush(color.lighter(130));
-        painter_.drawPolygon(
-            QPolygonF{bar.topLeft(), bar.topRight(), bar.topRight() + back, bar.topLeft() + back});
-        painter_.setBrush(color.darker(130));
-        painter_.drawPolygon(
-            QPolygonF{bar.topRight(), bar.bottomRight(), bar.bottomRight() + back, bar.topRight() + back});
-      }
-      painter_.fillRect(bar, color);
-    }
-  }
-}
-
-void ChartPainter::PaintLines() {
-  for (int series = 1; series <= chart_.ColumnCount(); ++series) {
-    const QColor color = Theme::ColorOf(chart_.SeriesColor(series));
-    QPolygonF line;
-    for (int row = 1; row <= chart_.RowCount(); ++row) {
-      line << QPointF(place_.left() + (row - 0.5) * SlotWidth(), Y(chart_.GetData(row, series)));
-    }
-    painter_.setBrush(Qt::NoBrush);
-    if (deep_) {
-      painter_.setPen(QPen(color.darker(130), 5));
-      painter_.drawPolyline(line.translated(kDepth / 3, -kDepth / 3));
-    }
-    painter_.setPen(QPen(color, deep_ ? 5 : 2));
-    painter_.drawPolyline(line);
-    painter_.setBrush(color);
-    for (const QPointF& point : line) painter_.drawEllipse(point, 3, 3);
-  }
-}
-
-void ChartPainter::PaintPie() {
-  double sum = 0;
-  for (int series = 1; series <= chart_.ColumnCount(); ++series) sum += std::abs(chart_.GetData(1, series));
-  if (sum == 0) return;
-  const double side = std::min(place_.width(), place_.height());
-  const QRectF circle(place_.center().x() - side / 2, place_.center().y() - side / 2, side, side);
-  double done = 0;
-  painter_.setPen(Theme::Surface());
-  for (int series = 1; series <= chart_.ColumnCount(); ++series) {
-    const double part = std::abs(chart_.GetData(1, series)) / sum;
-    painter_.setBrush(Theme::ColorOf(chart_.SeriesColor(series)));
-    painter_.drawPie(circle, static_cast<int>(std::lround(done * kWholeTurn)),
-                     static_cast<int>(std::lround(part * kWholeTurn)));
-    done += part;
-  }
+void ChartPainter::PaintZero() {
+  painter_.setPen(QPen(Theme::Muted(), field_.Unit));
+  const double y = field_.Y(0);
+  painter_.drawLine(QPointF(field_.Place.left(), y), QPointF(field_.Place.right(), y));
+  painter_.drawLine(field_.Place.topLeft(), field_.Place.bottomLeft());
 }
 
 }  // namespace quillon

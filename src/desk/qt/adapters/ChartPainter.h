@@ -1,37 +1,37 @@
 #pragma once
 
 #include <QRectF>
+#include <vector>
 
-#include "host/controls/MSChart.h"
+#include "desk/qt/adapters/ChartField.h"
 
+class QFontMetricsF;
 class QPainter;
 
 namespace quillon {
 
-/// Draws a chart: bars or lines over an axis of values, or a pie of each series' first figures. The 3D kinds
-/// have depth to their bars and lines.
+/// Draws a chart: title, legend, axes, and the figures as its type wants them.
 class ChartPainter {
  public:
-  ChartPainter(const MSChart& chart, QPainter& painter, const QRectF& place);
+  /// What figures are seen where goes into `spots`.
+  ChartPainter(const MSChart& chart, QPainter& painter, const QRectF& place, std::vector<ChartSpot>& spots);
 
   void Paint();
 
  private:
-  void TakeRange();
+  void PaintTitle();
   void PaintLegend();
-  void PaintAxes();
-  void PaintBars();
-  void PaintLines();
-  void PaintPie();
-  double Y(double value) const;
-  double SlotWidth() const;
+  void PaintLegendLine(int series, const QRectF& line);
+  void PlanAxis();
+  void PaintValues();
+  void PaintPeriods();
+  void PaintZero();
+  QFont FontOf(int axis) const;
+  QFontMetricsF Metrics() const;
 
   const MSChart& chart_;
   QPainter& painter_;
-  QRectF place_;
-  double least_ = 0;
-  double most_ = 1;
-  bool deep_;
+  ChartField field_;
 };
 
 }  // namespace quillon
