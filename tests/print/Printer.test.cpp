@@ -1,5 +1,6 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <chrono>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -9,8 +10,10 @@
 #include "desk/print/PdfPrinter.h"
 #include "desk/print/PrintObserver.h"
 #include "desk/print/TextMeasure.h"
+#include "host/services/PrintRun.h"
 #include "host/values/Errors.h"
 #include "tests/support/PdfReader.h"
+#include "tests/support/SpoolerPath.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {
@@ -145,34 +148,58 @@ TEST_F(PrinterTest, AJobThatDiesLeavesNothing) {
   EXPECT_THROW(nowhere.Print("x"), HostError);
 }
 
-/// A spooler of the test's own stands first in the search path while it lives.
-class SpoolerPath {
- public:
-  SpoolerPath(const TempFolder& folder, const std::string& script) : path_(getenv("PATH")) {
-    const std::string program = folder.File("lp");
-    std::ofstream(program) << "#!/bin/sh\n" << script;
-    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
-    setenv("PATH", (folder.Path().string() + ":" + path_).c_str(), 1);
+TEST_F(PrinterTest, ABrokenRunLeavesNoPageForTheNext) {
+  PrintAt(0, 0, "Forgotten");  // a job without an end
+  try {
+    PrintRun run(printer);
+    PrintAt(0, 0, "Half");
+    run.NewPage();
+    throw HostError("the party is missing");
+  } catch (const HostError&) {
   }
-  SpoolerPath(const SpoolerPath&) = delete;
-  SpoolerPath& operator=(const SpoolerPath&) = delete;
-  ~SpoolerPath() { setenv("PATH", path_.c_str(), 1); }
+  EXPECT_EQ(FilesLeft(), 0u);
+  PrintAt(0, 0, "Forgotten");
+  {
+    PrintRun run(printer);
+    PrintAt(0, 0, "Whole");
+    run.EndDoc();
+  }
+  const PdfReader pdf(log.files.at(0));
+  EXPECT_EQ(log.files.size(), 1u);
+  EXPECT_EQ(pdf.Pages().size(), 1u);
+  EXPECT_EQ(pdf.Text().find("Forgotten"), std::string::npos);
+}
 
- private:
-  std::string path_;
-};
+TEST_F(PrinterTest, WhatAKilledProgramLeftHalfWrittenIsRemovedAndNoOtherFile) {
+  const auto write = [this](const char* name) {
+    std::ofstream(folder.File(name)) << "half";
+    std::filesystem::last_write_time(folder.File(name),
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  };
+  write(".print-0123456789abcdef0123456789abcdef.part");
+  write(".report-0123456789abcdef0123456789abcdef.part");
+  write("mine.part");
+  PdfPrinter other(folder.Path().string());
+  other.Print("Harbour");  // still at work
+  PrintAt(0, 0, "Whole");
+  printer.EndDoc();
+  EXPECT_EQ(FilesLeft(), 3u) << "the job at work, mine.part and the new pages";
+  other.EndDoc();
+  EXPECT_TRUE(std::filesystem::exists(folder.File("print-2.pdf")));
+}
 
 TEST_F(PrinterTest, AJobForADeviceGoesToTheSpoolerAndAFileStays) {
   TempFolder tools;
   printer.DeviceName = "Canteen LaserJet";
   {
-    const SpoolerPath spooler(tools, "echo \"$2 $4\" > " + tools.File("sent"));
+    const SpoolerPath spooler(tools, "echo \"$2 $4 $6\" > " + tools.File("sent"));
+    printer.ColorMode = IPrinter::kMonochrome;
     PrintAt(0, 0, "Harbour");
     printer.EndDoc();
   }
   std::string sent;
   std::getline(std::ifstream(tools.File("sent")), sent);
-  EXPECT_EQ(sent, "Canteen LaserJet " + folder.File("print-1.pdf"));
+  EXPECT_EQ(sent, "Canteen LaserJet print-color-mode=monochrome " + folder.File("print-1.pdf"));
 
   const SpoolerPath refusing(tools, "echo 'no such printer'; exit 1");
   PrintAt(0, 0, "Harbour");

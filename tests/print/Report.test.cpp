@@ -392,6 +392,25 @@ TEST_F(ReportTest, LabelsKeepTheirPitchAndTakeNoColour) {
   EXPECT_TRUE(preview.sheets.Pages[0].Lines.empty());
 }
 
+TEST_F(LetterTest, ATextPrinterLeavesRoomForTheHeadOfTheSheetAndEndsEachLetterOnItsPage) {
+  Fill();
+  options.SetOption("MainHeadForm1", "LetterHeadRefDate");
+  options.SetOption("MainHeadForm2", "LetterHeadRefDate");
+  const std::string text = ShowPlain(form->Letter, options, "BottomLine=False");
+  EXPECT_EQ(preview.pages, 2);
+  const std::vector<std::string> pages = text::Split(text, "\f");
+  ASSERT_EQ(pages.size(), 2u);
+  for (const std::string& page : pages) {
+    EXPECT_EQ(page.substr(0, 12), std::string(12, '\n'));
+    EXPECT_EQ(page.find("Ref. No.: 17/A"), 12u);
+    EXPECT_EQ(page.find('*'), std::string::npos) << page;
+  }
+  const std::vector<std::string> lines = text::Split(pages[1], "\n");
+  const auto line = std::find(lines.begin(), lines.end(), "Konkan Mills");
+  ASSERT_LT(line + 5, lines.end());
+  EXPECT_EQ(line[3].size(), line[4].size()) << "justified";
+}
+
 TEST_F(ReportTest, ATextPrinterGetsPlainLinesWithColumnsOfCharacters) {
   form->FillStatement(5);
   form->Statement.SetTextMatrix(1, 2, "\u0939\u093F\u0902\u0926\u0940");

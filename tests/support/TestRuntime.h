@@ -36,7 +36,7 @@ class TestRuntime : public Runtime {
   std::string ClipboardText() const override { return clipboard_; }
   void SetClipboardText(const std::string& text) override { clipboard_ = text; }
   IPrinter& Printer() override { return printer_; }
-  std::vector<std::string> Printers() const override { return {}; }
+  std::vector<PrinterDevice> Printers() const override { return {}; }
 
   int AskMessage(const MessageRequest& request) override {
     if (messageAnswers_.empty()) {

@@ -6,6 +6,7 @@
 
 #include "desk/print/Spooler.h"
 #include "desk/print/TextMeasure.h"
+#include "desk/qt/windows/FormPicture.h"
 #include "host/controls/Menu.h"
 #include "host/forms/CPickList.h"
 #include "host/services/IStd.h"
@@ -46,7 +47,9 @@ long DriverRuntime::TextWidth(const Font& font, const std::string& text) const {
   return std::lround(TextMeasure::Width(font, text));
 }
 
-std::vector<std::string> DriverRuntime::Printers() const { return Spooler::Printers(); }
+std::vector<PrinterDevice> DriverRuntime::Printers() const { return Spooler::Printers(); }
+
+void DriverRuntime::PrintForm(Form& form) { FormPicture::Print(form.Self(), printer_); }
 
 std::optional<Json> DriverRuntime::Answer(const std::string& kind, Json& event) {
   std::optional<Json> answer = Laid.Take(kind);
@@ -160,14 +163,24 @@ bool DriverRuntime::AskPrint(PrintSetup& setup) {
              {"pagefrom", setup.PageFrom},
              {"pageto", setup.PageTo},
              {"copies", setup.Copies},
-             {"orientation", setup.Orientation}};
+             {"orientation", setup.Orientation},
+             {"colormode", setup.ColorMode},
+             {"printer", setup.PrinterObj->DeviceName},
+             {"printers", Json::array()}};
+  const std::vector<PrinterDevice> printers = Printers();
+  for (const PrinterDevice& each : printers) event["printers"].push_back(each.DeviceName);
   const std::optional<Json> answer = Answer("printdialog", event);
   log_.Write(event);
   if (!answer) return false;
   setup.PageFrom = answer->value("pagefrom", setup.PageFrom);
   setup.PageTo = answer->value("pageto", setup.PageTo);
   setup.Copies = answer->value("copies", setup.Copies);
-  setup.PrinterObj = answer->value("printer", setup.PrinterObj);
+  setup.OE = answer->value("oe", setup.OE);
+  setup.ColorMode = answer->value("colormode", setup.ColorMode);
+  const PrinterDevice chosen{answer->value("printer", setup.PrinterObj->DeviceName)};
+  if (std::find(printers.begin(), printers.end(), chosen) == printers.end())
+    throw HostError("The print dialog has no printer " + chosen.DeviceName);
+  setup.PrinterObj = chosen;
   return true;
 }
 

@@ -44,7 +44,8 @@ class DriverRuntime : public Runtime {
   std::string ClipboardText() const override { return clipboard_; }
   void SetClipboardText(const std::string& text) override { clipboard_ = text; }
   IPrinter& Printer() override { return printer_; }
-  std::vector<std::string> Printers() const override;
+  std::vector<PrinterDevice> Printers() const override;
+  void PrintForm(Form& form) override;
   int AskMessage(const MessageRequest& request) override;
   bool AskInput(const InputRequest& request, std::string& reply) override;
   bool AskFile(const FileRequest& request, std::string& path) override;

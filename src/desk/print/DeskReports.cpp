@@ -45,10 +45,11 @@ void DeskReports::ShowGrid(GridModel& grid, CReportOptions* options, const std::
   }
   if (desk_.Observer != nullptr)
     desk_.Observer->OnReport({title, subtitle, print, file, count, grid, sheets});
-  const std::string device = print && desk_.Device ? desk_.Device() : std::string();
-  if (!device.empty()) Spooler::Send(file, device);
+  if (print && desk_.Device) Spooler::Send(file, {.Printer = desk_.Device()});
 }
 
-PrintSetup DeskReports::Print(const std::string& /*what*/) { return {}; }
+std::shared_ptr<PrintSetup> DeskReports::Print(const std::string& /*what*/) {
+  return std::make_shared<PrintSetup>();
+}
 
 }  // namespace quillon

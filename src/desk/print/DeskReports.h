@@ -48,7 +48,7 @@ class DeskReports : public IReports {
   void ShowGrid(GridModel& grid, CReportOptions* options, const std::string& title,
                 const std::string& subtitle, int value, bool print, const std::string& heading = "",
                 const std::string& optionText = "") override;
-  PrintSetup Print(const std::string& what) override;
+  std::shared_ptr<PrintSetup> Print(const std::string& what) override;
   int PrinterMode() const override { return desk_.Mode ? desk_.Mode() : 0; }
 
  private:

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QStandardPaths>
+#include <algorithm>
 #include <map>
 
 namespace quillon {
@@ -89,6 +90,16 @@ const QString& FamilyFor(const Font& font) {
 }
 
 }  // namespace
+
+bool Fonts::Has(const std::string& name) {
+  const QString wanted = QString::fromStdString(name);
+  const auto named = [&wanted](const auto& known) {
+    return wanted.compare(QLatin1String(known.family), Qt::CaseInsensitive) == 0;
+  };
+  return std::any_of(std::begin(kSources), std::end(kSources), named) ||
+         std::any_of(std::begin(kSubstitutes), std::end(kSubstitutes), named) ||
+         QFontDatabase::hasFamily(wanted);
+}
 
 QFont Fonts::Of(const Font& font) {
   QFont made;

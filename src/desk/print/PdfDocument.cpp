@@ -21,9 +21,10 @@ struct PdfDocument::Parts {
   QPainter painter;
 };
 
-PdfDocument::PdfDocument(const std::string& folder, const std::string& stem, int paper, int orientation)
+PdfDocument::PdfDocument(const std::string& folder, const std::string& stem, int paper, int orientation,
+                         int dotsPerInch)
     : parts_(std::make_unique<Parts>(folder, stem)) {
-  parts_->writer.setResolution(kTwipsPerInch);
+  parts_->writer.setResolution(dotsPerInch);
   parts_->writer.setCreator(QStringLiteral("Quillon"));
   parts_->SetPage(paper, orientation);
   if (!parts_->painter.begin(&parts_->writer)) throw HostError("The PDF could not be begun in " + folder);

@@ -3,15 +3,19 @@
 #include <memory>
 #include <string>
 
+#include "desk/print/Paper.h"
+
 class QPainter;
 
 namespace quillon {
 
-/// A PDF in the making, drawn in twips from each page's top left corner.
+/// A PDF in the making, drawn from each page's top left corner.
 class PdfDocument {
  public:
-  /// Begins the first page. `paper` and `orientation` are the numbers of IPrinter. Throws HostError.
-  PdfDocument(const std::string& folder, const std::string& stem, int paper, int orientation);
+  /// Begins the first page. `paper` and `orientation` are the numbers of IPrinter, `dotsPerInch` is the unit
+  /// of the painter. Throws HostError.
+  PdfDocument(const std::string& folder, const std::string& stem, int paper, int orientation,
+              int dotsPerInch = kTwipsPerInch);
   PdfDocument(const PdfDocument&) = delete;
   PdfDocument& operator=(const PdfDocument&) = delete;
 

@@ -15,6 +15,8 @@ namespace quillon {
 
 namespace {
 
+constexpr const char* kStem = "print";
+
 std::vector<std::string> Lines(const std::string& text) {
   return text::Split(text::ReplaceAll(text, "\r\n", "\n"), "\n");
 }
@@ -25,6 +27,8 @@ PdfPrinter::PdfPrinter(std::string outputFolder, PrintObserver* observer)
     : folder_(std::move(outputFolder)), observer_(observer) {}
 
 PdfPrinter::~PdfPrinter() = default;
+
+bool PdfPrinter::HasFont(const std::string& name) const { return Fonts::Has(name); }
 
 double PdfPrinter::TextWidth(const std::string& text) const {
   double widest = 0;
@@ -37,7 +41,7 @@ double PdfPrinter::TextHeight(const std::string& text) const {
 }
 
 PdfDocument& PdfPrinter::Job() {
-  if (!job_) job_ = std::make_unique<PdfDocument>(folder_, "print", PaperSize, Orientation);
+  if (!job_) job_ = std::make_unique<PdfDocument>(folder_, kStem, PaperSize, Orientation);
   return *job_;
 }
 
@@ -73,10 +77,13 @@ void PdfPrinter::EndDoc() {
   const std::unique_ptr<PdfDocument> job = std::move(job_);
   CurrentX = 0;
   CurrentY = 0;
-  if (!job) return;
-  const std::string file = job->Finish();
-  if (observer_ != nullptr) observer_->OnPrinted(file, job->Pages(), PaperSize, Orientation);
-  if (!DeviceName.empty()) Spooler::Send(file, DeviceName);
+  if (job) Deliver(*job);
+}
+
+void PdfPrinter::Deliver(PdfDocument& job) {
+  const std::string file = job.Finish();
+  if (observer_ != nullptr) observer_->OnPrinted(file, job.Pages(), PaperSize, Orientation);
+  Spooler::Send(file, {.Printer = DeviceName, .Monochrome = ColorMode == kMonochrome});
 }
 
 void PdfPrinter::KillDoc() {
@@ -85,11 +92,10 @@ void PdfPrinter::KillDoc() {
   CurrentY = 0;
 }
 
-void PdfPrinter::Draw(const std::function<void(QPainter&)>& draw) {
-  QPainter& painter = Job().Painter();
-  painter.save();
-  draw(painter);
-  painter.restore();
+void PdfPrinter::PrintPicture(int dotsPerInch, const std::function<void(QPainter&)>& draw) {
+  PdfDocument job(folder_, kStem, PaperSize, Orientation, dotsPerInch);
+  draw(job.Painter());
+  Deliver(job);
 }
 
 }  // namespace quillon

@@ -21,6 +21,7 @@ class PdfPrinter : public IPrinter {
   explicit PdfPrinter(std::string outputFolder, PrintObserver* observer = nullptr);
   ~PdfPrinter() override;
 
+  bool HasFont(const std::string& name) const override;
   double TextWidth(const std::string& text) const override;
   double TextHeight(const std::string& text) const override;
 
@@ -31,11 +32,12 @@ class PdfPrinter : public IPrinter {
   void EndDoc() override;
   void KillDoc() override;
 
-  /// Draws on the page at hand in twips; begins a job as Print does.
-  void Draw(const std::function<void(QPainter&)>& draw);
+  /// A job of one page that is drawn in dots, so many to the inch; a job at hand stays as it is.
+  void PrintPicture(int dotsPerInch, const std::function<void(QPainter&)>& draw);
 
  private:
   PdfDocument& Job();
+  void Deliver(PdfDocument& job);
   void PrintLine(const std::string& line);
 
   std::string folder_;

@@ -18,6 +18,7 @@ namespace quillon {
 namespace {
 
 constexpr double kTwipsPerLine = 240;  // six lines to the inch
+constexpr int kOwnHeadLines = 12;      // two inches, where a printed letter head ends
 constexpr double kPaperWidths[] = {80, 96, 132, 160};
 
 bool IsWide(char32_t character) {
@@ -145,6 +146,8 @@ class Writer {
     if (form == HeadingForm::Letter) {
       FirmHeading();
       Rule();
+    } else {
+      for (int line = 0; line < kOwnHeadLines; ++line) Line();
     }
     const std::string reference = request_.Options.Var("RefNo");
     const std::string dated = request_.Options.Var("Dated");

@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include "host/services/IPrinter.h"
 #include "host/values/Errors.h"
 
 namespace quillon {
@@ -24,25 +25,34 @@ bool Run(const QString& program, const QStringList& arguments, QString& out) {
   return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
-}  // namespace
-
-std::vector<std::string> Spooler::Printers() {
-  std::vector<std::string> names;
+/// Empty on a machine without a spooler.
+QString Listed() {
   QString listed;
-  if (QStandardPaths::findExecutable(QStringLiteral("lpstat")).isEmpty()) return names;
-  if (!Run(QStringLiteral("lpstat"), {QStringLiteral("-e")}, listed)) return names;
-  for (const QString& name : listed.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-    names.push_back(name.trimmed().toStdString());
-  return names;
+  const bool known = !QStandardPaths::findExecutable(QStringLiteral("lpstat")).isEmpty() &&
+                     Run(QStringLiteral("lpstat"), {QStringLiteral("-e")}, listed);
+  return known ? listed : QString();
 }
 
-void Spooler::Send(const std::string& file, const std::string& printer) {
+}  // namespace
+
+std::vector<PrinterDevice> Spooler::Printers() {
+  std::vector<PrinterDevice> printers;
+  for (const QString& name : Listed().split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+    printers.push_back({name.trimmed().toStdString()});
+  printers.push_back({IPrinter::kPdfFile});
+  return printers;
+}
+
+void Spooler::Send(const std::string& file, const Job& job) {
+  if (job.Printer.empty() || job.Printer == IPrinter::kPdfFile) return;
   if (QStandardPaths::findExecutable(QStringLiteral("lp")).isEmpty()) return;
   QString answer;
-  const QStringList arguments{QStringLiteral("-d"), QString::fromStdString(printer), QStringLiteral("--"),
-                              QString::fromStdString(file)};
+  QStringList arguments{QStringLiteral("-d"), QString::fromStdString(job.Printer)};
+  if (job.Copies > 1) arguments << QStringLiteral("-n") << QString::number(job.Copies);
+  if (job.Monochrome) arguments << QStringLiteral("-o") << QStringLiteral("print-color-mode=monochrome");
+  arguments << QStringLiteral("--") << QString::fromStdString(file);
   if (!Run(QStringLiteral("lp"), arguments, answer)) {
-    throw HostError("The printer " + printer + " did not take the pages (" + answer.toStdString() +
+    throw HostError("The printer " + job.Printer + " did not take the pages (" + answer.toStdString() +
                     "). They are kept in " + file + ".");
   }
 }

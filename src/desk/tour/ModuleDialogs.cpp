@@ -56,7 +56,8 @@ void AskDates() {
 
 void AskPrinter() {
   PrintSetup setup;
-  setup.MaxPage = 12;
+  setup.MaxPage = setup.PageTo = 12;
+  setup.Copies = 1;
   setup.Show();
 }
 

@@ -55,6 +55,16 @@ void FromVariant(const Variant& value, Font& out) {
 
 }  // namespace property
 
+void FontProperty::Assign(const Variant& value) {
+  Font font;
+  property::FromVariant(value, font);
+  *this = font;
+}
+
+void FontProperty::Require(const Font& wanted) const {
+  if (gRuntime != nullptr && wanted.Name != (*this)().Name) gRuntime->RequireFont(wanted.Name);
+}
+
 VisibleProperty& VisibleProperty::operator=(bool visible) {
   if (own_ != visible) {
     own_ = visible;

@@ -75,7 +75,7 @@ class Control : public Object {
   Property<bool> Enabled{*this, "Enabled", true};
   Property<long> BackColor{*this, "BackColor", kDefaultColor};
   Property<long> ForeColor{*this, "ForeColor", kDefaultColor};
-  Property<quillon::Font> Font{*this, "Font"};
+  FontProperty Font{*this, "Font"};
   TextProperty Tag{*this, "Tag"};
   TextProperty ToolTipText{*this, "ToolTipText"};
   Property<bool> TabStop{*this, "TabStop", true};

@@ -107,6 +107,22 @@ class TextProperty : public Property<std::string> {
   friend std::string operator+(std::string_view a, const TextProperty& b) { return std::string(a) + b(); }
 };
 
+/// A font. Setting one that the machine lacks throws MissingFontError and leaves the font as it is.
+class FontProperty : public Property<Font> {
+ public:
+  using Property<Font>::Property;
+  FontProperty& operator=(Font value) {
+    Require(value);
+    Property<Font>::operator=(std::move(value));
+    return *this;
+  }
+  FontProperty& operator=(const FontProperty& other) { return *this = other(); }
+  void Assign(const Variant& value) override;
+
+ private:
+  void Require(const Font& wanted) const;
+};
+
 /// What code sets is the control's own mark; what it reads is whether the user can see the control: the
 /// control, all that contains it and its form are shown.
 class VisibleProperty : public PropertyBase {

@@ -3,7 +3,6 @@
 #include "host/forms/CPartyFilter.h"
 #include "host/forms/CPickList.h"
 #include "host/forms/Runtime.h"
-#include "host/services/PrintSetup.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -48,7 +47,5 @@ bool CPickList::Show() {
   picked_ = lines_.at(item).data;
   return true;
 }
-
-void PrintSetup::Show() { Cancelled = !gRuntime->AskPrint(*this); }
 
 }  // namespace quillon

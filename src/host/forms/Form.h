@@ -92,6 +92,10 @@ class Form : public Surface, public std::enable_shared_from_this<Form> {
 
   FormPtr Self() { return shared_from_this(); }
 
+  /// A dialog that the runtime draws itself asks its user here in place of being loaded and shown, and says
+  /// true.
+  virtual bool AskInstead() { return false; }
+
   // For the runtime, which alone carries a form through its life.
   void RunLoad();
   void RunActivate() { OnActivate(); }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <map>
 
+#include "host/services/IPrinter.h"
+#include "host/services/PrinterDevice.h"
 #include "host/values/ErrorText.h"
 #include "host/values/Text.h"
 
@@ -45,6 +47,7 @@ void Runtime::Load(const FormPtr& form) {
 }
 
 void Runtime::Show(const FormPtr& form, bool modal, const FormPtr& owner) {
+  if (form->AskInstead()) return;
   Load(form);
   if (!form->IsLoaded()) return;  // Load may have unloaded it
   form->SetOwner(owner);
@@ -55,6 +58,20 @@ void Runtime::Show(const FormPtr& form, bool modal, const FormPtr& owner) {
   UpdateActive();
   if (form->IsShownToUser()) form->FocusFirst();
   if (modal) RunModal(form);
+}
+
+bool Runtime::UsePrinter(const std::string& deviceName) {
+  const std::vector<PrinterDevice> printers = Printers();
+  const bool known = std::any_of(printers.begin(), printers.end(),
+                                 [&](const PrinterDevice& each) { return each.DeviceName == deviceName; });
+  if (known) Printer().DeviceName = deviceName;
+  return known;
+}
+
+void Runtime::PrintForm(Form& form) { throw HostError("No printer takes the form " + form.Name()); }
+
+void Runtime::RequireFont(const std::string& name) {
+  if (!Printer().HasFont(name)) throw MissingFontError(name);
 }
 
 void Runtime::RunModal(const FormPtr& form) {

@@ -16,6 +16,7 @@ class CPickList;
 class IPrinter;
 class Menu;
 class PrintSetup;
+struct PrinterDevice;
 
 /// A message box as it is asked for. Buttons count from 1.
 struct MessageRequest {
@@ -163,7 +164,19 @@ class Runtime {
   // -----------------------------------------------------------------------------------------------
 
   virtual IPrinter& Printer() = 0;
-  virtual std::vector<std::string> Printers() const = 0;
+
+  /// All that can be printed to; the PDF file is the last.
+  virtual std::vector<PrinterDevice> Printers() const = 0;
+
+  /// Makes the one of this name the Printer. False when there is none: the Printer stays what it is.
+  bool UsePrinter(const std::string& deviceName);
+
+  /// Prints the form on one page of the Printer's paper, a job of its own: what its user sees, drawn anew
+  /// with its texts as texts, twip for twip. What does not fit on the page is cut off.
+  virtual void PrintForm(Form& form);
+
+  /// Throws MissingFontError unless the font, or one of the same widths, is on the machine.
+  void RequireFont(const std::string& name);
 
   // --- Asking
   // ------------------------------------------------------------------------------------------------

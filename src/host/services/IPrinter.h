@@ -19,13 +19,25 @@ class IPrinter {
   IPrinter& operator=(const IPrinter&) = delete;
   virtual ~IPrinter() = default;
 
-  /// The device that jobs go to; empty leaves a PDF.
-  std::string DeviceName;
+  /// The printer of this name leaves a PDF. It is one among the others, on every machine.
+  static constexpr const char* kPdfFile = "PDF file";
+
+  static constexpr int kMonochrome = 1;
+  static constexpr int kColor = 2;
+
+  /// The device that jobs go to; what is printed for one lies in a PDF too.
+  std::string DeviceName = kPdfFile;
   int PaperSize = kA4;
   int Orientation = kPortrait;
+
+  /// Asked of the device; a PDF keeps its colours.
+  int ColorMode = kColor;
   quillon::Font Font;
   double CurrentX = 0;
   double CurrentY = 0;
+
+  /// Whether a font of this name prints as itself, or as one of the same widths.
+  virtual bool HasFont(const std::string& name) const = 0;
 
   /// Twips, in the current font.
   virtual double TextWidth(const std::string& text) const = 0;
@@ -41,6 +53,8 @@ class IPrinter {
 
   /// Finishes the job; throws HostError when the file cannot be written.
   virtual void EndDoc() = 0;
+
+  /// Drops the job at hand, if there is one: no file, nothing to the device.
   virtual void KillDoc() = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "host/services/CReportOptions.h"
@@ -23,8 +24,8 @@ class IReports {
                         const std::string& subtitle, int value, bool print, const std::string& heading = "",
                         const std::string& optionText = "") = 0;
 
-  /// The print dialog; `what` is "Print".
-  virtual PrintSetup Print(const std::string& what) = 0;
+  /// A new print dialog; `what` is "Print".
+  virtual std::shared_ptr<PrintSetup> Print(const std::string& what) = 0;
 
   /// Below 2 a report goes to a graphic printer, 2 and above to a text-mode printer.
   virtual int PrinterMode() const = 0;

@@ -1,34 +1,64 @@
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "host/forms/Form.h"
+#include "host/services/IPrinter.h"
+#include "host/services/PrinterDevice.h"
 
 namespace quillon {
 
-/// The print dialog that gReports->Print gives: set its members, show it, read them back.
-class PrintSetup {
+/// The print dialog that gReports->Print gives, a form of the desk: set its members, show it modally, read
+/// them back. It asks no more than the caller can use.
+class PrintSetup : public Form {
  public:
-  /// The name under which the choice of printer is remembered.
+  PrintSetup();
+
+  /// The name under which the user's printer, colour and copies are kept for the next time; without a name
+  /// nothing is kept and nothing is taken over from another dialog.
   std::string PrinterNameSetting;
 
-  /// Odd and even pages: "X" offers no choice.
-  std::string OE;
+  /// "X" offers no choice of odd and even pages; else "" is all, "O" the odd, "E" the even ones. Offered
+  /// where there is more than one page.
+  std::string OE = "X";
+
+  /// "X" offers no choice between colour and black.
   std::string Color;
+
+  /// Kept for the caller.
   bool PrintStamp = false;
+
   int PageFrom = 1;
-  int PageTo = 9999;
-  int MaxPage = 9999;
-  int Copies = 1;
+  int PageTo = 1;
 
-  /// 1 upright, 2 landscape.
-  int Orientation = 1;
-  int ColorMode = 2;
+  /// With 1 no pages are offered.
+  int MaxPage = 1;
 
-  /// The device chosen; empty keeps the printer at hand.
-  std::string PrinterObj;
+  /// 0 offers no copies: the job has one.
+  int Copies = 0;
+
+  int Orientation = IPrinter::kPortrait;
+  int ColorMode = IPrinter::kColor;
+
+  /// The printer chosen: after OK there always is one. What is set before is offered first.
+  std::optional<PrinterDevice> PrinterObj;
   bool Cancelled = true;
 
   /// Asks the user, and sets Cancelled by his answer.
-  void Show();
+  void Show(int modal = 1);
+  bool AskInstead() override;
+
+  /// Makes the chosen printer the Printer, with its colour; one that is gone since leaves the Printer as it
+  /// is.
+  void TakePrinter() const;
+
+ private:
+  void Recall();
+  void Keep() const;
+  std::string Key() const { return "PrintSetup." + PrinterNameSetting; }
+
+  std::string printerName_;  // of PrinterObj, for late callers
 };
 
 }  // namespace quillon

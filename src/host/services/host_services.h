@@ -22,4 +22,6 @@
 #include "host/services/IReports.h"
 #include "host/services/ISession.h"
 #include "host/services/IStd.h"
+#include "host/services/PrintRun.h"
 #include "host/services/PrintSetup.h"
+#include "host/services/PrinterDevice.h"

@@ -23,6 +23,21 @@ class SubscriptError : public HostError {
   explicit SubscriptError(const std::string& what) : HostError("Subscript out of range: " + what) {}
 };
 
+/// A font that the machine lacks and that no other stands in for.
+class MissingFontError : public HostError {
+ public:
+  /// The number under which error traps know it.
+  static constexpr int kNumber = 380;
+
+  explicit MissingFontError(std::string fontName)
+      : HostError("Missing Font: " + fontName), fontName_(std::move(fontName)) {}
+
+  const std::string& FontName() const { return fontName_; }
+
+ private:
+  std::string fontName_;
+};
+
 /// The database refused a statement or the connection is gone.
 class DbError : public HostError {
  public:

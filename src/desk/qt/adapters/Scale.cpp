@@ -23,6 +23,8 @@ int Scale::Percent() { return Zoom(); }
 
 void Scale::SetPercent(int percent) { Zoom() = std::clamp(percent, kLeastPercent, kMostPercent); }
 
+void Scale::SetDrawing(int percent) { Zoom() = percent; }
+
 int Scale::Px(long twips) {
   return static_cast<int>(
       std::lround(static_cast<double>(twips) * Zoom() / (kWhole * Runtime::kTwipsPerPixel)));

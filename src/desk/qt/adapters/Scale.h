@@ -19,6 +19,9 @@ class Scale {
   /// A value outside the limits is brought inside.
   static void SetPercent(int percent);
 
+  /// For drawing a form elsewhere than on the screen: any value, to be taken back afterwards.
+  static void SetDrawing(int percent);
+
   static int Px(long twips);
   static long Twips(int pixels);
 

@@ -5,6 +5,7 @@
 #include <QSpinBox>
 
 #include "desk/qt/adapters/Scale.h"
+#include "host/services/IPrinter.h"
 
 namespace quillon {
 
@@ -14,26 +15,51 @@ constexpr int kMostCopies = 99;
 
 }  // namespace
 
-PrintDialog::PrintDialog(const PrintSetup& setup, const std::vector<std::string>& printers, QWidget* parent)
-    : DeskDialog(QStringLiteral("Print"), parent), printer_(new QComboBox(this)) {
-  Content().addWidget(new QLabel(QStringLiteral("Printer"), this));
-  printer_->setAccessibleName(QStringLiteral("Printer"));
-  printer_->setMinimumWidth(Scale::Px(5400));
-  for (const std::string& name : printers) printer_->addItem(QString::fromStdString(name));
-  printer_->addItem(QStringLiteral("PDF file"), true);
-  printer_->setCurrentIndex(std::max(0, printer_->findText(QString::fromStdString(setup.PrinterObj))));
-  Content().addWidget(printer_);
-  from_ = AddNumber(QStringLiteral("From page"), 1, setup.MaxPage, setup.PageFrom);
-  to_ = AddNumber(QStringLiteral("To page"), 1, setup.MaxPage, std::min(setup.PageTo, setup.MaxPage));
-  copies_ = AddNumber(QStringLiteral("Copies"), 1, kMostCopies, setup.Copies);
+PrintDialog::PrintDialog(const PrintSetup& setup, const std::vector<PrinterDevice>& printers, QWidget* parent)
+    : DeskDialog(QStringLiteral("Print"), parent), printer_(AddChoice(QStringLiteral("Printer"))) {
+  printer_->setMinimumWidth(Scale::Px(3900));
+  for (const PrinterDevice& each : printers) printer_->addItem(QString::fromStdString(each.DeviceName));
+  const QString offered = setup.PrinterObj ? QString::fromStdString(setup.PrinterObj->DeviceName) : QString();
+  printer_->setCurrentIndex(std::max(0, printer_->findText(offered)));
+  if (setup.MaxPage > 1) {
+    from_ = AddNumber(QStringLiteral("From page"), setup.MaxPage, setup.PageFrom);
+    to_ = AddNumber(QStringLiteral("To page"), setup.MaxPage, setup.PageTo);
+    if (setup.OE != "X") {
+      sides_ = AddChoice(QStringLiteral("Pages"));
+      sides_->addItem(QStringLiteral("All pages"), QString());
+      sides_->addItem(QStringLiteral("Odd pages"), QStringLiteral("O"));
+      sides_->addItem(QStringLiteral("Even pages"), QStringLiteral("E"));
+      sides_->setCurrentIndex(std::max(0, sides_->findData(QString::fromStdString(setup.OE))));
+    }
+  }
+  if (setup.Copies > 0) copies_ = AddNumber(QStringLiteral("Copies"), kMostCopies, setup.Copies);
+  if (setup.Color != "X") {
+    color_ = AddChoice(QStringLiteral("Colour"));
+    color_->addItem(QStringLiteral("In colour"), IPrinter::kColor);
+    color_->addItem(QStringLiteral("Black and white"), IPrinter::kMonochrome);
+    color_->setCurrentIndex(std::max(0, color_->findData(setup.ColorMode)));
+  }
+  const bool across = setup.Orientation == IPrinter::kLandscape;
+  Content().addWidget(new QLabel(
+      across ? QStringLiteral("Paper: A4, landscape") : QStringLiteral("Paper: A4, upright"), this));
   AddOkCancel();
   printer_->setFocus();
 }
 
-QSpinBox* PrintDialog::AddNumber(const QString& caption, int least, int most, int value) {
+QComboBox* PrintDialog::AddChoice(const QString& caption) {
+  auto* const line = new QHBoxLayout;
+  auto* const choice = new QComboBox(this);
+  choice->setAccessibleName(caption);
+  line->addWidget(new QLabel(caption, this), 1);
+  line->addWidget(choice);
+  Content().addLayout(line);
+  return choice;
+}
+
+QSpinBox* PrintDialog::AddNumber(const QString& caption, int most, int value) {
   auto* const line = new QHBoxLayout;
   auto* const number = new QSpinBox(this);
-  number->setRange(least, std::max(least, most));
+  number->setRange(1, most);
   number->setValue(value);
   number->setAccessibleName(caption);
   line->addWidget(new QLabel(caption, this), 1);
@@ -43,17 +69,21 @@ QSpinBox* PrintDialog::AddNumber(const QString& caption, int least, int most, in
 }
 
 bool PrintDialog::Check() {
-  if (from_->value() <= to_->value()) return true;
+  if (from_ == nullptr || from_->value() <= to_->value()) return true;
   ShowFault(QStringLiteral("The first page can't be behind the last one"));
   from_->setFocus();
   return false;
 }
 
 void PrintDialog::TakeInto(PrintSetup& setup) const {
-  setup.PrinterObj = printer_->currentData().toBool() ? std::string() : printer_->currentText().toStdString();
-  setup.PageFrom = from_->value();
-  setup.PageTo = to_->value();
-  setup.Copies = copies_->value();
+  setup.PrinterObj = PrinterDevice{printer_->currentText().toStdString()};
+  if (from_ != nullptr) {
+    setup.PageFrom = from_->value();
+    setup.PageTo = to_->value();
+  }
+  if (sides_ != nullptr) setup.OE = sides_->currentData().toString().toStdString();
+  if (copies_ != nullptr) setup.Copies = copies_->value();
+  if (color_ != nullptr) setup.ColorMode = color_->currentData().toInt();
 }
 
 }  // namespace quillon

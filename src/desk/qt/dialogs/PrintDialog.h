@@ -8,10 +8,11 @@ class QSpinBox;
 
 namespace quillon {
 
-/// Asks where a job goes, which pages and how many copies.
+/// Asks where a job goes and, as far as its caller can use them, which pages, how many copies and whether in
+/// colour.
 class PrintDialog : public DeskDialog {
  public:
-  PrintDialog(const PrintSetup& setup, const std::vector<std::string>& printers, QWidget* parent);
+  PrintDialog(const PrintSetup& setup, const std::vector<PrinterDevice>& printers, QWidget* parent);
 
   void TakeInto(PrintSetup& setup) const;
 
@@ -19,12 +20,15 @@ class PrintDialog : public DeskDialog {
   bool Check() override;
 
  private:
-  QSpinBox* AddNumber(const QString& caption, int least, int most, int value);
+  QComboBox* AddChoice(const QString& caption);
+  QSpinBox* AddNumber(const QString& caption, int most, int value);
 
   QComboBox* printer_;
-  QSpinBox* from_;
-  QSpinBox* to_;
-  QSpinBox* copies_;
+  QSpinBox* from_ = nullptr;
+  QSpinBox* to_ = nullptr;
+  QComboBox* sides_ = nullptr;
+  QSpinBox* copies_ = nullptr;
+  QComboBox* color_ = nullptr;
 };
 
 }  // namespace quillon

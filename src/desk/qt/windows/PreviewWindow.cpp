@@ -119,18 +119,24 @@ void PreviewWindow::GoToPage(int step) {
 
 void PreviewWindow::Print() {
   PrintSetup setup;
-  setup.MaxPage = static_cast<int>(pages_->Pages());
+  setup.MaxPage = setup.PageTo = static_cast<int>(pages_->Pages());
+  setup.Copies = 1;
+  setup.OE.clear();
+  setup.Orientation = report_.Sheets.Orientation;
   PrintDialog dialog(setup, Spooler::Printers(), this);
   if (dialog.exec() != QDialog::Accepted) return;
   dialog.TakeInto(setup);
   try {
     const std::string file = FileOf(setup);
-    if (setup.PrinterObj.empty()) {
+    const std::string& printer = setup.PrinterObj->DeviceName;
+    if (printer == IPrinter::kPdfFile) {
       SavePages(file);
       return;
     }
-    for (int copy = 0; copy < setup.Copies; ++copy) Spooler::Send(file, setup.PrinterObj);
-    Tell(QStringLiteral("Sent to %1").arg(QString::fromStdString(setup.PrinterObj)));
+    Spooler::Send(
+        file,
+        {.Printer = printer, .Copies = setup.Copies, .Monochrome = setup.ColorMode == IPrinter::kMonochrome});
+    Tell(QStringLiteral("Sent to %1").arg(QString::fromStdString(printer)));
   } catch (const HostError& error) {
     Tell(QString::fromStdString(error.what()));
   }
@@ -138,10 +144,14 @@ void PreviewWindow::Print() {
 
 std::string PreviewWindow::FileOf(const PrintSetup& setup) const {
   const auto count = static_cast<int>(report_.Sheets.Pages.size());
-  if (setup.PageFrom <= 1 && setup.PageTo >= count) return report_.File;
+  if (setup.OE.empty() && setup.PageFrom <= 1 && setup.PageTo >= count) return report_.File;
   ReportPages part = report_.Sheets;
-  part.Pages.assign(report_.Sheets.Pages.begin() + (setup.PageFrom - 1),
-                    report_.Sheets.Pages.begin() + std::min(setup.PageTo, count));
+  part.Pages.clear();
+  for (int page = setup.PageFrom; page <= std::min(setup.PageTo, count); ++page) {
+    const bool wanted = setup.OE.empty() || (page % 2 == 1) == (setup.OE == "O");
+    if (wanted) part.Pages.push_back(report_.Sheets.Pages[static_cast<std::size_t>(page - 1)]);
+  }
+  if (part.Pages.empty()) throw HostError("There is no such page");
   const std::filesystem::path folder = std::filesystem::path(report_.File).parent_path();
   return ReportPainter::WritePdf(part, folder.string(), "pages");
 }

@@ -12,6 +12,7 @@
 #include "desk/qt/adapters/Acts.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/windows/DeskArea.h"
+#include "desk/qt/windows/FormPicture.h"
 #include "desk/qt/windows/FormView.h"
 #include "host/forms/ScreenForm.h"
 #include "host/services/ISession.h"
@@ -94,7 +95,9 @@ void QtRuntime::SetClipboardText(const std::string& text) {
   QApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
-std::vector<std::string> QtRuntime::Printers() const { return Spooler::Printers(); }
+std::vector<PrinterDevice> QtRuntime::Printers() const { return Spooler::Printers(); }
+
+void QtRuntime::PrintForm(Form& form) { FormPicture::Print(form.Self(), printer_); }
 
 void QtRuntime::ShowView(Form& form) {
   FormView*& view = views_[&form];

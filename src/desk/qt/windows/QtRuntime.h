@@ -58,7 +58,8 @@ class QtRuntime : public Runtime, private PrintObserver {
   std::string ClipboardText() const override;
   void SetClipboardText(const std::string& text) override;
   IPrinter& Printer() override { return printer_; }
-  std::vector<std::string> Printers() const override;
+  std::vector<PrinterDevice> Printers() const override;
+  void PrintForm(Form& form) override;
   int AskMessage(const MessageRequest& request) override;
   bool AskInput(const InputRequest& request, std::string& reply) override;
   bool AskFile(const FileRequest& request, std::string& path) override;

@@ -1,0 +1,68 @@
+#include "desk/print/PdfPrinter.h"
+#include "desk/qt/windows/FormPicture.h"
+#include "host/controls/host_controls.h"
+#include "tests/qt/FormTest.h"
+#include "tests/support/PdfReader.h"
+
+namespace quillon {
+namespace {
+
+class PrintFormTest : public FormTest {
+ protected:
+  void SetUp() override {
+    if (!PdfReader::IsInstalled()) GTEST_SKIP() << "pdftotext and pdftoppm are not installed";
+  }
+};
+
+/// A page as a screen lays it out for paper.
+class frmPage : public Form {
+ public:
+  frmPage() : Form("frmPage") {
+    Width = 20490;
+    Height = 10500;
+    lblFirm.Caption = "Sharda";
+    lblFirm.Move(0, 0, 11500, 345);
+    lblPeriod.Caption = "Konkan";
+    lblPeriod.Font = {"Arial", 12, true};
+    lblPeriod.Move(5750, 7600, 5750, 400);
+    lblHidden.Caption = "Hidden";
+    lblHidden.Visible = false;
+    Graph.Move(10, 700, 11480, 6800);
+    Graph.DataGrid.SetSize(2, 1, 2, 1);
+    Graph.DataGrid.SetData(1, 1, 123456);
+    Graph.DataGrid.SetRowLabel(1, 1, "Apr");
+  }
+
+  Label lblFirm{*this, "lblFirm"};
+  Label lblPeriod{*this, "lblPeriod"};
+  Label lblHidden{*this, "lblHidden"};
+  MSChart Graph{*this, "Graph"};
+};
+
+TEST_F(PrintFormTest, AFormGoesOnALandscapePageAsTextsAndVectors) {
+  const auto form = std::make_shared<frmPage>();
+  runtime_.Show(form);
+  PdfPrinter printer(folder_.Path().string());
+  printer.Orientation = IPrinter::kLandscape;
+  FormPicture::Print(form, printer);
+
+  const std::string file = folder_.File("print-1.pdf");
+  const PdfReader pdf(file);
+  ASSERT_EQ(pdf.Pages().size(), 1u);
+  EXPECT_NEAR(pdf.Pages()[0].width, 16838, 20);
+  constexpr double kNear = 60;  // the frame that a label keeps within its place
+  EXPECT_NEAR(pdf.Find("Sharda").left, 0, kNear);
+  const PdfReader::Word& period = pdf.Find("Konkan");
+  EXPECT_NEAR(period.left, 5750, kNear);
+  EXPECT_NEAR(period.right - period.left,
+              static_cast<double>(runtime_.TextWidth({"Arial", 12, true}, "Konkan")), 12);
+  EXPECT_GE(period.top, 7500);
+  EXPECT_LE(period.bottom, 8050);
+  EXPECT_FALSE(pdf.FindAll("Apr").empty()) << "what the chart says";
+  EXPECT_TRUE(pdf.FindAll("Hidden").empty());
+  EXPECT_EQ(pdf.Ink(1, 11600, 0, 5000, 11000), 0) << "no surface, no edge";
+  EXPECT_EQ(PdfReader::Run("pdfimages -list '" + file + "' | tail -n +3"), "") << "no picture";
+}
+
+}  // namespace
+}  // namespace quillon
