@@ -61,6 +61,8 @@ TEST_F(PrintFormTest, AFormGoesOnALandscapePageAsTextsAndVectors) {
   EXPECT_FALSE(pdf.FindAll("Apr").empty()) << "what the chart says";
   EXPECT_TRUE(pdf.FindAll("Hidden").empty());
   EXPECT_EQ(pdf.Ink(1, 11600, 0, 5000, 11000), 0) << "no surface, no edge";
+  const std::string surface = PdfReader::Run("pdftoppm -gray -r 20 -x 200 -y 20 -W 1 -H 1 '" + file + "'");
+  EXPECT_EQ(surface.back(), '\xFF') << "a form without a colour of its own leaves the paper white";
   EXPECT_EQ(PdfReader::Run("pdfimages -list '" + file + "' | tail -n +3"), "") << "no picture";
 }
 

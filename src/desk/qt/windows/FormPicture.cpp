@@ -45,6 +45,7 @@ void FormPicture::Print(const FormPtr& form, PdfPrinter& printer) {
   QWidget paper;  // a form on it is no window and has no edge
   FormView view(form, &paper);
   view.Settle();
+  view.setAutoFillBackground(form->BackColor != Control::kDefaultColor);
   QWidget::RenderFlags parts = QWidget::DrawChildren;
   if (form->BackColor != Control::kDefaultColor) parts |= QWidget::DrawWindowBackground;
   // The painter counts the dots of the screen, in which the widgets' fonts are measured.
