@@ -1,3 +1,8 @@
+#include <csignal>
+#include <filesystem>
+#include <sys/resource.h>
+
+#include "desk/print/CsvFile.h"
 #include "desk/print/PdfPrinter.h"
 #include "desk/qt/windows/FormPicture.h"
 #include "host/controls/host_controls.h"
@@ -27,6 +32,7 @@ class frmPage : public Form {
     lblPeriod.Move(5750, 7600, 5750, 400);
     lblHidden.Caption = "Hidden";
     lblHidden.Visible = false;
+    Letter.Visible = false;
     Graph.Move(10, 700, 11480, 6800);
     Graph.DataGrid.SetSize(2, 1, 2, 1);
     Graph.DataGrid.SetData(1, 1, 123456);
@@ -37,6 +43,7 @@ class frmPage : public Form {
   Label lblPeriod{*this, "lblPeriod"};
   Label lblHidden{*this, "lblHidden"};
   MSChart Graph{*this, "Graph"};
+  MSHFlexGrid Letter{*this, "Letter"};
 };
 
 TEST_F(PrintFormTest, AFormGoesOnALandscapePageAsTextsAndVectors) {
@@ -64,6 +71,40 @@ TEST_F(PrintFormTest, AFormGoesOnALandscapePageAsTextsAndVectors) {
   const std::string surface = PdfReader::Run("pdftoppm -gray -r 20 -x 200 -y 20 -W 1 -H 1 '" + file + "'");
   EXPECT_EQ(surface.back(), '\xFF') << "a form without a colour of its own leaves the paper white";
   EXPECT_EQ(PdfReader::Run("pdfimages -list '" + file + "' | tail -n +3"), "") << "no picture";
+}
+
+/// No file grows beyond so many bytes while it lives, as on a disk that is full.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) {
+    signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit full{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+ private:
+  rlimit before_{};
+};
+
+TEST_F(PrintFormTest, WhatADiskCannotHoldIsToldAndLeavesNothing) {
+  const auto form = std::make_shared<frmPage>();
+  runtime_.Show(form);
+  const std::filesystem::path folder = folder_.Path() / "out";
+  std::filesystem::create_directory(folder);
+  PdfPrinter printer(folder.string());
+  {
+    const FullDisk full(200);
+    EXPECT_THROW(FormPicture::Save(form, (folder / "form.png").string()), HostError);
+    EXPECT_THROW(FormPicture::Print(form, printer), HostError);
+    form->Letter.Rows = 20;
+    for (int row = 1; row < 20; ++row) form->Letter.SetTextMatrix(row, 0, "a long narration");
+    EXPECT_THROW(CsvFile::Write(form->Letter, (folder / "report.csv").string()), HostError);
+  }
+  for (const auto& left : std::filesystem::directory_iterator(folder)) ADD_FAILURE() << left.path();
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ void CsvFile::Write(const GridModel& grid, const std::string& file) {
   const bool written =
       out.open(QIODevice::WriteOnly) &&
       out.write(text.data(), static_cast<qint64>(text.size())) == static_cast<qint64>(text.size()) &&
-      out.commit();
+      out.flush() && out.commit();
   if (!written)
     throw HostError("The file " + file + " cannot be written: " + out.errorString().toStdString());
 }

@@ -48,7 +48,11 @@ OutputFile::OutputFile(const std::string& folder, std::string stem, std::string 
 }
 
 OutputFile::~OutputFile() {
-  if (file_) file_->remove();
+  // By its name: a file whose end cannot be written to a full disk refuses to be removed itself.
+  if (!file_) return;
+  const QString name = file_->fileName();
+  file_.reset();
+  QFile::remove(name);
 }
 
 std::string OutputFile::Finish() {

@@ -62,8 +62,9 @@ void FormPicture::Save(const FormPtr& form, const std::string& file) {
   buffer.open(QIODevice::WriteOnly);
   const bool drawn = Draw(form).save(&buffer, QFileInfo(name).suffix().toLatin1().constData());
   QSaveFile out(name);
-  // A picture that cannot be written whole leaves nothing.
-  if (!drawn || !out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit())
+  // A picture that cannot be written whole leaves nothing; commit alone does not hear of a disk that is full.
+  if (!drawn || !out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.flush() ||
+      !out.commit())
     throw HostError("The picture " + file + " cannot be written");
 }
 

@@ -168,7 +168,8 @@ QString PreviewWindow::AskName(const QString& title, const QString& suffix) {
 void PreviewWindow::Write(const QString& file, const QByteArray& bytes) {
   if (file.isEmpty()) return;
   QSaveFile out(file);
-  const bool written = out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size() && out.commit();
+  const bool written =
+      out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size() && out.flush() && out.commit();
   Tell(written ? QStringLiteral("Saved as %1").arg(file)
                : QStringLiteral("%1 cannot be written: %2").arg(file, out.errorString()));
 }
