@@ -79,7 +79,7 @@ TEST_F(OnAServer, ALockOfAnotherDeskIsToldAndTheDateStaysInTheEditor) {
   EXPECT_FALSE(EditCell(Grid(), 3, 27, "13"));
   const std::vector<std::string> errors = Errors();
   ASSERT_EQ(errors.size(), 1U);
-  EXPECT_NE(errors[0].find("lock"), std::string::npos) << errors[0];
+  EXPECT_NE(errors[0].find("Another user"), std::string::npos) << errors[0];
   EXPECT_EQ(Grid().EditBox.Text(), "13");
   EXPECT_EQ(Grid().TextMatrix(3, 27), "");
   theirs.CommitTrans();

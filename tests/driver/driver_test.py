@@ -43,6 +43,7 @@ class Driver(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.folder = tempfile.TemporaryDirectory()
+        os.environ["XDG_CACHE_HOME"] = cls.folder.name + "/cache"
         cls.sample = Path(cls.folder.name) / "sample"
         made = subprocess.run([SAMPLE, cls.sample, "--vouchers", "150", "--years", "2023,2024"], capture_output=True)
         assert made.returncode == 0, made.stderr
@@ -170,8 +171,18 @@ class Driver(unittest.TestCase):
         self.assertEqual(code, 0, (lines, errors))
         self.assertEqual(lines[-1]["rows"], [[1]])
 
+    def test_programs_tell_of_themselves(self):
+        for name in ("desk", "drive", "tour", "sample"):
+            program = str(Path(DRIVE).with_name("quillon-" + name))
+            if not os.path.exists(program):
+                continue
+            for option, begin in (("--help", f"quillon-{name} "), ("--version", f"quillon-{name} ")):
+                run = subprocess.run([program, option], capture_output=True, text=True, timeout=60)
+                self.assertEqual((run.returncode, run.stdout[: len(begin)]), (0, begin))
+
     def test_input_that_is_no_json(self):
-        for text in ("hello", "[1]", '{"cmd":"forms"', '"forms"'):
+        deep = '{"cmd":"forms","x":' + "[" * 200000 + "]" * 200000 + "}"
+        for text in (deep, "hello", "[1]", '{"cmd":"forms"', '"forms"'):
             code, lines, _ = self.drive(f'{{"cmd":"forms"}}\n\n# a remark\n{text}\n', "--firm", self.firm)
             self.assertEqual(code, 2, text)
             self.assertEqual([(line["done"], line["ok"]) for line in lines], [(1, True), (2, False)])
@@ -263,7 +274,9 @@ class Driver(unittest.TestCase):
         self.assertEqual([line["rows"] for line in lines], [[["2025-03-31"]]] * 12)
         if not shutil.which("gfix"):
             self.skipTest("gfix is not installed")
-        check = subprocess.run(["gfix", "-v", "-full", self.firm + "/2024.fdb"], capture_output=True, text=True)
+        engine = Path(os.environ["XDG_CACHE_HOME"]) / "quillon/firebird"
+        check = subprocess.run(["gfix", "-v", "-full", self.firm + "/2024.fdb"], capture_output=True, text=True,
+                               env=os.environ | {"FIREBIRD": str(engine), "FIREBIRD_LOCK": self.own.name})
         self.assertEqual((check.returncode, check.stdout + check.stderr), (0, ""))
 
 

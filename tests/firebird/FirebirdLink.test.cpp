@@ -5,6 +5,7 @@
 
 #include "host/data/CDataSet.h"
 #include "host/values/Errors.h"
+#include "host/values/Text.h"
 #include "tests/support/TempFolder.h"
 
 namespace quillon {
@@ -287,10 +288,12 @@ TEST_F(LinkTest, ARefusedStatementSaysWhatWhyAndWhich) {
   const DbError unknown = ErrorOf([&] { link_->Execute(wrong); });
   EXPECT_EQ(unknown.SqlState(), "42S02");
   EXPECT_EQ(unknown.Statement(), wrong);
-  EXPECT_NE(std::string(unknown.what()).find("ENTRY"), std::string::npos);
+  EXPECT_NE(unknown.Details().find("ENTRY"), std::string::npos);
+  EXPECT_NE(unknown.Details().find(wrong), std::string::npos);
   EXPECT_EQ(recorder.Lines.back(), "2024|" + wrong + "|0|failed");
   const DbError twice = ErrorOf([&] { link_->Execute("insert into narrations values (1,'again')"); });
   EXPECT_EQ(twice.SqlState(), "23000");
+  EXPECT_STREQ(twice.what(), "There is a record with this key already.");
   CDataSet set;
   EXPECT_EQ(ErrorOf([&] { set.Open("select 1/0 from narrations", *link_); }).SqlState(), "22012");
   EXPECT_EQ(set.State(), 0);
@@ -302,7 +305,22 @@ TEST_F(LinkTest, ARefusedStatementSaysWhatWhyAndWhich) {
                 .SqlState()
                 .substr(0, 2),
             "08");
+  for (const char* sql : {"commit", "rollback", "commit retain", "set transaction"}) {
+    EXPECT_THROW(link_->Execute(sql), HostError) << sql;
+    link_->BeginTrans();
+    link_->Execute("Update narrations set narration='x' where nar=1");
+    EXPECT_THROW(link_->Execute(sql), HostError) << sql;
+    link_->RollbackTrans();
+    EXPECT_EQ(link_->Lookup("narrations", "narration", "nar=1").ToText(), "By cash") << sql;
+  }
   link_->SetObserver(nullptr);
+}
+
+TEST_F(LinkTest, ALongTextIsStoredWholeInAStatement) {
+  const std::string letter = "it's " + text::ReplaceAll(std::string(100000, 'x'), "xxxx", "ळ''x");
+  link_->Execute("Update or insert into notes (who,what) values ('Asha','" +
+                 text::ReplaceAll(letter, "'", "''") + "') matching (who)");
+  EXPECT_EQ(link_->Lookup("notes", "what", "who='Asha'").ToText(), letter);
 }
 
 TEST_F(LinkTest, StatementsThatDifferInTheirValuesMeanWhatTheirTextsSay) {

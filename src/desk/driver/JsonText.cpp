@@ -8,6 +8,27 @@ namespace quillon {
 
 namespace {
 
+constexpr int kDeepest = 100;
+
+/// What takes a value apart or lets it go does so level by level, so a deep one would end the process.
+bool IsTooDeep(const std::string& line) {
+  int depth = 0;
+  bool quoted = false;
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    const char c = line[i];
+    if (quoted && c == '\\') {
+      ++i;
+    } else if (c == '"') {
+      quoted = !quoted;
+    } else if (!quoted && (c == '[' || c == '{')) {
+      if (++depth > kDeepest) return true;
+    } else if (!quoted && (c == ']' || c == '}')) {
+      --depth;
+    }
+  }
+  return false;
+}
+
 std::string FourDecimals(Amount amount) {
   const std::int64_t units = amount.Units();
   const std::uint64_t magnitude =
@@ -50,6 +71,10 @@ Variant FromJson(const Json& value) {
   Array items;
   for (const Json& item : value) items.push_back(FromJson(item));
   return items;
+}
+
+Json ParseLine(const std::string& line) {
+  return IsTooDeep(line) ? Json(Json::value_t::discarded) : Json::parse(line, nullptr, false);
 }
 
 std::string Line(const Json& value) { return value.dump(-1, ' ', false, Json::error_handler_t::replace); }

@@ -19,6 +19,9 @@ Json ToDatabaseJson(const Variant& value);
 /// A value from a script; a list becomes an array. Throws HostError for an object.
 Variant FromJson(const Json& value);
 
+/// The JSON of a line; a discarded value where it is none, or nested deeper than 100.
+Json ParseLine(const std::string& line);
+
 /// One line, with whatever is no UTF-8 replaced.
 std::string Line(const Json& value);
 

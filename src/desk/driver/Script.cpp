@@ -6,10 +6,13 @@
 #include "host/controls/CPeriod.h"
 #include "host/controls/host_controls.h"
 #include "host/forms/WindowHandle.h"
+#include "host/values/ErrorText.h"
 
 namespace quillon {
 
 namespace {
+
+constexpr std::size_t kShown = 200;
 
 /// Looking and laying answers ready leaves a menu open; every other act of a person closes it.
 bool LeavesMenuOpen(const std::string& name) {
@@ -61,9 +64,11 @@ bool Script::Next() {
     if (line.find_first_not_of(" \t") == std::string::npos || line[line.find_first_not_of(" \t")] == '#')
       continue;
     const int number = ++count_;
-    const Json command = Json::parse(line, nullptr, false);
+    const Json command = ParseLine(line);
     if (!command.is_object()) {
-      log_.Write({{"done", number}, {"ok", false}, {"error", "This line is no JSON object: " + line}});
+      log_.Write({{"done", number},
+                  {"ok", false},
+                  {"error", "This line is no JSON object: " + line.substr(0, kShown)}});
       status_ = kUnusable;
       stopped_ = true;
       return false;
@@ -89,6 +94,7 @@ void Script::CarryOut(int number, const Json& command) {
   } catch (const std::exception& error) {
     done["ok"] = false;
     done["error"] = error.what();
+    if (const std::string details = ErrorDetails(error); !details.empty()) done["details"] = details;
   }
   if (!done["ok"].get<bool>()) status_ = std::max(status_, kRefused);
   log_.Write(done);

@@ -7,6 +7,7 @@
 #include "desk/driver/Script.h"
 #include "desk/qt/adapters/Theme.h"
 #include "desk/shell/RuntimeFolder.h"
+#include "host/values/AskedAbout.h"
 
 namespace {
 
@@ -70,6 +71,7 @@ int Drive(const Arguments& arguments, std::istream& in) {
 }  // namespace
 
 int main(int count, char** words) {
+  if (quillon::AskedAbout(count, words, "quillon-drive", QUILLON_VERSION, kUsage)) return 0;
   Arguments arguments;
   if (!Read(count, words, arguments)) {
     std::cerr << kUsage;

@@ -1,7 +1,6 @@
 #include "desk/firebird/FirebirdLink.h"
 
 #include "desk/firebird/FirebirdRows.h"
-#include "desk/firebird/FirebirdStatus.h"
 #include "desk/firebird/LiftedSql.h"
 #include "desk/firebird/QueryText.h"
 #include "host/values/Errors.h"
@@ -32,8 +31,8 @@ FirebirdLink::~FirebirdLink() { Drop(); }
 void FirebirdLink::Attach() {
   if (attachment_) return;
   if (inTransaction_) {
-    throw DbError("The connection was lost in the middle of a transaction; nothing of it was stored", "08006",
-                  "");
+    throw DbError("The connection was lost in the middle of a transaction; nothing of it was stored.",
+                  "08006", "", "", DbError::Reason::kLost);
   }
   attachment_ = FirebirdAttachment::Attach(address_);
 }
@@ -51,7 +50,7 @@ void FirebirdLink::Tell(const std::string& sql, std::int64_t rows, const std::st
 }
 
 void FirebirdLink::NoteFailure(const std::string& sql, const DbError& error) {
-  if (FirebirdStatus::IsConnectionLost(error.SqlState())) Drop();
+  if (error.Why() == DbError::Reason::kLost) Drop();
   Tell(sql, 0, error.what());
 }
 
@@ -63,7 +62,7 @@ auto FirebirdLink::Send(const std::string& sql, Action action) {
   } catch (const DbError& error) {
     NoteFailure(sql, error);
     if (error.Statement() == sql) throw;
-    throw DbError(error.what(), error.SqlState(), sql);
+    throw DbError(error.what(), error.SqlState(), sql, error.EngineText(), error.Why());
   } catch (const HostError& error) {
     Tell(sql, 0, error.what());
     throw;
@@ -108,7 +107,7 @@ std::optional<std::int64_t> FirebirdLink::ExecuteLifted(const std::string& sql) 
     statement = &Prepared(lifted->Shape);
   } catch (const DbError& error) {
     // The text itself tells what is wrong with it.
-    if (FirebirdStatus::IsConnectionLost(error.SqlState())) throw;
+    if (error.Why() == DbError::Reason::kLost) throw;
     return {};
   }
   const std::optional<std::vector<Variant>> values = lifted->ValuesFor(*statement);

@@ -31,6 +31,15 @@ FirebirdStatement::FirebirdStatement(FirebirdTransaction& transaction, std::stri
   statement_ = (*attachment_)
                    ->prepare(&status, transaction.Handle(), static_cast<unsigned>(sql_.size()), sql_.data(),
                              SQL_DIALECT_V6, kWanted);
+  const unsigned type = statement_->getType(&status);
+  if (type != isc_info_sql_stmt_start_trans && type != isc_info_sql_stmt_commit &&
+      type != isc_info_sql_stmt_rollback) {
+    return;
+  }
+  // The engine would end the transaction under the link that keeps it.
+  Firebird::CheckStatusWrapper silent = SilentStatus();
+  statement_->free(&silent);
+  throw HostError("A transaction is begun and ended by the link, not by a statement: " + sql_);
 }
 
 FirebirdStatement::~FirebirdStatement() {

@@ -12,9 +12,6 @@ class FirebirdStatus final : public Firebird::BaseStatusWrapper<FirebirdStatus> 
   explicit FirebirdStatus(const std::string& statement);
   static void checkException(FirebirdStatus* status);
 
-  /// Whether errors of this class mean that the connection is gone.
-  static bool IsConnectionLost(const std::string& sqlState);
-
  private:
   const std::string& statement_;
 };

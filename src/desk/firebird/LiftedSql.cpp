@@ -12,8 +12,6 @@ namespace quillon {
 
 namespace {
 
-constexpr std::size_t kLongest = 2000;
-
 enum class Token { kEnd, kWord, kNumber, kText, kSign, kStrange };
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -136,6 +134,8 @@ std::optional<Variant> TextFor(const FirebirdField& field, const std::string& va
     const Date date = value.size() == 10 && value[4] == '-' ? Date::Parse(value) : Date();
     return date.IsEmpty() ? std::nullopt : std::optional<Variant>(date);
   }
+  // The engine takes no literal beyond 16,383 characters, but a blob of any length.
+  if (field.Holds == FirebirdField::Kind::kBlob) return value;
   if (field.Holds != FirebirdField::Kind::kText || field.Type != SQL_VARYING) return {};
   return value.size() <= field.Length / 4 ? std::optional<Variant>(value) : std::nullopt;
 }
@@ -146,7 +146,7 @@ std::optional<Variant> TextFor(const FirebirdField& field, const std::string& va
 /// or not.
 std::optional<LiftedSql> LiftedSql::Of(const std::string& sql) {
   Reader reader(sql);
-  if (sql.size() > kLongest || !Starts(reader)) return {};
+  if (!Starts(reader)) return {};
   LiftedSql lifted;
   Places places;
   std::size_t copied = 0;

@@ -26,8 +26,9 @@ std::shared_ptr<FirebirdLink> OpenDatabase(const FirebirdAddress& address, const
   try {
     link = FirebirdLink::Open(address, label);
   } catch (const DbError& error) {
-    const char* why = address.IsServer() ? " cannot be opened on its server.\n" : " is damaged or in use.\n";
-    throw DbError(what + why + error.what(), error.SqlState(), error.Statement());
+    const char* why = address.IsServer() ? " cannot be opened on its server. " : " is damaged or in use. ";
+    throw DbError(what + why + error.what(), error.SqlState(), error.Statement(), error.EngineText(),
+                  error.Why());
   }
   Schema::Check(*link, what);
   return link;

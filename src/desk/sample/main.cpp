@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "desk/sample/SampleFirm.h"
+#include "host/values/AskedAbout.h"
 #include "host/values/Errors.h"
 #include "host/values/Text.h"
 
@@ -64,6 +65,7 @@ Command CommandOf(int count, char** words) {
 }  // namespace quillon
 
 int main(int count, char** words) {
+  if (quillon::AskedAbout(count, words, "quillon-sample", QUILLON_VERSION, quillon::kUsage)) return 0;
   quillon::Command command;
   try {
     command = quillon::CommandOf(count, words);

@@ -12,6 +12,7 @@
 #include "desk/qt/windows/QtRuntime.h"
 #include "desk/shell/RuntimeFolder.h"
 #include "desk/tour/Tour.h"
+#include "host/values/AskedAbout.h"
 
 namespace {
 
@@ -60,6 +61,7 @@ int Walk(const QStringList& words) {
 }  // namespace
 
 int main(int count, char** words) {
+  if (quillon::AskedAbout(count, words, "quillon-tour", QUILLON_VERSION, kUsage)) return 0;
   if (count < 4 || count > 5) {
     std::fputs(kUsage, stderr);
     return 2;

@@ -7,11 +7,14 @@
 
 namespace quillon {
 
-/// What an error tells the user, with the statement where the database refused one.
-inline std::string ErrorText(const std::exception& error) {
+/// What an error tells the user.
+inline std::string ErrorText(const std::exception& error) { return error.what(); }
+
+/// What stands behind it, for "Details": the engine's text and the statement; empty where there is no more to
+/// say.
+inline std::string ErrorDetails(const std::exception& error) {
   const auto* refused = dynamic_cast<const DbError*>(&error);
-  const std::string statement = refused != nullptr ? refused->Statement() : "";
-  return error.what() + (statement.empty() ? "" : "\nStatement: " + statement);
+  return refused != nullptr ? refused->Details() : std::string();
 }
 
 }  // namespace quillon

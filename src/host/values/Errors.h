@@ -38,11 +38,26 @@ class MissingFontError : public HostError {
   std::string fontName_;
 };
 
-/// The database refused a statement or the connection is gone.
+/// The database refused a statement or the connection is gone. what() tells it in the user's words, Details
+/// in the engine's.
 class DbError : public HostError {
  public:
-  DbError(const std::string& message, std::string sqlState, std::string statement)
-      : HostError(message), sqlState_(std::move(sqlState)), statement_(std::move(statement)) {}
+  /// What went wrong, for those who act on it.
+  enum class Reason {
+    kOther,
+    kConflict,  ///< Another one holds or has changed the record; the statement was undone whole.
+    kLost,      ///< The connection is gone, or the file cannot be read or written.
+    kDiskFull,
+    kDamaged,
+  };
+
+  DbError(const std::string& message, std::string sqlState, std::string statement,
+          std::string engineText = {}, Reason reason = Reason::kOther)
+      : HostError(message),
+        sqlState_(std::move(sqlState)),
+        statement_(std::move(statement)),
+        engineText_(std::move(engineText)),
+        reason_(reason) {}
 
   /// Five characters of the SQL standard, e.g. "40001" for a lock conflict, "08006" for a lost connection.
   const std::string& SqlState() const { return sqlState_; }
@@ -50,9 +65,21 @@ class DbError : public HostError {
   /// The statement as it was sent; empty where the failure belongs to none.
   const std::string& Statement() const { return statement_; }
 
+  /// What the engine said; empty where the desk found the fault itself.
+  const std::string& EngineText() const { return engineText_; }
+  Reason Why() const { return reason_; }
+
+  /// The engine's text and the statement, for whoever has to find the cause.
+  std::string Details() const {
+    const bool both = !engineText_.empty() && !statement_.empty();
+    return engineText_ + (both ? "\n" : "") + (statement_.empty() ? "" : "Statement: " + statement_);
+  }
+
  private:
   std::string sqlState_;
   std::string statement_;
+  std::string engineText_;
+  Reason reason_;
 };
 
 }  // namespace quillon

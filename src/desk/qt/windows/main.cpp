@@ -10,6 +10,7 @@
 #include "desk/qt/windows/DeskWindow.h"
 #include "desk/qt/windows/QtRuntime.h"
 #include "desk/shell/RuntimeFolder.h"
+#include "host/values/AskedAbout.h"
 
 namespace {
 
@@ -58,6 +59,7 @@ std::string PrintFolder() {
 }  // namespace
 
 int main(int count, char** words) {
+  if (quillon::AskedAbout(count, words, "quillon-desk", QUILLON_VERSION, kUsage)) return 0;
   quillon::SetRuntimeFolder();
   setenv("QT_FONT_DPI", "96", 0);  // the forms' fonts and twips must keep their proportion
   QApplication application(count, words);
