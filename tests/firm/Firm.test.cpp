@@ -7,6 +7,7 @@
 #include "desk/firm/Schema.h"
 #include "host/data/CDataSet.h"
 #include "host/values/Errors.h"
+#include "host/values/Text.h"
 #include "tests/support/FirebirdServer.h"
 #include "tests/support/TempFolder.h"
 
@@ -136,6 +137,15 @@ TEST_F(FirmTest, WhatCannotBeOpenedSaysWhy) {
     Write("firm.json", damaged);
     EXPECT_TRUE(Has(Refusal(), "firm.json is damaged")) << damaged << ": " << Refusal();
   }
+  const auto with = [&](const std::string& from, const std::string& to) {
+    return text::ReplaceAll(whole, from, to);
+  };
+  for (const std::string& strange :
+       {with("\"2024\"", "\"2024x\""), with("\"2024\"", "\"20244\""), with("2024-04-01", "2025-04-02"),
+        with("\"2024-04-01\"", "5"), with("\"2024.fdb\"", "[]"), with("\"common.fdb\"", "7")}) {
+    Write("firm.json", strange);
+    EXPECT_TRUE(Has(Refusal(), "firm.json is damaged")) << strange << ": " << Refusal();
+  }
   Write("firm.json", R"({"schema":2,"anything":"else"})");
   EXPECT_TRUE(Has(Refusal(), "newer version"));
   Write("firm.json", whole);
@@ -155,32 +165,158 @@ TEST_F(FirmTest, WhatCannotBeOpenedSaysWhy) {
   EXPECT_TRUE(Has(Refusal(), "2024.fdb was written by a newer version"));
 }
 
-TEST_F(FirmTest, AFirmThatCannotBeWrittenIsRefused) {
-  if (geteuid() != 0) GTEST_SKIP() << "only root can act as another user";
-  CreateFirm(Folder(), kDetails, {2024});
+/// What is done in a folder that cannot be written; root, who may write everywhere, acts as another user.
+template <class Act>
+void WithoutTheRight(const std::filesystem::path& folder, Act act) {
+  namespace fs = std::filesystem;
   FirebirdEngine::Prepare();
-  std::filesystem::permissions(folder_.Path(), std::filesystem::perms::all);
   constexpr uid_t kNobody = 65534;
-  ASSERT_EQ(seteuid(kNobody), 0);
-  const std::string refusal = Refusal();
-  const auto create = [&] { CreateFirm(Folder() / "inner", kDetails, {2024}); };
-  EXPECT_THROW(create(), HostError);
-  ASSERT_EQ(seteuid(0), 0);
-  EXPECT_TRUE(Has(refusal, "no permission to write")) << refusal;
+  const bool isRoot = geteuid() == 0;
+  fs::permissions(folder.parent_path(), fs::perms::all);
+  fs::permissions(folder, static_cast<fs::perms>(0555));
+  ASSERT_TRUE(!isRoot || seteuid(kNobody) == 0);
+  act();
+  ASSERT_TRUE(!isRoot || seteuid(0) == 0);
+  fs::permissions(folder, fs::perms::all);
 }
 
-TEST_F(FirmTest, EnginesThatDoNotKnowEachOtherAreKeptApart) {
+TEST_F(FirmTest, AFirmThatCannotBeWrittenIsRefused) {
+  CreateFirm(Folder(), kDetails, {2024});
+  std::filesystem::remove(File("firm.lock"));
+  std::string refusal;
+  std::string making;
+  WithoutTheRight(Folder(), [&] {
+    refusal = Refusal();
+    try {
+      CreateFirm(Folder() / "inner", kDetails, {2024});
+    } catch (const HostError& error) {
+      making = error.what();
+    }
+  });
+  EXPECT_TRUE(Has(refusal, "no permission to write")) << refusal;
+  EXPECT_TRUE(Has(making, "no permission to write")) << making;
+}
+
+TEST_F(FirmTest, AMakingThatFailsLeavesNothingBehind) {
+  std::filesystem::create_directory(Folder());
+  Write("2024.fdb", "somebody else's file");
+  EXPECT_THROW(CreateFirm(Folder(), kDetails, {2023, 2024}), HostError);
+  EXPECT_FALSE(std::filesystem::exists(File("common.fdb")));
+  EXPECT_FALSE(std::filesystem::exists(File("2023.fdb")));
+  std::filesystem::remove(File("2024.fdb"));
+  CreateFirm(Folder(), kDetails, {2023, 2024});
+  EXPECT_EQ(Refusal(), "opened");
+}
+
+TEST_F(FirmTest, AnotherUserOrMachineIsKeptOut) {
   CreateFirm(Folder(), kDetails, {2024});
   auto first = Firm::Open(Folder());
   EXPECT_EQ(Refusal(), "opened") << "several desks of one user share a firm";
-  const std::string locks = std::getenv("FIREBIRD_LOCK");
-  setenv("FIREBIRD_LOCK", "/another/user", 1);
-  const std::string refusal = Refusal();
+  std::ifstream in(File("firm.lock"));
+  const std::string own(std::istreambuf_iterator<char>(in), {});
+  const auto with = [&](const std::string& part, const std::string& value) {
+    const std::size_t at = own.find(part + " ") + part.size() + 1;
+    return own.substr(0, at) + value + own.substr(own.find('\n', at));
+  };
+  for (const std::string& other :
+       {with("user", "4711"), with("machine", "m2"), with("boot", "b2"), with("place", "1:2")}) {
+    Write("firm.lock", other);
+    EXPECT_NE(Refusal(), "opened") << other;
+  }
+  Write("firm.lock", own);
   first.reset();
-  const std::string alone = Refusal();
-  setenv("FIREBIRD_LOCK", locks.c_str(), 1);
-  EXPECT_TRUE(Has(refusal, "another user")) << refusal;
-  EXPECT_EQ(alone, "opened");
+  EXPECT_EQ(Refusal(), "opened");
+
+  Write("firm.lock", with("boot", "earlier"));
+  EXPECT_EQ(Refusal(), "opened") << "this machine was started anew: whoever had the firm open is gone";
+  Write("firm.lock",
+        text::ReplaceAll(with("machine", "m2"), own.substr(own.find("host ")), "host far-away\n"));
+  try {
+    Firm::Open(Folder());
+    ADD_FAILURE() << "the other machine's lock holds";
+  } catch (const OtherMachineError& error) {
+    EXPECT_EQ(error.Host(), "far-away");
+  }
+  EXPECT_THROW(Firm::Open(Folder(), {.TakeOver = "another"}), OtherMachineError);
+  Firm::Open(Folder(), {.TakeOver = "far-away"});
+  EXPECT_EQ(Refusal(), "opened");
+}
+
+TEST_F(FirmTest, AFileThatIsReplacedWhileItIsOpenTakesNoMore) {
+  CreateFirm(Folder(), kDetails, {2024});
+  const auto firm = Firm::Open(Folder());
+  FirebirdLink& db = *firm->OpenYear(2024).Db;
+  db.Execute("insert into FANar values (1,'kept')");
+  std::filesystem::copy_file(File("2024.fdb"), File("copy.fdb"));
+  std::filesystem::rename(File("copy.fdb"), File("2024.fdb"));
+  EXPECT_THROW(db.Execute("insert into FANar values (2,'lost')"), DbError);
+  std::filesystem::remove(File("2024.fdb"));
+  EXPECT_THROW(db.Execute("insert into FANar values (2,'lost')"), DbError);
+  firm->Common()->Execute("insert into Narrations values ('A','kept')");
+}
+
+TEST_F(FirmTest, AFirmThatWasNotSurvivedIsToldOnce) {
+  CreateFirm(Folder(), kDetails, {2024});
+  std::ofstream(FirmLock::Folder().Path() / "opening") << File("2024.fdb");
+  EXPECT_TRUE(Has(Refusal(), "ended while it was opening " + File("2024.fdb"))) << Refusal();
+  EXPECT_EQ(Refusal(), "opened");
+}
+
+TEST_F(FirmTest, AFolderHasAnyNameThatTheEngineCanTell) {
+  CreateFirm(folder_.Path() / "देवी & Co", kDetails, {2024});
+  EXPECT_NO_THROW(Firm::Open(folder_.Path() / "देवी & Co")->OpenYear(2024));
+  for (const char* name : {"a:b", "caf\xe9"}) {
+    std::filesystem::rename(folder_.Path() / "देवी & Co", Folder());
+    std::filesystem::rename(Folder(), folder_.Path() / name);
+    try {
+      Firm::Open(folder_.Path() / name);
+      ADD_FAILURE() << name;
+    } catch (const HostError& error) {
+      EXPECT_TRUE(Has(error.what(), "without a colon")) << error.what();
+    }
+    std::filesystem::rename(folder_.Path() / name, folder_.Path() / "देवी & Co");
+  }
+}
+
+TEST_F(FirmTest, AnOlderFirmIsBroughtUpInAllItsDatabasesOrNone) {
+  using Kind = SchemaStep::Database;
+  CreateFirm(Folder(), kDetails, {2023, 2024});
+  Firm::Open(Folder())->OpenYear(2024).Db->Execute("insert into FANar values (1,'kept')");
+  std::vector<SchemaStep> steps{
+      {Kind::kYear, 1, {"create table Letters (Code integer)", "insert into Letters values (7)"}},
+      {Kind::kCommon, 1, {"create table Styles (Code integer)"}},
+      {Kind::kCommon, 2, {"create table Styles (Twice integer)"}}};
+  const auto open = [&] { return Firm::Open(Folder(), {.TakeOver = "", .Steps = &steps}); };
+  try {
+    open();
+    ADD_FAILURE() << "the last step cannot be carried out";
+  } catch (const DbError& error) {
+    EXPECT_TRUE(Has(error.what(), "It is as it was")) << error.what();
+    EXPECT_TRUE(Has(error.Details(), "STYLES")) << error.Details();
+  }
+  for (const int year : {2023, 2024}) {
+    EXPECT_FALSE(Firm::Open(Folder())->OpenYear(year).Db->TableExists("LETTERS")) << year;
+  }
+  steps.pop_back();
+  const auto other = Firm::Open(Folder());
+  EXPECT_THROW(open(), HostError) << "another program has it open";
+}
+
+TEST_F(FirmTest, AnUpgradeThatSucceedsKeepsTheRows) {
+  using Kind = SchemaStep::Database;
+  CreateFirm(Folder(), kDetails, {2023, 2024});
+  Firm::Open(Folder())->OpenYear(2024).Db->Execute("insert into FANar values (1,'kept')");
+  const std::vector<SchemaStep> steps{
+      {Kind::kYear, 1, {"create table Letters (Code integer)", "insert into Letters values (7)"}},
+      {Kind::kCommon, 2, {"create table Styles (Code integer)"}}};
+  const auto firm = Firm::Open(Folder(), {.TakeOver = "", .Steps = &steps});
+  for (const int year : {2023, 2024}) {
+    EXPECT_EQ(firm->OpenYear(year).Db->Lookup("Letters", "Code", "").ToInteger(), 7) << year;
+  }
+  EXPECT_EQ(firm->OpenYear(2024).Db->Lookup("FANar", "Narration", "").ToText(), "kept");
+  EXPECT_TRUE(firm->Common()->TableExists("STYLES"));
+  EXPECT_FALSE(std::filesystem::exists(File("2024.fdb.before")));
+  EXPECT_TRUE(Has(Refusal(), "newer version")) << "a program that does not know the steps stays out";
 }
 
 TEST_F(FirmTest, TheEngineFindsALineOfAVoucherByItsVoucher) {

@@ -48,10 +48,13 @@ class Window(unittest.TestCase):
     def books(self, query):
         """The lines that a query brings, asked while the desk has the books open."""
         root = self.folder / "XDG_CACHE_HOME/quillon/firebird"
+        # The locks of the engine that has the firm open; when none has, any folder will do.
+        lock = (self.folder / "firm/firm.lock").read_text().splitlines()
+        locks = next((line[len("folder ") :] for line in lock if line.startswith("folder ")), root / "lock")
         run = subprocess.run(
             ["isql-fb", "-q", "-b", "-user", "SYSDBA", self.folder / "firm/2024.fdb"],
             input=f"set heading off;\n{query};\n", capture_output=True, text=True, timeout=LIMIT,
-            env=self.environment | {"FIREBIRD": str(root), "FIREBIRD_LOCK": str(root / "lock")},
+            env=self.environment | {"FIREBIRD": str(root), "FIREBIRD_LOCK": str(locks)},
         )
         self.assertEqual(run.returncode, 0, run.stderr)
         return [line.strip() for line in run.stdout.splitlines() if line.strip()]

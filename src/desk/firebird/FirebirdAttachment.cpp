@@ -1,7 +1,9 @@
 #include "desk/firebird/FirebirdAttachment.h"
 
 #include <csignal>
+#include <filesystem>
 
+#include "desk/firebird/EngineWatch.h"
 #include "desk/firebird/FirebirdEngine.h"
 #include "desk/firebird/FirebirdStatus.h"
 
@@ -56,7 +58,10 @@ std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool 
   dpb->insertString(&status, isc_dpb_lc_ctype, "UTF8");
   // All who open a firm's file share its tables, so the embedded engine sees one user whoever runs the desk.
   dpb->insertString(&status, isc_dpb_user_name, address.User.empty() ? "SYSDBA" : address.User.c_str());
-  if (address.IsServer()) {
+  if (!address.IsServer()) {
+    // Asked for by name: a colon in a path would be taken for the end of a host's name.
+    dpb->insertString(&status, isc_dpb_config, "Providers=Engine12");
+  } else {
     dpb->insertString(&status, isc_dpb_password, address.Password.c_str());
     dpb->insertInt(&status, isc_dpb_connect_timeout, kConnectSeconds);
   }
@@ -67,8 +72,11 @@ std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool 
   }
   const std::unique_ptr<Firebird::IProvider, Releaser> provider(FirebirdEngine::Master().getDispatcher());
   const unsigned length = dpb->getBufferLength(&status);
+  FirebirdEngine::UseLocks({});
   const OwnSignals signals;
-  return std::make_shared<FirebirdAttachment>(open(*provider, status, length, dpb->getBuffer(&status)));
+  const EngineWatch::Call call(address);
+  return std::make_shared<FirebirdAttachment>(address,
+                                              open(*provider, status, length, dpb->getBuffer(&status)));
 }
 
 }  // namespace
@@ -85,7 +93,22 @@ std::shared_ptr<FirebirdAttachment> FirebirdAttachment::Create(const FirebirdAdd
   });
 }
 
+void FirebirdAttachment::Delete(const FirebirdAddress& address) noexcept {
+  try {
+    const std::shared_ptr<FirebirdAttachment> attachment = Attach(address);
+    Firebird::CheckStatusWrapper status = SilentStatus();
+    attachment->attachment_->dropDatabase(&status);
+    if (!status.hasData()) attachment->attachment_ = nullptr;
+  } catch (const std::exception&) {
+    // What cannot be opened is no database yet.
+  }
+  std::error_code ignored;
+  if (!address.IsServer()) std::filesystem::remove(address.Database, ignored);
+}
+
 FirebirdAttachment::~FirebirdAttachment() {
+  if (attachment_ == nullptr) return;
+  const EngineWatch::Call call(address_, attachment_);
   Firebird::CheckStatusWrapper status = SilentStatus();
   attachment_->detach(&status);
   if (status.hasData()) attachment_->release();

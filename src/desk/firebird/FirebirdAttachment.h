@@ -28,14 +28,20 @@ class FirebirdAttachment {
   /// Makes a new database; throws DbError when there is one already.
   static std::shared_ptr<FirebirdAttachment> Create(const FirebirdAddress& address);
 
-  explicit FirebirdAttachment(Firebird::IAttachment* attachment) : attachment_(attachment) {}
+  /// Deletes a database as far as there is one.
+  static void Delete(const FirebirdAddress& address) noexcept;
+
+  FirebirdAttachment(FirebirdAddress address, Firebird::IAttachment* attachment)
+      : address_(std::move(address)), attachment_(attachment) {}
   FirebirdAttachment(const FirebirdAttachment&) = delete;
   FirebirdAttachment& operator=(const FirebirdAttachment&) = delete;
   ~FirebirdAttachment();
 
   Firebird::IAttachment* operator->() const { return attachment_; }
+  Firebird::IAttachment* Handle() const { return attachment_; }
 
  private:
+  FirebirdAddress address_;
   Firebird::IAttachment* attachment_;
 };
 

@@ -1,13 +1,16 @@
 #include "desk/firebird/FirebirdEngine.h"
 
+#include <clocale>
 #include <cstdlib>
 #include <dlfcn.h>
 #include <firebird/Interface.h>
 #include <fstream>
+#include <langinfo.h>
 #include <mutex>
 #include <pwd.h>
 #include <unistd.h>
 
+#include "desk/firebird/EngineWatch.h"
 #include "host/values/Errors.h"
 
 namespace quillon {
@@ -23,14 +26,9 @@ constexpr const char* kEmbeddedSettings =
     "ServerMode = Classic\n"
     "Providers = Remote,Engine12\n"
     "DefaultDbCachePages = 2048\n"
-    "TempCacheLimit = 64M\n";
-
-fs::path UserCache() {
-  if (const char* cache = std::getenv("XDG_CACHE_HOME"); cache && *cache) return cache;
-  if (const char* home = std::getenv("HOME"); home && *home) return fs::path(home) / ".cache";
-  const passwd* user = getpwuid(geteuid());
-  return user ? fs::path(user->pw_dir) / ".cache" : fs::temp_directory_path();
-}
+    "TempCacheLimit = 64M\n"
+    // A program that was killed holds its locks until the others look: in seconds.
+    "DeadlockTimeout = 1\n";
 
 /// The folder of the installed package: firebird/3.0 beside the client library.
 fs::path PackageFolder() {
@@ -64,15 +62,27 @@ void LinkTo(const fs::path& target, const fs::path& link) {
 }
 
 void PrepareOnce(fs::path root) {
+  // File names are UTF-8; without a language of its own the process would know ASCII only.
+  if (std::string(nl_langinfo(CODESET)) != "UTF-8") setlocale(LC_CTYPE, "C.UTF-8");
   if (const char* given = std::getenv("FIREBIRD"); given && *given) return;
-  if (root.empty()) root = UserCache() / "quillon" / "firebird";
+  if (root.empty()) root = FirebirdEngine::UserCache() / "quillon" / "firebird";
   root = fs::absolute(root);
   FirebirdEngine::MakeRoot(root, kEmbeddedSettings);
   setenv("FIREBIRD", root.c_str(), 1);
-  setenv("FIREBIRD_LOCK", (root / "lock").c_str(), 0);
 }
 
 std::once_flag prepared;
+
+constexpr const char* kLocks = "FIREBIRD_LOCK";
+
+std::optional<fs::path> GivenLocks() {
+  const char* const given = std::getenv(kLocks);
+  return given && *given ? std::optional<fs::path>(given) : std::nullopt;
+}
+
+// Read before main, so that what the program sets itself is not taken for given.
+const bool locksAreGiven = GivenLocks().has_value();
+std::optional<fs::path> locksInUse;
 
 }  // namespace
 
@@ -93,6 +103,28 @@ void FirebirdEngine::MakeRoot(const fs::path& root, const std::string& settings)
 
 void FirebirdEngine::Prepare(const fs::path& root) { std::call_once(prepared, PrepareOnce, root); }
 
+bool FirebirdEngine::LocksAreGiven() { return locksAreGiven; }
+
+std::optional<fs::path> FirebirdEngine::Locks() { return locksInUse; }
+
+fs::path FirebirdEngine::UseLocks(const fs::path& folder) {
+  if (locksInUse) return *locksInUse;
+  locksInUse = locksAreGiven ? GivenLocks() : folder.empty() ? Root() / "lock" : folder;
+  setenv(kLocks, locksInUse->c_str(), 1);
+  return *locksInUse;
+}
+
+void FirebirdEngine::ForgetLocks() {
+  if (!locksAreGiven) unsetenv(kLocks);
+}
+
+fs::path FirebirdEngine::UserCache() {
+  if (const char* cache = std::getenv("XDG_CACHE_HOME"); cache && *cache) return cache;
+  if (const char* home = std::getenv("HOME"); home && *home) return fs::path(home) / ".cache";
+  const passwd* user = getpwuid(geteuid());
+  return user ? fs::path(user->pw_dir) / ".cache" : fs::temp_directory_path();
+}
+
 fs::path FirebirdEngine::Root() {
   Prepare();
   return std::getenv("FIREBIRD");
@@ -100,7 +132,11 @@ fs::path FirebirdEngine::Root() {
 
 Firebird::IMaster& FirebirdEngine::Master() {
   Prepare();
-  static Firebird::IMaster* const master = Firebird::fb_get_master_interface();
+  static Firebird::IMaster* const master = [] {
+    Firebird::IMaster* const interface = Firebird::fb_get_master_interface();
+    on_exit([](int status, void*) { EngineWatch::Leave(status); }, nullptr);
+    return interface;
+  }();
   return *master;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 
 namespace Firebird {
 class IMaster;
@@ -16,6 +17,23 @@ class FirebirdEngine {
   /// it must come before the first attachment. An environment that names FIREBIRD already is left as it is.
   /// Throws HostError when the folder cannot be made.
   static void Prepare(const std::filesystem::path& root = {});
+
+  /// Names the folder in which the engine keeps its locks, and answers the one in use: an engine reads it
+  /// once, so the first one stays for the life of the process, as does one that the environment named at the
+  /// start. An empty path means "lock" in the root folder.
+  static std::filesystem::path UseLocks(const std::filesystem::path& folder);
+
+  /// The folder of locks in use; nothing before the first one was named.
+  static std::optional<std::filesystem::path> Locks();
+
+  /// Whether the environment named the folder of locks at the start.
+  static bool LocksAreGiven();
+
+  /// The user's folder for what can be made anew.
+  static std::filesystem::path UserCache();
+
+  /// Takes the folder of locks out of the environment of a process that is to choose its own.
+  static void ForgetLocks();
 
   /// The root folder in use.
   static std::filesystem::path Root();

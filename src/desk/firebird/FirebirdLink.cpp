@@ -1,5 +1,10 @@
 #include "desk/firebird/FirebirdLink.h"
 
+#include <sys/stat.h>
+#include <thread>
+#include <type_traits>
+
+#include "desk/firebird/EngineWatch.h"
 #include "desk/firebird/FirebirdRows.h"
 #include "desk/firebird/LiftedSql.h"
 #include "desk/firebird/QueryText.h"
@@ -10,10 +15,19 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kPreparedKept = 32;
+constexpr std::chrono::seconds kTriedAgainFor(2);
+constexpr std::chrono::milliseconds kPause(50);
 
 constexpr const char* kKeyQuery =
     "select trim(s.rdb$field_name) from rdb$relation_constraints c join rdb$index_segments s on "
     "s.rdb$index_name=c.rdb$index_name where c.rdb$constraint_type='PRIMARY KEY' and c.rdb$relation_name='";
+
+/// What tells a file from another one of its name; nothing for one on a server.
+std::optional<FilePlace> PlaceOf(const FirebirdAddress& address) {
+  struct stat file {};
+  if (address.IsServer() || stat(address.Database.c_str(), &file) != 0) return {};
+  return FilePlace{file.st_dev, file.st_ino};
+}
 
 }  // namespace
 
@@ -35,6 +49,24 @@ void FirebirdLink::Attach() {
                   "08006", "", "", DbError::Reason::kLost);
   }
   attachment_ = FirebirdAttachment::Attach(address_);
+  if (!place_) place_ = PlaceOf(address_);
+}
+
+/// Nothing is acknowledged that went into a file which is no longer the firm's.
+void FirebirdLink::RequirePlace() const {
+  if (address_.IsServer() || PlaceOf(address_) == place_) return;
+  throw DbError(
+      "The file " + address_.Database +
+          " was replaced or deleted while it was open. Nothing is stored any more: open the firm again.",
+      "08006", "", "", DbError::Reason::kLost);
+}
+
+/// The engine has undone a single statement that met a conflict whole, so it may be sent again.
+bool FirebirdLink::MayTryAgain(const DbError& error, std::chrono::steady_clock::time_point first) const {
+  if (inTransaction_ || error.Why() != DbError::Reason::kConflict) return false;
+  if (std::chrono::steady_clock::now() - first > kTriedAgainFor) return false;
+  std::this_thread::sleep_for(kPause);
+  return true;
 }
 
 void FirebirdLink::Drop() {
@@ -55,10 +87,31 @@ void FirebirdLink::NoteFailure(const std::string& sql, const DbError& error) {
 }
 
 template <class Action>
+auto FirebirdLink::Repeat(Action action) {
+  const auto first = std::chrono::steady_clock::now();
+  for (;;) {
+    try {
+      return action();
+    } catch (const DbError& error) {
+      if (!MayTryAgain(error, first)) throw;
+    }
+  }
+}
+
+template <class Action>
 auto FirebirdLink::Send(const std::string& sql, Action action) {
+  const EngineWatch::Call call(address_, Handle());
   try {
     Attach();
-    return action();
+    RequirePlace();
+    if constexpr (std::is_void_v<decltype(action())>) {
+      Repeat(action);
+      RequirePlace();
+    } else {
+      auto result = Repeat(action);
+      RequirePlace();
+      return result;
+    }
   } catch (const DbError& error) {
     NoteFailure(sql, error);
     if (error.Statement() == sql) throw;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
@@ -18,10 +20,18 @@ namespace quillon {
 
 class DbError;
 
+/// A file's device and number.
+struct FilePlace {
+  std::uint64_t Device;
+  std::uint64_t Number;
+  bool operator==(const FilePlace&) const = default;
+};
+
 /// A connection to a Firebird database. Queries outside BeginTrans read in a transaction of their own, which
 /// sees what is committed, so that open sets stay readable while statements commit. When the connection is
 /// lost the statement at hand fails and the next one attaches again; inside BeginTrans all statements fail
-/// until RollbackTrans.
+/// until RollbackTrans. A single statement that commits by itself is tried again for two seconds when it
+/// meets a conflict. Where the file was replaced or deleted since it was opened every statement fails.
 class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<FirebirdLink> {
  public:
   /// `label` is what the observer is told: "common" or a year. Throws DbError.
@@ -58,12 +68,20 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   /// The columns of a table's primary key, in its order; none when the table has no such key.
   const std::vector<std::string>& KeyOf(const std::string& table);
 
+  /// The connection at hand; nothing while there is none.
+  Firebird::IAttachment* Handle() const { return attachment_ ? attachment_->Handle() : nullptr; }
+  const FirebirdAddress& Address() const { return address_; }
+
   /// Told by the link's open sets when reading on has failed.
   void NoteFailure(const std::string& sql, const DbError& error);
 
  private:
   template <class Action>
   auto Send(const std::string& sql, Action action);
+  template <class Action>
+  auto Repeat(Action action);
+  bool MayTryAgain(const DbError& error, std::chrono::steady_clock::time_point first) const;
+  void RequirePlace() const;
   void Attach();
   void Drop();
   void Tell(const std::string& sql, std::int64_t rows, const std::string& error);
@@ -78,6 +96,7 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   std::string label_;
   SqlObserver* observer_ = nullptr;
   std::shared_ptr<FirebirdAttachment> attachment_;
+  std::optional<FilePlace> place_;
   std::shared_ptr<FirebirdTransaction> read_;
   std::shared_ptr<FirebirdTransaction> auto_;
   std::shared_ptr<FirebirdTransaction> work_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "desk/firebird/EngineWatch.h"
 #include "desk/firebird/FirebirdLink.h"
 #include "desk/firebird/QueryText.h"
 #include "host/values/Errors.h"
@@ -82,6 +83,9 @@ void FirebirdRows::PrepareForChange(FirebirdLink& link, FirebirdTransaction& tra
 
 bool FirebirdRows::FetchTo(std::int64_t row) {
   if (!statement_) return row < store_->Count();
+  const auto owner = link_.lock();
+  const EngineWatch::Call call(owner ? owner->Address() : FirebirdAddress(),
+                               owner ? owner->Handle() : nullptr);
   try {
     while (store_->Count() <= row) {
       if (!statement_->Fetch()) {

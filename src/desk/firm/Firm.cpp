@@ -1,12 +1,16 @@
 #include "desk/firm/Firm.h"
 
 #include <fcntl.h>
+#include <fstream>
 #include <unistd.h>
 
+#include "desk/firm/OpeningNote.h"
 #include "desk/firm/Schema.h"
+#include "desk/firm/SchemaUpgrade.h"
 #include "host/data/CDataSet.h"
 #include "host/services/FinYear.h"
 #include "host/values/Errors.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -16,22 +20,12 @@ namespace {
 
 bool IsWritable(const fs::path& path) { return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0; }
 
-std::shared_ptr<FirebirdLink> OpenDatabase(const FirebirdAddress& address, const std::string& label) {
-  const std::string what = "The database " + address.Database;
-  if (!address.IsServer()) {
-    if (!fs::exists(address.Database)) throw HostError(what + " of the firm is missing");
-    if (!IsWritable(address.Database)) throw HostError("There is no permission to write " + address.Database);
-  }
-  std::shared_ptr<FirebirdLink> link;
-  try {
-    link = FirebirdLink::Open(address, label);
-  } catch (const DbError& error) {
-    const char* why = address.IsServer() ? " cannot be opened on its server. " : " is damaged or in use. ";
-    throw DbError(what + why + error.what(), error.SqlState(), error.Statement(), error.EngineText(),
-                  error.Why());
-  }
-  Schema::Check(*link, what);
-  return link;
+/// The engine takes what stands before a colon for a host's name, wherever it stands, and knows UTF-8 only.
+void RequireNameable(const fs::path& folder) {
+  const std::string name = folder.string();
+  if (name.find(':') == std::string::npos && text::Repaired(name) == name) return;
+  throw HostError("The database engine cannot open files in the folder " + name +
+                  ": give it a name without a colon and in letters that every program reads");
 }
 
 std::string YearText(int startYear) {
@@ -61,22 +55,119 @@ FirebirdAddress PlaceOf(const fs::path& folder, const FirebirdAddress& server, c
   return {server.Database + "/" + name, server.User, server.Password};
 }
 
-template <class Fill>
-void MakeDatabase(const FirebirdAddress& address, Fill fill) {
-  if (!address.IsServer() && fs::exists(address.Database)) {
-    throw HostError("There is a file " + address.Database + " already");
+/// The databases of a firm that is being made; those of one that does not get ready go again.
+class Making {
+ public:
+  Making() = default;
+  Making(const Making&) = delete;
+  Making& operator=(const Making&) = delete;
+  ~Making() {
+    if (isDone_) return;
+    for (const FirebirdAddress& address : made_) FirebirdAttachment::Delete(address);
   }
-  FirebirdAttachment::Create(address);
-  fill(*FirebirdLink::Open(address, ""));
-}
+
+  template <class Fill>
+  void Add(const FirebirdAddress& address, Fill fill) {
+    if (!address.IsServer() && fs::exists(address.Database)) {
+      throw HostError("There is a file " + address.Database + " already");
+    }
+    made_.push_back(address);
+    FirebirdAttachment::Create(address);
+    fill(*FirebirdLink::Open(address, ""));
+  }
+  void Done() { isDone_ = true; }
+
+ private:
+  std::vector<FirebirdAddress> made_;
+  bool isDone_ = false;
+};
 
 }  // namespace
 
-std::unique_ptr<Firm> Firm::Open(const fs::path& folder) { return std::make_unique<Firm>(folder); }
+std::unique_ptr<Firm> Firm::Open(const fs::path& folder, const FirmOptions& options) {
+  return std::make_unique<Firm>(folder, options);
+}
 
-Firm::Firm(const fs::path& folder) : folder_(fs::absolute(folder)), file_(FirmFile::Read(folder)) {
-  if (!file_.Common.IsServer()) lock_.emplace(folder_);
+Firm::Firm(const fs::path& folder, const FirmOptions& options)
+    : folder_(fs::absolute(folder)), steps_(*options.Steps), file_(FirmFile::Read(folder)) {
+  if (!file_.Common.IsServer()) {
+    RequireNameable(folder_);
+    Lock(options.TakeOver);
+  }
   common_ = OpenDatabase(file_.Common, "common");
+  if (Schema::Check(*common_, "The database " + file_.Common.Database, VersionAfter(steps_)) <
+      VersionAfter(steps_)) {
+    BringUp();
+  }
+}
+
+void Firm::Lock(const std::string& takeOver) {
+  const std::string& common = file_.Common.Database;
+  lock_.emplace(folder_, fs::exists(common) ? common : "", takeOver);
+  if (!lock_->WasFirst()) return;
+  const std::string unfinished = OpeningNote::Take(FirmLock::Folder().Path());
+  if (fs::path(unfinished).parent_path() == fs::path(common).parent_path()) {
+    throw HostError("The program that opened this firm last ended while it was opening " + unfinished +
+                    ". The file may be damaged: restore a copy of it, or open the firm once more to try it");
+  }
+  if (lock_->KeepAlone()) SchemaUpgrade(folder_, file_, steps_).Recover();
+  lock_->Share();
+}
+
+void Firm::BringUp() {
+  common_.reset();
+  if (lock_ && !lock_->KeepAlone()) {
+    throw HostError(
+        "The firm was made by an older version of this program and has to be brought up. Close the other "
+        "programs that have it open first");
+  }
+  SchemaUpgrade(folder_, file_, steps_).Run();
+  if (lock_) lock_->Share();
+  common_ = OpenDatabase(file_.Common, "common");
+}
+
+std::shared_ptr<FirebirdLink> Firm::OpenDatabase(const FirebirdAddress& address, const std::string& label) {
+  const std::string what = "The database " + address.Database;
+  std::optional<OpeningNote> note;
+  if (!address.IsServer()) {
+    if (!fs::exists(address.Database)) throw HostError(what + " of the firm is missing");
+    if (!IsWritable(address.Database)) throw HostError("There is no permission to write " + address.Database);
+    if (address.Database != file_.Common.Database) FirmLock::Try(address.Database);
+    note.emplace(FirmLock::Folder().Path(), address.Database);
+  }
+  std::shared_ptr<FirebirdLink> link;
+  try {
+    link = FirebirdLink::Open(address, label);
+    Schema::Check(*link, what, VersionAfter(steps_));
+    if (&address != &file_.Common) RefreshStatistics(*link);
+  } catch (const DbError& error) {
+    const char* why = address.IsServer() ? " cannot be opened on its server. " : " is damaged or in use. ";
+    throw DbError(what + why + error.what(), error.SqlState(), error.Statement(), error.EngineText(),
+                  error.Why());
+  }
+  return link;
+}
+
+/// They are worth their time when the year has grown by a quarter; how long its file was is noted where it is
+/// not missed.
+void Firm::RefreshStatistics(FirebirdLink& year) const {
+  const FirebirdAddress& address = year.Address();
+  std::uintmax_t noted = 0;
+  std::uintmax_t size = 0;
+  fs::path note;
+  if (!address.IsServer()) {
+    size = fs::file_size(address.Database);
+    note = FirmLock::Folder().Path() / (year.Label() + ".size");
+    std::ifstream(note) >> noted;
+  }
+  if (noted > 0 && size > noted + noted / 4) {
+    Schema::RefreshStatistics(year);
+  } else if (Schema::LacksStatistics(year)) {
+    Schema::RefreshStatistics(year);
+  } else if (noted > 0) {
+    return;
+  }
+  if (!note.empty()) std::ofstream(note) << size;
 }
 
 std::vector<int> Firm::Years() const {
@@ -92,7 +183,6 @@ const FirmYear& Firm::OpenYear(int startYear) {
     throw HostError("The firm " + Name() + " has no year " + YearText(startYear));
   FirmYear opened{startYear, year->second.StartDate, year->second.EndDate,
                   OpenDatabase(year->second.Database, std::to_string(startYear))};
-  Schema::RefreshStatistics(*opened.Db);
   opened.Db->SetObserver(observer_);
   return years_.emplace(startYear, std::move(opened)).first->second;
 }
@@ -113,6 +203,7 @@ void Firm::SetObserver(SqlObserver* observer) {
 
 void CreateFirm(const fs::path& folder, const FirmDetails& details, const std::vector<int>& years,
                 const FirebirdAddress& server) {
+  if (server.Database.empty()) RequireNameable(fs::absolute(folder));
   std::error_code failed;
   fs::create_directories(folder, failed);
   if (failed || !IsWritable(folder)) {
@@ -120,10 +211,12 @@ void CreateFirm(const fs::path& folder, const FirmDetails& details, const std::v
   }
   if (fs::exists(FirmFile::PathIn(folder)))
     throw HostError("There is a firm in " + folder.string() + " already");
+  if (server.Database.empty()) FirmLock::Choose(folder);
   FirmFile file;
   file.Name = details.FirmName;
   file.Common = PlaceOf(folder, server, "common.fdb");
-  MakeDatabase(file.Common, [&](FirebirdLink& link) {
+  Making making;
+  making.Add(file.Common, [&](FirebirdLink& link) {
     Schema::MakeCommon(link);
     WriteDetails(link, details);
   });
@@ -131,10 +224,12 @@ void CreateFirm(const fs::path& folder, const FirmDetails& details, const std::v
     FirmFile::Year& year = file.Years[start];
     year = {PlaceOf(folder, server, std::to_string(start) + ".fdb"), Date::Of(start, 4, 1),
             Date::Of(start + 1, 3, 31)};
-    MakeDatabase(year.Database, Schema::MakeYear);
+    making.Add(year.Database, Schema::MakeYear);
   }
+  SchemaUpgrade(folder, file, AllSchemaSteps()).RaiseAll();
   // Last, so that a folder with firm.json holds a whole firm.
   file.Write(folder);
+  making.Done();
 }
 
 }  // namespace quillon

@@ -10,6 +10,7 @@
 #include "desk/firebird/FirebirdLink.h"
 #include "desk/firm/FirmFile.h"
 #include "desk/firm/FirmLock.h"
+#include "desk/firm/SchemaSteps.h"
 
 namespace quillon {
 
@@ -41,14 +42,21 @@ struct FirmLink {
   std::string Name;
 };
 
+/// How a firm is opened.
+struct FirmOptions {
+  std::string TakeOver;  ///< the machine whose lock is void by the user's word
+  const std::vector<SchemaStep>* Steps = &AllSchemaSteps();  ///< what brings an older firm up
+};
+
 /// A firm: a folder with firm.json, a common database and one for each financial year.
 class Firm {
  public:
-  /// Opens the common database. Throws HostError in plain words when that cannot be done.
-  static std::unique_ptr<Firm> Open(const std::filesystem::path& folder);
+  /// Brings an older firm up and opens the common database. Throws HostError in plain words when that cannot
+  /// be done, and what FirmLock throws.
+  static std::unique_ptr<Firm> Open(const std::filesystem::path& folder, const FirmOptions& options = {});
 
   /// Use Open.
-  explicit Firm(const std::filesystem::path& folder);
+  Firm(const std::filesystem::path& folder, const FirmOptions& options);
 
   const std::string& Name() const { return file_.Name; }
   const std::filesystem::path& Folder() const { return folder_; }
@@ -69,7 +77,13 @@ class Firm {
   void SetObserver(SqlObserver* observer);
 
  private:
+  void Lock(const std::string& takeOver);
+  void BringUp();
+  std::shared_ptr<FirebirdLink> OpenDatabase(const FirebirdAddress& address, const std::string& label);
+  void RefreshStatistics(FirebirdLink& year) const;
+
   std::filesystem::path folder_;
+  const std::vector<SchemaStep>& steps_;
   FirmFile file_;
   std::optional<FirmLock> lock_;
   std::shared_ptr<FirebirdLink> common_;
@@ -79,7 +93,8 @@ class Firm {
 
 /// Makes a firm without accounts and entries in a folder, which is made too. `server` is a place on a server
 /// where the databases go, such as "inet://host:port//srv/books", with its user; without one they are files
-/// in the folder. Throws HostError when there is a firm already or the place cannot be written.
+/// in the folder. Throws HostError when there is a firm already or the place cannot be written; nothing of it
+/// is left then.
 void CreateFirm(const std::filesystem::path& folder, const FirmDetails& details,
                 const std::vector<int>& years, const FirebirdAddress& server = {});
 

@@ -11,9 +11,6 @@ namespace quillon {
 
 /// What firm.json says: the firm's name and where its databases are.
 struct FirmFile {
-  /// The schema of the databases that this program makes; newer ones are refused.
-  static constexpr int kSchema = 1;
-
   /// A database: a file name beside firm.json, or "inet://host:port/path" on a server with a user and a
   /// password.
   struct Year {
@@ -30,8 +27,11 @@ struct FirmFile {
   /// File names come back as whole paths.
   static FirmFile Read(const std::filesystem::path& folder);
 
-  /// Puts the file in place whole. Files inside the folder are written as bare names.
+  /// Puts the file in place whole, readable by its owner alone when it holds a password. Files inside the
+  /// folder are written as bare names.
   void Write(const std::filesystem::path& folder) const;
+
+  bool HasPassword() const;
 
   static std::filesystem::path PathIn(const std::filesystem::path& folder) { return folder / "firm.json"; }
 };

@@ -1,6 +1,5 @@
 #include "desk/firm/Schema.h"
 
-#include "desk/firm/FirmFile.h"
 #include "host/values/Errors.h"
 
 namespace quillon {
@@ -106,9 +105,8 @@ constexpr const char* kRefreshedIndexes[] = {"PK_FAData",           "PK_FANar",
                                              "IX_DocData_Document", "IX_RefMaster_Voucher",
                                              "IX_ChqLeaves_Number"};
 
-void MakeVersion(FirebirdLink& link) {
-  link.Execute("insert into SchemaVersion (Version) values (" + std::to_string(FirmFile::kSchema) + ")");
-}
+/// A new database is made as the first version was; the steps then bring it up.
+void MakeVersion(FirebirdLink& link) { link.Execute("insert into SchemaVersion (Version) values (1)"); }
 
 }  // namespace
 
@@ -137,11 +135,17 @@ void Schema::MakeYear(FirebirdLink& link) {
   MakeVersion(link);
 }
 
-void Schema::Check(FirebirdLink& link, const std::string& what) {
+int Schema::Check(FirebirdLink& link, const std::string& what, int newest) {
   if (!link.TableExists("SCHEMAVERSION")) throw HostError(what + " is no database of this program");
   const std::int64_t version = link.Lookup("SchemaVersion", "Version", "").ToInteger();
   if (version < 1) throw HostError(what + " is damaged: it has no schema version");
-  if (version > FirmFile::kSchema) throw HostError(what + " was written by a newer version of this program");
+  if (version > newest) throw HostError(what + " was written by a newer version of this program");
+  return static_cast<int>(version);
+}
+
+bool Schema::LacksStatistics(FirebirdLink& link) {
+  return link.Lookup("rdb$indices", "rdb$statistics", "rdb$index_name='PK_FADATA'").ToDouble() == 0 &&
+         link.RowExists("select first 1 VoucherID from FAData");
 }
 
 void Schema::RefreshStatistics(FirebirdLink& link) {

@@ -11,12 +11,16 @@ class Schema {
   static void MakeCommon(FirebirdLink& link);
   static void MakeYear(FirebirdLink& link);
 
-  /// Throws HostError when the database is none of the program's or of a newer schema; `what` names it.
-  static void Check(FirebirdLink& link, const std::string& what);
+  /// Answers the database's version. Throws HostError when the database is none of the program's, or of a
+  /// schema beyond `newest`; `what` names it.
+  static int Check(FirebirdLink& link, const std::string& what, int newest);
 
   /// Tells the engine how the rows of a year are spread now. Without it the engine takes each index for
   /// equally good and reads all entries of an account to find one line of a voucher.
   static void RefreshStatistics(FirebirdLink& link);
+
+  /// Whether the engine has never been told so since the year has entries.
+  static bool LacksStatistics(FirebirdLink& link);
 };
 
 }  // namespace quillon

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "desk/firm/FirmFile.h"
+#include "desk/firm/SchemaSteps.h"
+
+namespace quillon {
+
+/// Brings the databases of an older firm up, all of them or none: those that are files are copied first, and
+/// the copies come back when a step fails, or when the program ended in the middle. Databases on a server
+/// have no copies; a step that fails there is taken up again at the next opening.
+class SchemaUpgrade {
+ public:
+  SchemaUpgrade(const std::filesystem::path& folder, const FirmFile& file,
+                const std::vector<SchemaStep>& steps)
+      : folder_(folder), file_(file), steps_(steps) {}
+
+  /// Puts back what an upgrade that was broken off has left. Nobody else may have the firm open.
+  void Recover() const;
+
+  /// Throws HostError in plain words; the firm is then as it was. Nobody else may have it open.
+  void Run() const;
+
+  /// Carries the steps out in every database of a firm that is being made.
+  void RaiseAll() const;
+
+ private:
+  struct Database {
+    SchemaStep::Database Kind;
+    FirebirdAddress Address;
+  };
+
+  std::vector<Database> Databases() const;
+  void Raise(const Database& database) const;
+  void Copy() const;
+  void DropCopies() const;
+
+  std::filesystem::path folder_;
+  const FirmFile& file_;
+  const std::vector<SchemaStep>& steps_;
+};
+
+}  // namespace quillon
