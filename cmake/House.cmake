@@ -89,12 +89,16 @@ function(quillon_collect name piece type header)
   target_sources(quillon_${name} PRIVATE ${CMAKE_BINARY_DIR}/pieces/${type}s.cpp)
 endfunction()
 
-# A program made of the main.cpp in src/FOLDER, linked to that folder's target, with the module beside it.
+# A program made of the main.cpp in src/FOLDER, linked to that folder's target, with the module beside it unless it is
+# one that stands ALONE.
 function(quillon_program program folder)
+  cmake_parse_arguments(ARG "ALONE" "" "" ${ARGN})
   string(REPLACE "desk/" "" target ${folder})
   string(REPLACE "/" "_" target ${target})
   add_executable(${program} ${CMAKE_SOURCE_DIR}/src/${folder}/main.cpp)
   target_compile_definitions(${program} PRIVATE QUILLON_VERSION="${PROJECT_VERSION}")
-  target_link_libraries(${program} PRIVATE quillon_${target} ${ARGN})
-  add_dependencies(${program} quillon_module)
+  target_link_libraries(${program} PRIVATE quillon_${target} ${ARG_UNPARSED_ARGUMENTS})
+  if(NOT ARG_ALONE)
+    add_dependencies(${program} quillon_module)
+  endif()
 endfunction()

@@ -91,7 +91,7 @@ class Driver(unittest.TestCase):
             for at, kind, want in wants:
                 where = f"{name}:{at}: {want}\nfound: {lines[before + 1 : place + 1]}"
                 if kind == "refused":
-                    self.assertIn(want, answer["error"], where)
+                    self.assertIn(want, answer["error"] + answer.get("details", ""), where)
                 elif kind == "answer":
                     self.assertTrue(holds(answer, want), where)
                 else:
@@ -179,6 +179,41 @@ class Driver(unittest.TestCase):
             for option, begin in (("--help", f"quillon-{name} "), ("--version", f"quillon-{name} ")):
                 run = subprocess.run([program, option], capture_output=True, text=True, timeout=60)
                 self.assertEqual((run.returncode, run.stdout[: len(begin)]), (0, begin))
+
+    def test_another_firm_is_opened_in_a_fresh_process(self):
+        second, folder = (str(Path(self.own.name) / name) for name in ("second", "nowhere"))
+        shutil.copytree(self.sample, second)
+        mark = {"cmd": "execute", "sql": "update FAData set dBankDate='2025-03-30' where dcd=101"}
+        script = [mark, {"cmd": "trace", "sql": True}, {"cmd": "answer", "to": "input", "text": "kept"},
+                  {"cmd": "form", "key": "SelectAc", "host": True}, {"cmd": "show", "form": "f1", "modal": True},
+                  {"cmd": "firm", "folder": folder}, {"cmd": "forms"},
+                  {"cmd": "firm", "folder": second, "year": 2023}, {"cmd": "form", "key": "inttmethod"},
+                  {"cmd": "query", "sql": "select count(*) from FAData where dBankDate='2025-03-30'"}]
+        text = "\n".join(map(json.dumps, script))
+        file = Path(self.own.name) / "script.jsonl"
+        file.write_text(text)
+        for run in (lambda: self.drive(text, "--firm", self.firm), lambda: self.drive("", "--firm", self.firm, file)):
+            code, lines, errors = run()
+            answers = {line["done"]: line for line in lines if "done" in line}
+            self.assertEqual(sorted(answers), list(range(1, 11)), (lines, errors))
+            self.assertIn("There is no folder", answers[6]["error"])
+            self.assertEqual([form["id"] for form in answers[7]["forms"]], ["f1"], "the firm at hand stays open")
+            self.assertTrue(answers[8]["ok"], answers[8])
+            self.assertEqual(answers[9]["form"], "f2", "no id is given twice")
+            self.assertEqual(answers[10]["rows"], [[0]])
+            self.assertTrue(any(line.get("event") == "sql" for line in lines[lines.index(answers[8]):]))
+            self.assertEqual(lines[-1], {"left_over": [{"to": "input", "text": "kept"}]})
+            self.assertEqual(code, 2, "the folder that holds no firm")
+
+    def test_answers_that_cannot_be_written_stop_it(self):
+        with open("/dev/full", "w") as full:
+            drive = subprocess.run([DRIVE, "--firm", self.firm, "--out", self.own.name], input='{"cmd":"forms"}\n' * 50,
+                                   stdout=full, stderr=subprocess.PIPE, text=True, timeout=60)
+        self.assertEqual(drive.returncode, 2)
+        self.assertIn("answers cannot be written", drive.stderr)
+        code, _, errors = self.drive("", "--firm", self.firm, self.own.name)
+        self.assertEqual(code, 2)
+        self.assertIn("is a folder", errors)
 
     def test_input_that_is_no_json(self):
         deep = '{"cmd":"forms","x":' + "[" * 200000 + "]" * 200000 + "}"

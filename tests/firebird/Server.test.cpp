@@ -56,5 +56,24 @@ TEST(Server, TheDeskGoesOnWhenTheServerIsBack) {
   EXPECT_EQ(link->Lookup("entries", "list(id)", "mark='Y'").ToText(), "2,6");
 }
 
+TEST(Server, AServerThatStandsStillIsLetGo) {
+  if (!FirebirdServer::IsInstalled()) GTEST_SKIP() << "the Firebird server is not installed";
+  if (std::getenv("QUILLON_LONG") == nullptr) GTEST_SKIP() << "half a minute: ./test --long";
+  FirebirdServer server;
+  FirebirdAttachment::Create(server.Address("books.fdb"));
+  const auto link = FirebirdLink::Open(server.Address("books.fdb"), "2024");
+  link->Execute("create table entries (id int not null primary key)");
+  server.Pause();
+  try {
+    link->Execute("insert into entries values (1)");
+    ADD_FAILURE() << "nobody was there to store it";
+  } catch (const DbError& error) {
+    EXPECT_EQ(error.Why(), DbError::Reason::kLost) << error.Details();
+  }
+  server.GoOn();
+  link->Execute("insert into entries values (2)");
+  EXPECT_TRUE(link->RowExists("select * from entries where id=2"));
+}
+
 }  // namespace
 }  // namespace quillon

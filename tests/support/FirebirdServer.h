@@ -61,6 +61,10 @@ class FirebirdServer {
     }
   }
 
+  /// Stands still without a word to those who wait for it.
+  void Pause() const { kill(process_, SIGSTOP); }
+  void GoOn() const { kill(process_, SIGCONT); }
+
   void Stop() {
     if (process_ <= 0) return;
     kill(process_, SIGKILL);

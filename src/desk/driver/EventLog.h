@@ -24,9 +24,16 @@ class EventLog : public SqlObserver, public PrintObserver, public ReportObserver
 
   void Write(const Json& line);
 
+  /// Whether a line could not be written: nobody reads any more, or the disk is full.
+  bool HasFailed() const { return !out_; }
+
   /// "f1", "f2" … in the order of first mention; or the id that a script has given the form.
   std::string IdOf(Form& form);
   void GiveId(const FormPtr& form, const std::string& id);
+
+  /// The number of the next id.
+  int NextId() const { return nextId_; }
+  void SetNextId(int number) { nextId_ = number; }
 
   /// Throws HostError for an id that no form has. An unloaded form keeps its id.
   FormPtr FormOf(const std::string& id) const;

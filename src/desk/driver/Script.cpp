@@ -3,6 +3,7 @@
 #include <map>
 #include <set>
 
+#include "desk/driver/FreshProcess.h"
 #include "host/controls/CPeriod.h"
 #include "host/controls/host_controls.h"
 #include "host/forms/WindowHandle.h"
@@ -49,17 +50,38 @@ Script::Command Script::Find(const std::string& name) {
 
 int Script::Run() {
   while (Next()) continue;
-  if (const Json left = runtime_.Laid.LeftOver(); !left.empty()) {
+  if (!unfinished_.is_null()) {
+    unfinished_.update({{"status", status_}, {"laid", runtime_.Laid.LeftOver()}, {"ids", log_.NextId()}});
+  } else if (const Json left = runtime_.Laid.LeftOver(); !left.empty()) {
     log_.Write({{"left_over", left}});
     status_ = std::max(status_, kRefused);
   }
   desk_.CloseFirm();
-  return status_;
+  return log_.HasFailed() ? kUnusable : status_;
+}
+
+/// The windows that wait inside one another end first, and their commands are answered; the command itself is
+/// carried out and answered by the fresh process.
+void Script::LeaveToFreshProcess(const Json& command) {
+  FreshProcess::RequireOpens(command);
+  unfinished_ = {
+      {"command", command}, {"number", count_}, {"sql", log_.TraceSql}, {"print", log_.TracePrint}};
+  stopped_ = true;
+}
+
+void Script::Resume(const Json& unfinished) {
+  status_ = unfinished.at("status").get<int>();
+  count_ = unfinished.at("number").get<int>();
+  log_.TraceSql = unfinished.at("sql").get<bool>();
+  log_.TracePrint = unfinished.at("print").get<bool>();
+  log_.SetNextId(unfinished.at("ids").get<int>());
+  for (const Json& answer : unfinished.at("laid")) runtime_.Laid.Add(answer);
+  CarryOut(count_, unfinished.at("command"));
 }
 
 bool Script::Next() {
   std::string line;
-  while (!stopped_ && std::getline(in_, line)) {
+  while (!stopped_ && !log_.HasFailed() && std::getline(in_, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
     if (line.find_first_not_of(" \t") == std::string::npos || line[line.find_first_not_of(" \t")] == '#')
       continue;
@@ -86,6 +108,7 @@ void Script::CarryOut(int number, const Json& command) {
     const Command carryOut = Find(name);
     if (!LeavesMenuOpen(name)) runtime_.LeaveMenu();
     const Json answer = (this->*carryOut)(command);
+    if (!unfinished_.is_null() && unfinished_.at("number") == number) return;
     if (answer.is_object()) done.update(answer);
   } catch (const Json::exception& error) {
     done["ok"] = false;

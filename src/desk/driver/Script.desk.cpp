@@ -1,6 +1,7 @@
 #include "desk/driver/Script.h"
 
 #include "desk/driver/ControlState.h"
+#include "desk/firm/FirmLock.h"
 #include "desk/qt/windows/FormPicture.h"
 #include "host/data/CDataSet.h"
 #include "host/forms/WindowHandle.h"
@@ -9,8 +10,13 @@ namespace quillon {
 
 Json Script::DoFirm(const Json& command) {
   try {
-    desk_.OpenFirm(command.at("folder").get<std::string>(), command.value("user", ""),
-                   command.value("year", 0));
+    const std::string folder = command.at("folder").get<std::string>();
+    if (FirmLock::NeedsFreshProcess(folder)) {
+      LeaveToFreshProcess(command);
+      return Json::object();
+    }
+    desk_.OpenFirm(folder, command.value("user", ""), command.value("year", 0),
+                   command.value("takeover", ""));
     runtime_.Ignore(desk_.App().MainWindow().MainForm().get());
   } catch (const HostError&) {
     status_ = kUnusable;

@@ -20,8 +20,15 @@ class Script {
 
   Script(std::istream& in, Desk& desk, DriverRuntime& runtime, EventLog& log);
 
-  /// To the end of the input. Answers the exit status.
+  /// To the end of the input, or to a command that opens another firm, which only a fresh process can do: see
+  /// Unfinished. Answers the exit status.
   int Run();
+
+  /// What a fresh process needs to go on after Run; null when the script is done.
+  Json Unfinished() const { return unfinished_; }
+
+  /// Goes on where another process has left off, beginning with the command that it could not carry out.
+  void Resume(const Json& unfinished);
 
  private:
   using Command = Json (Script::*)(const Json&);
@@ -29,6 +36,7 @@ class Script {
   static Command Find(const std::string& name);
   bool Next();
   void CarryOut(int number, const Json& command);
+  void LeaveToFreshProcess(const Json& command);
 
   FormPtr Current(const Json& command);
   Control& ControlOf(const Json& command);
@@ -89,6 +97,7 @@ class Script {
   int count_ = 0;
   int status_ = kAllDone;
   bool stopped_ = false;
+  Json unfinished_;
 };
 
 }  // namespace quillon

@@ -1,19 +1,28 @@
 #include <QApplication>
+#include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include "desk/driver/FreshProcess.h"
+#include "desk/driver/InputBuffer.h"
 #include "desk/driver/Script.h"
 #include "desk/qt/adapters/Theme.h"
 #include "desk/shell/RuntimeFolder.h"
 #include "host/values/AskedAbout.h"
+#include "host/values/Text.h"
 
 namespace {
 
 using quillon::Desk;
 using quillon::DriverRuntime;
 using quillon::EventLog;
+using quillon::FreshProcess;
+using quillon::InputBuffer;
+using quillon::Json;
 using quillon::Script;
 
 struct Arguments {
@@ -22,21 +31,28 @@ struct Arguments {
   std::string out = ".";
   std::string module;
   std::string script;
+  std::string takeOver;
+  std::string year;
+  std::string resume;
 };
 
 constexpr const char* kUsage =
-    "quillon-drive [--firm FOLDER] [--user NAME] [--out FOLDER] [--module FILE] [SCRIPT]\n"
-    "Carries out the commands of SCRIPT, or of standard input, one JSON object on each line.\n";
+    "quillon-drive [--firm FOLDER] [--user NAME] [--year N] [--out FOLDER] [--module FILE] [SCRIPT]\n"
+    "Carries out the commands of SCRIPT, or of standard input, one JSON object on each line.\n"
+    "--takeover MACHINE opens a firm that was left open on the machine of that name.\n";
 
 /// False when the words make no sense.
 bool Read(int count, char** words, Arguments& arguments) {
   for (int i = 1; i < count; ++i) {
     const std::string word = words[i];
-    std::string* const value = word == "--firm"     ? &arguments.firm
-                               : word == "--user"   ? &arguments.user
-                               : word == "--out"    ? &arguments.out
-                               : word == "--module" ? &arguments.module
-                                                    : nullptr;
+    std::string* const value = word == "--firm"       ? &arguments.firm
+                               : word == "--user"     ? &arguments.user
+                               : word == "--out"      ? &arguments.out
+                               : word == "--module"   ? &arguments.module
+                               : word == "--year"     ? &arguments.year
+                               : word == "--takeover" ? &arguments.takeOver
+                               : word == "--resume"   ? &arguments.resume
+                                                      : nullptr;
     if (value != nullptr) {
       if (++i >= count) return false;
       *value = words[i];
@@ -49,7 +65,33 @@ bool Read(int count, char** words, Arguments& arguments) {
   return true;
 }
 
-int Drive(const Arguments& arguments, std::istream& in) {
+int YearOf(const Arguments& arguments) {
+  const auto year = quillon::ValInteger(arguments.year);
+  if (!arguments.year.empty() && std::to_string(year) != arguments.year) {
+    throw quillon::HostError("--year needs a number, not \"" + arguments.year + "\"");
+  }
+  return static_cast<int>(year);
+}
+
+/// The script or the standard input.
+int InputOf(const std::string& script) {
+  if (script.empty()) return STDIN_FILENO;
+  const int file = open(script.c_str(), O_RDONLY);
+  struct stat found {};
+  if (file < 0 || fstat(file, &found) != 0)
+    throw quillon::HostError("The script " + script + " cannot be read");
+  if (S_ISDIR(found.st_mode)) throw quillon::HostError("The script " + script + " is a folder");
+  return file;
+}
+
+/// What a fresh process needs to know again.
+std::vector<std::string> WordsFor(const Arguments& arguments) {
+  std::vector<std::string> words{"--out", arguments.out};
+  if (!arguments.module.empty()) words.insert(words.end(), {"--module", arguments.module});
+  return words;
+}
+
+int Drive(const Arguments& arguments) {
   std::filesystem::create_directories(arguments.out);
   EventLog log(std::cout);
   DriverRuntime runtime(log, arguments.out);
@@ -59,13 +101,28 @@ int Drive(const Arguments& arguments, std::istream& in) {
   options.Area = {0, 0, 20490, 10500};
   options.Sql = &log;
   options.Reports = &log;
-  Desk desk(options);
-  if (!arguments.firm.empty()) {
-    desk.OpenFirm(arguments.firm, arguments.user);
-    runtime.Ignore(desk.App().MainWindow().MainForm().get());
+  FreshProcess::Handed handed;
+  if (!arguments.resume.empty()) handed = FreshProcess::Take(std::stoi(arguments.resume));
+  InputBuffer buffer(handed.State.is_null() ? InputOf(arguments.script) : handed.State.at("input").get<int>(),
+                     handed.Ahead);
+  std::istream in(&buffer);
+  int status = 0;
+  Json unfinished;
+  {
+    Desk desk(options);
+    if (!arguments.firm.empty()) {
+      desk.OpenFirm(arguments.firm, arguments.user, YearOf(arguments), arguments.takeOver);
+      runtime.Ignore(desk.App().MainWindow().MainForm().get());
+    }
+    Script script(in, desk, runtime, log);
+    if (!handed.State.is_null()) script.Resume(handed.State);
+    status = script.Run();
+    unfinished = script.Unfinished();
   }
-  Script script(in, desk, runtime, log);
-  return script.Run();
+  if (log.HasFailed()) throw quillon::HostError("The answers cannot be written");
+  if (unfinished.is_null()) return status;
+  unfinished["input"] = buffer.File();
+  FreshProcess::Begin(WordsFor(arguments), {unfinished, buffer.Ahead()});
 }
 
 }  // namespace
@@ -77,6 +134,8 @@ int main(int count, char** words) {
     std::cerr << kUsage;
     return Script::kUnusable;
   }
+  // Nobody who reads any more is an error like another, not the end in the middle of a statement.
+  std::signal(SIGPIPE, SIG_IGN);
   // Pages, widths and pictures need Qt's fonts and widgets, but no screen.
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   setenv("QT_FONT_DPI", "96", 1);
@@ -84,10 +143,7 @@ int main(int count, char** words) {
   QApplication application(count, words);
   quillon::Theme::Apply(application);
   try {
-    if (arguments.script.empty()) return Drive(arguments, std::cin);
-    std::ifstream file(arguments.script);
-    if (!file) throw quillon::HostError("The script " + arguments.script + " cannot be read");
-    return Drive(arguments, file);
+    return Drive(arguments);
   } catch (const std::exception& error) {
     std::cerr << "quillon-drive: " << error.what() << "\n";
     return Script::kUnusable;

@@ -1,6 +1,7 @@
 #include "desk/firm/LockFolder.h"
 
 #include <fstream>
+#include <memory>
 #include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -81,6 +82,11 @@ class Note {
   pid_t owner_;
 };
 
+std::unique_ptr<Note>& OwnNote() {
+  static std::unique_ptr<Note> note;
+  return note;
+}
+
 }  // namespace
 
 LockFolder LockFolder::OfFirm(const fs::path& firm) {
@@ -113,9 +119,11 @@ void LockFolder::Remake() const {
 
 void LockFolder::Enter() const {
   Make();
-  static const Note note(path_);
-  note.Write();
+  if (!OwnNote()) OwnNote() = std::make_unique<Note>(path_);
+  OwnNote()->Write();
 }
+
+void LockFolder::Leave() { OwnNote().reset(); }
 
 std::vector<std::string> LockFolder::Living() const {
   std::vector<std::string> living;

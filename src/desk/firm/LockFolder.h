@@ -30,6 +30,9 @@ class LockFolder {
   /// Notes this process until it ends properly; a process is in one such folder for its life.
   void Enter() const;
 
+  /// Takes the note away from a process that another program is about to take the place of.
+  static void Leave();
+
   /// The other programs that are in it, such as "quillon-desk (process 4711)". One that was killed and not
   /// yet reaped lives no more.
   std::vector<std::string> Living() const;

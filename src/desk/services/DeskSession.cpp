@@ -6,8 +6,11 @@ namespace quillon {
 
 namespace {
 
-std::unique_ptr<Firm> OpenFirm(const std::string& folder, SqlObserver* observer) {
-  std::unique_ptr<Firm> firm = Firm::Open(folder);
+std::unique_ptr<Firm> OpenFirm(const std::string& folder, SqlObserver* observer,
+                               const std::string& takeOver) {
+  FirmOptions options;
+  options.TakeOver = takeOver;
+  std::unique_ptr<Firm> firm = Firm::Open(folder, options);
   if (observer != nullptr) firm->SetObserver(observer);
   return firm;
 }
@@ -28,8 +31,8 @@ std::shared_ptr<DeskYear> OpenYear(Firm& firm, int startYear) {
 }  // namespace
 
 DeskSession::DeskSession(const std::string& folder, const std::string& user, int startYear,
-                         SqlObserver* observer)
-    : firm_(OpenFirm(folder, observer)),
+                         SqlObserver* observer, const std::string& takeOver)
+    : firm_(OpenFirm(folder, observer, takeOver)),
       year_(OpenYear(*firm_, startYear)),
       user_(FindUser(*firm_->Common(), user)),
       parameters_(*firm_->Common()) {}

@@ -23,7 +23,8 @@ class DeskSession : public ISession {
  public:
   /// Opens the firm, the year (0 takes the latest) and the session of the user (empty takes the first of the
   /// highest level). Throws HostError in plain words when any of them cannot be had.
-  DeskSession(const std::string& folder, const std::string& user, int startYear, SqlObserver* observer);
+  DeskSession(const std::string& folder, const std::string& user, int startYear, SqlObserver* observer,
+              const std::string& takeOver = "");
   ~DeskSession() override;
 
   /// Makes this session gSession. Until then another one may stay open.

@@ -24,8 +24,9 @@ int Desk::PrinterMode() const {
   return app_ ? static_cast<int>(ValInteger(app_->GetUserSetting("PrinterMode"))) : 0;
 }
 
-void Desk::OpenFirm(const std::string& folder, const std::string& user, int startYear) {
-  auto next = std::make_unique<DeskSession>(folder, user, startYear, options_.Sql);
+void Desk::OpenFirm(const std::string& folder, const std::string& user, int startYear,
+                    const std::string& takeOver) {
+  auto next = std::make_unique<DeskSession>(folder, user, startYear, options_.Sql, takeOver);
   CloseFirm();
   session_ = std::move(next);
   session_->Begin();

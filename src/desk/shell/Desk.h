@@ -30,7 +30,9 @@ class Desk {
   ~Desk();
 
   /// Closes an open firm when the new one is ready. Throws HostError in plain words; the open one then stays.
-  void OpenFirm(const std::string& folder, const std::string& user = "", int startYear = 0);
+  /// `takeOver` names the machine whose lock on the firm is void by the user's word.
+  void OpenFirm(const std::string& folder, const std::string& user = "", int startYear = 0,
+                const std::string& takeOver = "");
 
   /// Ends the module's forms and the desk's own, then the session.
   void CloseFirm();

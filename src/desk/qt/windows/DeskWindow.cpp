@@ -12,6 +12,8 @@
 #include <QStatusBar>
 #include <filesystem>
 
+#include "desk/firm/FirmFile.h"
+#include "desk/firm/FirmLock.h"
 #include "desk/qt/adapters/Acts.h"
 #include "desk/qt/adapters/Icons.h"
 #include "desk/qt/adapters/Scale.h"
@@ -100,18 +102,43 @@ void DeskWindow::TakeArea() {
 
 QString DeskWindow::OpenFirm(const QString& folder, const QString& user, int startYear) {
   if (!CloseForms()) return QStringLiteral("A window of the open firm is still in use.");
-  CloseFirm();
-  QString fault;
-  try {
-    desk_->OpenFirm(folder.toStdString(), user.toStdString(), startYear);
-    folder_ = folder;
-    RecentFirms::Add(folder);
-  } catch (const std::exception& error) {
-    fault = QString::fromStdString(error.what());
+  if (OnOtherFirm && FirmLock::NeedsFreshProcess(folder.toStdString())) {
+    try {
+      FirmFile::Read(folder.toStdString());
+    } catch (const HostError& error) {
+      return QString::fromStdString(error.what());
+    }
+    OnOtherFirm(folder, user, startYear);
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    return {};
   }
+  CloseFirm();
+  const QString fault = TryFirm(folder, user, startYear);
   ShowState();
   TakeArea();
   return fault;
+}
+
+QString DeskWindow::TryFirm(const QString& folder, const QString& user, int startYear) {
+  std::string takeOver;
+  for (;;) {
+    try {
+      desk_->OpenFirm(folder.toStdString(), user.toStdString(), startYear, takeOver);
+      folder_ = folder;
+      RecentFirms::Add(folder);
+      return {};
+    } catch (const DeadLockError& error) {
+      if (runtime_.AskMessage({error.what(), "W", {"Try again", "Cancel"}, "Quillon", 1}) != 1)
+        return error.what();
+    } catch (const OtherMachineError& error) {
+      const std::string take = "Take over from " + error.Host();
+      const std::string text = std::string(error.what()) + ". Is it closed on " + error.Host() + "?";
+      if (runtime_.AskMessage({text, "W", {take, "Cancel"}, "Quillon", 2}) != 1) return error.what();
+      takeOver = error.Host();
+    } catch (const std::exception& error) {
+      return QString::fromStdString(error.what());
+    }
+  }
 }
 
 bool DeskWindow::CloseForms() {

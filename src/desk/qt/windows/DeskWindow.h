@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 #include "desk/print/DeskReports.h"
@@ -33,6 +34,10 @@ class DeskWindow : public QMainWindow, private ReportObserver {
 
   void SetZoom(int percent);
 
+  /// Starts a desk on another firm, which this process cannot open beside the first: called when this desk is
+  /// ready to close, and closes afterwards. Without it the firm is opened here.
+  std::function<void(const QString& folder, const QString& user, int startYear)> OnOtherFirm;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -55,6 +60,9 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   /// Asks each form whether it may close; false when one refused.
   bool CloseForms();
   void CloseFirm();
+
+  /// Asks what the firm's lock leaves to the user. Answers what is wrong; empty when the firm is open.
+  QString TryFirm(const QString& folder, const QString& user, int startYear);
   void AskYear();
   void AskUser();
   void OpenStatement();

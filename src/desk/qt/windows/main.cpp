@@ -1,10 +1,18 @@
 #include <QApplication>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include "desk/firebird/EngineWatch.h"
+#include "desk/firebird/FirebirdEngine.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
 #include "desk/qt/windows/DeskWindow.h"
@@ -56,6 +64,44 @@ std::string PrintFolder() {
   return folder.toStdString();
 }
 
+constexpr const char* kUnanswered = "--unanswered";
+
+/// The window stands still with the engine, so another process of this program asks.
+bool AskToEnd() {
+  char program[] = "quillon-desk";
+  std::string word = kUnanswered;
+  char* words[] = {program, word.data(), nullptr};
+  pid_t child = 0;
+  int status = 0;
+  if (posix_spawn(&child, "/proc/self/exe", nullptr, nullptr, words, environ) != 0) return true;
+  waitpid(child, &status, 0);
+  return !WIFEXITED(status) || WEXITSTATUS(status) == 0;
+}
+
+int TellUnanswered() {
+  QMessageBox box(QMessageBox::Warning, QStringLiteral("Quillon"),
+                  QString::fromUtf8(quillon::EngineWatch::kStuck));
+  QPushButton* const end = box.addButton(QStringLiteral("End Quillon"), QMessageBox::AcceptRole);
+  box.addButton(QStringLiteral("Wait"), QMessageBox::RejectRole);
+  box.exec();
+  return box.clickedButton() == end ? 0 : 1;
+}
+
+/// The engine of a process knows one firm's locks only.
+void StartAnew(const QString& folder, const QString& user, int startYear, const std::string& module) {
+  QStringList words{folder};
+  if (!user.isEmpty()) words << QStringLiteral("--user") << user;
+  if (startYear != 0) words << QStringLiteral("--year") << QString::number(startYear);
+  if (!module.empty()) words << QStringLiteral("--module") << QString::fromStdString(module);
+  QProcess desk;
+  QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
+  if (!quillon::FirebirdEngine::LocksAreGiven()) surroundings.remove(QStringLiteral("FIREBIRD_LOCK"));
+  desk.setProcessEnvironment(surroundings);
+  desk.setProgram(QApplication::applicationFilePath());
+  desk.setArguments(words);
+  if (!desk.startDetached()) throw quillon::HostError("Another desk cannot be started");
+}
+
 }  // namespace
 
 int main(int count, char** words) {
@@ -67,6 +113,8 @@ int main(int count, char** words) {
   QApplication::setApplicationName(QStringLiteral("quillon-desk"));
   QApplication::setApplicationVersion(QStringLiteral(QUILLON_VERSION));
   QApplication::setQuitOnLastWindowClosed(false);
+  if (count == 2 && std::string(words[1]) == kUnanswered) return TellUnanswered();
+  quillon::EngineWatch::SetAsk(AskToEnd);
   Arguments arguments;
   if (!Read(QApplication::arguments(), arguments)) {
     std::fputs(kUsage, stderr);
@@ -77,6 +125,9 @@ int main(int count, char** words) {
   try {
     quillon::QtRuntime runtime(PrintFolder());
     quillon::DeskWindow window(runtime, arguments.module);
+    window.OnOtherFirm = [&](const QString& folder, const QString& user, int year) {
+      StartAnew(folder, user, year, arguments.module);
+    };
     window.show();
     window.activateWindow();
     if (!arguments.folder.isEmpty()) {
