@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <thread>
 
 #include "host/data/CDataSet.h"
 #include "host/values/Errors.h"
@@ -376,6 +377,29 @@ TEST_F(LinkTest, ALockedRecordIsRefusedInsteadOfHanging) {
   other->CommitTrans();
   link_->Execute("Update entries set mark='C' where id=7 and line=1");
   EXPECT_EQ(other->Lookup("entries", "mark", "id=7").ToText(), "C");
+}
+
+TEST_F(LinkTest, AConflictThatPassesIsNotTold) {
+  const auto other = FirebirdLink::Open(address_, "2024");
+  other->BeginTrans();
+  other->Execute("Update entries set mark='A' where id=7 and line=1");
+  std::string told = "stored";
+  std::thread store([&] {
+    try {
+      link_->Execute("Update entries set mark='B' where id=7 and line=1");
+    } catch (const DbError& error) {
+      told = error.what();
+    }
+  });
+  const auto watch = FirebirdLink::Open(address_, "");
+  const std::string waiting =
+      "select 1 from mon$statements where mon$state=1 and mon$sql_text starting 'Update'";
+  for (int i = 0; i < 1000 && !watch->RowExists(waiting); ++i) std::this_thread::yield();
+  // The one that waits has seen a record that is changed now: the engine calls that a conflict.
+  other->CommitTrans();
+  store.join();
+  EXPECT_EQ(told, "stored");
+  EXPECT_EQ(other->Lookup("entries", "mark", "id=7").ToText(), "B");
 }
 
 TEST_F(LinkTest, AnotherProcessReadsAndWritesWhileTheDeskHasTheDatabaseOpen) {

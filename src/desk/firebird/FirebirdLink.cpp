@@ -64,7 +64,7 @@ void FirebirdLink::RequirePlace() const {
 /// The engine has undone a single statement that met a conflict whole, so it may be sent again.
 bool FirebirdLink::MayTryAgain(const DbError& error, std::chrono::steady_clock::time_point first) const {
   if (inTransaction_ || error.Why() != DbError::Reason::kConflict) return false;
-  if (std::chrono::steady_clock::now() - first > kTriedAgainFor) return false;
+  if (std::chrono::steady_clock::now() - first > kTriedAgainFor - kPause) return false;
   std::this_thread::sleep_for(kPause);
   return true;
 }
