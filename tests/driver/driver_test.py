@@ -205,6 +205,17 @@ class Driver(unittest.TestCase):
             self.assertEqual(lines[-1], {"left_over": [{"to": "input", "text": "kept"}]})
             self.assertEqual(code, 2, "the folder that holds no firm")
 
+    def test_a_runtime_folder_of_somebody_else_is_not_used(self):
+        place = Path(self.own.name) / "tmp"
+        usual = place / f"quillon-{os.geteuid()}"
+        usual.mkdir(parents=True)
+        usual.chmod(0o777)
+        environment = {k: v for k, v in os.environ.items() if k != "XDG_RUNTIME_DIR"} | {"TMPDIR": str(place)}
+        run = subprocess.run([DRIVE, "--out", self.own.name], input="", text=True, timeout=60, env=environment)
+        self.assertEqual(run.returncode, 0)
+        own = [folder for folder in place.glob("quillon-*") if folder != usual]
+        self.assertEqual([folder.stat().st_mode & 0o777 for folder in own], [0o700])
+
     def test_answers_that_cannot_be_written_stop_it(self):
         with open("/dev/full", "w") as full:
             drive = subprocess.run([DRIVE, "--firm", self.firm, "--out", self.own.name], input='{"cmd":"forms"}\n' * 50,
