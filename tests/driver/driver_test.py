@@ -321,7 +321,8 @@ class Driver(unittest.TestCase):
         if not shutil.which("gfix"):
             self.skipTest("gfix is not installed")
         engine = Path(os.environ["XDG_CACHE_HOME"]) / "quillon/firebird"
-        check = subprocess.run(["gfix", "-v", "-full", self.firm + "/2024.fdb"], capture_output=True, text=True,
+        check = subprocess.run(["gfix", "-user", "SYSDBA", "-v", "-full", self.firm + "/2024.fdb"],
+                               capture_output=True, text=True,
                                env=os.environ | {"FIREBIRD": str(engine), "FIREBIRD_LOCK": self.own.name})
         self.assertEqual((check.returncode, check.stdout + check.stderr), (0, ""))
 

@@ -20,7 +20,7 @@ const std::filesystem::path& Template() {
     CreateFirm(path, details, {2023, 2024});
     // No test pulls the plug: without forced writes a test takes a third of the time.
     for (const char* file : {"common.fdb", "2023.fdb", "2024.fdb"}) {
-      if (std::system(("gfix -write async " + (path / file).string()).c_str()) != 0) break;
+      if (std::system(("gfix -user SYSDBA -write async " + (path / file).string()).c_str()) != 0) break;
     }
     return path;
   }();
