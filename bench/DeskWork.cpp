@@ -28,8 +28,8 @@ Desk::Options Settings() {
 
 }  // namespace
 
-void DeskWork::Runtime::TellError(const std::string& routine, Form* /*form*/, const std::string& text) {
-  throw HostError(routine + ": " + text);
+void DeskWork::Runtime::TellError(const std::string& routine, Form* /*form*/, const std::exception& error) {
+  throw HostError(routine + ": " + error.what());
 }
 
 int DeskWork::Runtime::AskMessage(const MessageRequest& request) {

@@ -59,7 +59,7 @@ class DeskWork {
     using DriverRuntime::DriverRuntime;
     int AskMessage(const MessageRequest& request) override;
     bool Confirms = false;  ///< a question is answered with Yes
-    void TellError(const std::string& routine, Form* form, const std::string& text) override;
+    void TellError(const std::string& routine, Form* form, const std::exception& error) override;
 
    protected:
     void FormHappened(Happening, Form&) override {}

@@ -1,5 +1,6 @@
 #include "desk/services/DeskApp.h"
 #include "host/data/CDataSet.h"
+#include "host/services/StoredFields.h"
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {
@@ -154,6 +155,39 @@ TEST_F(HostWork, ASiblingNamesFilesAndAccountsAreFilteredByTicks) {
   EXPECT_TRUE(filter->IsLoaded()) << "the caller still reads it";
   EXPECT_TRUE(filter->Get("Cancelled").ToFlag());
   gRuntime->Unload(*filter);
+}
+
+TEST_F(HostWork, FieldsOfAScreenAreKeptWithTheirKinds) {
+  bool landscape = true;
+  long copies = 3;
+  double margin = 0.25;
+  Amount rate = Amount::OfText("9.5");
+  std::string name = "A, \"B\"\n<|||>";
+  StoredFields fields;
+  fields.Add("Landscape", landscape);
+  fields.Add("Copies", copies);
+  fields.Add("Margin", margin);
+  fields.Add("Rate", rate);
+  fields.Add("Name", name);
+  CNameValues bag;
+  fields.Save(bag);
+  gApp->PutFirmSetting("Test", bag.Text());
+  landscape = false;
+  copies = 0;
+  margin = 7;
+  rate = Amount();
+  name.clear();
+  CNameValues stored;
+  stored.Load(gApp->GetFirmSetting("Test"));
+  fields.Load(stored);
+  EXPECT_TRUE(landscape);
+  EXPECT_EQ(copies, 3);
+  EXPECT_EQ(margin, 0.25);
+  EXPECT_EQ(rate, Amount::OfText("9.5"));
+  EXPECT_EQ(name, "A, \"B\"\n<|||>");
+  copies = 5;
+  fields.Load(CNameValues());
+  EXPECT_EQ(copies, 5) << "what was never stored stays as it is";
 }
 
 }  // namespace

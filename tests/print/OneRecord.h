@@ -33,6 +33,7 @@ class OneRecord : public CDbLink {
   void BeginTrans() override { Refuse("begin"); }
   void CommitTrans() override { Refuse("commit"); }
   void RollbackTrans() override { Refuse("rollback"); }
+  bool InTransaction() const override { return false; }
   std::unique_ptr<RowSet> OpenRows(const std::string&, bool, bool) override {
     return std::make_unique<Rows>(fields_);
   }

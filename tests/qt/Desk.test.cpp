@@ -34,7 +34,7 @@ class frmPicker : public ScreenForm {
  protected:
   void BuildBar() override {}
   void LoadScreen() override {}
-  void ButtonPressed(int) override {}
+  void Pressed(const std::string&) override {}
   void OnKeyDown(KeyEvent& key) override {
     if (AnswersHelp && key.KeyCode == keys::kF1) {
       key.KeyCode = 0;

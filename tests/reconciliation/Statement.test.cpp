@@ -297,7 +297,7 @@ TEST_F(Statement, AFailureIsReportedWithItsStatement) {
   const std::vector<Json> errors = Events("error");
   ASSERT_EQ(errors.size(), 1U);
   EXPECT_EQ(errors[0]["routine"], "UpdateGridStatement");
-  EXPECT_NE(errors[0]["text"].get<std::string>().find("from FADATA where dcd=101"), std::string::npos);
+  EXPECT_NE(errors[0]["details"].get<std::string>().find("from FADATA where dcd=101"), std::string::npos);
   EXPECT_TRUE(View().Visible);
   EXPECT_TRUE(View().Redraw());
   Key(*bench_, keys::kEscape);

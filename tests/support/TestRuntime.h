@@ -55,7 +55,9 @@ class TestRuntime : public Runtime {
   bool AskParties(PartiesRequest&) override { return Unexpected("parties"); }
   bool AskPrint(PrintSetup&) override { return Unexpected("print dialog"); }
   int AskPopup(Form&, Menu&, long, long) override { return Unexpected("menu") ? 0 : -1; }
-  void TellError(const std::string&, Form*, const std::string& text) override { errors_.push_back(text); }
+  void TellError(const std::string&, Form*, const std::exception& error) override {
+    errors_.emplace_back(error.what());
+  }
 
  protected:
   void Wait(const std::function<bool()>&) override { ADD_FAILURE() << "nobody is here to wait for"; }

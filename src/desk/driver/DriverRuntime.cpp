@@ -11,6 +11,7 @@
 #include "host/forms/CPickList.h"
 #include "host/services/IStd.h"
 #include "host/services/PrintSetup.h"
+#include "host/values/ErrorText.h"
 
 namespace quillon {
 
@@ -220,11 +221,13 @@ void DriverRuntime::LeaveMenu() {
   if (menu_ != nullptr) menu_->open = false;
 }
 
-void DriverRuntime::TellError(const std::string& routine, Form* form, const std::string& text) {
-  log_.Write({{"event", "error"},
-              {"routine", routine},
-              {"form", form != nullptr ? Json(log_.IdOf(*form)) : Json(nullptr)},
-              {"text", text}});
+void DriverRuntime::TellError(const std::string& routine, Form* form, const std::exception& error) {
+  Json event = {{"event", "error"},
+                {"routine", routine},
+                {"form", form != nullptr ? Json(log_.IdOf(*form)) : Json(nullptr)},
+                {"text", ErrorText(error)}};
+  if (const std::string details = ErrorDetails(error); !details.empty()) event["details"] = details;
+  log_.Write(event);
 }
 
 void DriverRuntime::FormHappened(Happening what, Form& form) {

@@ -56,7 +56,7 @@ class DriverRuntime : public Runtime {
   bool AskPrint(PrintSetup& setup) override;
   void ShowHelp(Form& form, int context) override;
   int AskPopup(Form& form, Menu& menu, long left, long top) override;
-  void TellError(const std::string& routine, Form* form, const std::string& text) override;
+  void TellError(const std::string& routine, Form* form, const std::exception& error) override;
 
  protected:
   void FormHappened(Happening what, Form& form) override;

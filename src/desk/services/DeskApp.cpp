@@ -105,7 +105,7 @@ void DeskApp::EndBusy() { gRuntime->ShowBusy(false, ""); }
 
 void DeskApp::ReportError(const std::exception& error, Form* form, const std::string& routine) {
   gRuntime->NoteFailure(ErrorText(error));
-  gRuntime->TellError(routine, form, ErrorText(error));
+  gRuntime->TellError(routine, form, error);
 }
 
 void DeskApp::OpenVoucher(Form& form, std::int64_t voucherId, int startYear, std::int64_t accountCode) {

@@ -46,7 +46,7 @@ void Desk::CloseFirm() {
     try {
       gRuntime->Unload(*form);
     } catch (const std::exception& error) {
-      gRuntime->TellError("", form.get(), error.what());
+      gRuntime->TellError("", form.get(), error);
     }
   }
   unfinished_.reset();

@@ -25,6 +25,7 @@ void UnfinishedWork::EventBegins() {
 }
 
 void UnfinishedWork::EventEnds(const std::string& failure) {
+  if (before_.empty()) return;  // it began with another firm open
   const std::set<CDbLink*> before = before_.back();
   before_.pop_back();
   if (failure.empty()) return;
@@ -49,7 +50,7 @@ void UnfinishedWork::Ask(const FirmLink& link, const std::string& failure) {
       link.Db->RollbackTrans();
     }
   } catch (const std::exception& error) {
-    gRuntime->TellError("", gRuntime->ActiveForm().get(), error.what());
+    gRuntime->TellError("", gRuntime->ActiveForm().get(), error);
     if (link.Db->InTransaction()) link.Db->RollbackTrans();
   }
 }

@@ -182,7 +182,7 @@ void Runtime::Act(const std::function<void()>& act) {
     throw;
   } catch (const std::exception& error) {
     NoteFailure(ErrorText(error));
-    TellError("", ActiveForm().get(), ErrorText(error));
+    TellError("", ActiveForm().get(), error);
   }
   EndEvent();
 }

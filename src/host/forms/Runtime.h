@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -198,7 +199,7 @@ class Runtime {
   virtual int AskPopup(Form& form, Menu& menu, long left, long top) = 0;
 
   /// What rose to the runtime, or reached gApp->ReportError with the name of its routine.
-  virtual void TellError(const std::string& routine, Form* form, const std::string& text) = 0;
+  virtual void TellError(const std::string& routine, Form* form, const std::exception& error) = 0;
 
  protected:
   enum class Happening { Load, Show, Hide, Unload };

@@ -14,6 +14,7 @@
 #include "desk/qt/dialogs/ToolkitDialogs.h"
 #include "desk/qt/windows/FormView.h"
 #include "host/controls/Menu.h"
+#include "host/values/ErrorText.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -121,10 +122,14 @@ int QtRuntime::AskPopup(Form& form, Menu& menu, long left, long top) {
   return static_cast<int>(shown.actions().indexOf(taken));
 }
 
-void QtRuntime::TellError(const std::string& routine, Form* form, const std::string& text) {
+void QtRuntime::TellError(const std::string& routine, Form* form, const std::exception& error) {
   MessageRequest request;
   const std::string where = form != nullptr ? form->Caption() : std::string();
-  request.Text = text + (routine.empty() ? "" : "\n\n" + (where.empty() ? "" : where + ", ") + routine);
+  request.Text = ErrorText(error);
+  request.Details = ErrorDetails(error);
+  if (!request.Details.empty() && !routine.empty()) {
+    request.Details += "\n" + (where.empty() ? "" : where + ", ") + routine;
+  }
   request.Icon = "E";
   request.Buttons = {"OK"};
   request.Title = "Quillon";
