@@ -23,7 +23,7 @@ constexpr ScreenSpec kScreen = {
     .registerTitle = "Chq.Ret. Report",
     .iconKey = "Report",
     .firstKey = keys::kF4,
-    .lastKey = keys::kF4 + 5,
+    .lastKey = keys::kF9,
 };
 
 constexpr int kHostRuling = -1;

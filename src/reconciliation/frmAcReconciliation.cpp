@@ -18,7 +18,7 @@ constexpr ScreenSpec kScreen = {
     .registerTitle = "Reconciliation",
     .iconKey = "AcStatement",
     .firstKey = keys::kF3,
-    .lastKey = keys::kF3 + 6,
+    .lastKey = keys::kF9,
 };
 
 constexpr int kMassMark = 0;

@@ -19,7 +19,7 @@ constexpr ScreenSpec kScreen = {
     .registerTitle = "Reconciliation",
     .iconKey = "Modify",
     .firstKey = keys::kF3,
-    .lastKey = keys::kF3 + 6,
+    .lastKey = keys::kF9,
 };
 
 namespace col {

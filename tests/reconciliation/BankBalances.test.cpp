@@ -8,8 +8,6 @@
 namespace quillon {
 namespace {
 
-constexpr int kF5 = keys::kF7 - 2;
-constexpr int kF6 = keys::kF7 - 1;
 constexpr const char* kContra = " and dTrnNature in (5002,5012,5024,5031,5041,5051)";
 
 /// What the views say of the banks of generated firms, beside what the books say when they are asked
@@ -136,7 +134,7 @@ TEST_P(BankBalances, StatementPassBookAndBooksAgree) {
     Open(at);
     bench_ = ShowWorkbench(statement_);
     AnswerDate(at.Last.Text());
-    Key(*bench_, kF6);
+    Key(*bench_, keys::kF6);
     EXPECT_EQ(gStd->ParseAmount(View("GridStatement").Footer.TextMatrix(0, 5)), atBank);
     Key(*bench_, keys::kF7);
     const CGridPlus& book = View("GridPBook");
@@ -169,7 +167,7 @@ TEST_P(BankBalances, ProductsAreTheSumOfTheDays) {
     Open(at);
     bench_ = ShowWorkbench(statement_);
     Key(*bench_, keys::kF7);
-    if (ShowInterest(at, [&] { bench_->UserKey(kF5, 0, 0); })) ExpectTable(banks);
+    if (ShowInterest(at, [&] { bench_->UserKey(keys::kF5, 0, 0); })) ExpectTable(banks);
     runtime_.Unload(*bench_);
     const bool isShown =
         ShowInterest(at, [&] { At<CButtonBar>(statement_, "BtnBar1").UserPress("Interest"); });

@@ -7,9 +7,6 @@ namespace {
 using Texts = std::vector<std::string>;
 using Acts = std::vector<std::function<void()>>;
 
-constexpr int kF5 = keys::kF7 - 2;
-constexpr int kF6 = keys::kF7 - 1;
-constexpr int kF9 = keys::kF7 + 2;
 constexpr int kInterestButton = 2;
 constexpr long kPayColor = 0xE7D8FC;
 constexpr long kChargeColor = 0xF0FFE6;
@@ -54,7 +51,7 @@ class Interest : public DeskTest {
     Statements();
   }
   void PressInterest(Acts acts) {
-    During([&] { bench_->UserKey(kF5, 0, 0); }, std::move(acts));
+    During([&] { bench_->UserKey(keys::kF5, 0, 0); }, std::move(acts));
   }
 
   /// F5 in the statement of account.
@@ -144,7 +141,7 @@ TEST_F(Interest, OfThePassBookByTheDaysOfTheBank) {
   EXPECT_FALSE(Bar().Buttons(kInterestButton).Enabled());
   EXPECT_EQ(Bar().Buttons(1).Caption(), "") << "there are no references here";
   EXPECT_EQ(gRuntime->MousePointer(), kPointerDefault);
-  Key(*bench_, kF9);
+  Key(*bench_, keys::kF9);
   const std::vector<Json> reports = Events("report");
   ASSERT_EQ(reports.size(), 1U);
   EXPECT_EQ(reports[0]["title"], View().Title());
@@ -210,7 +207,7 @@ TEST_F(Interest, OnlyThePassBookGivesTheBanksInterest) {
   OpenPassBook();
   const auto told = [&] {
     AnswerMessage();
-    Key(*bench_, kF5);
+    Key(*bench_, keys::kF5);
     const std::vector<Json> messages = Events("message");
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_EQ(messages[0]["text"],
@@ -220,7 +217,7 @@ TEST_F(Interest, OnlyThePassBookGivesTheBanksInterest) {
   Key(*bench_, keys::kEscape);
   told();
   AnswerDate("30-Apr-2024");
-  Key(*bench_, kF6);
+  Key(*bench_, keys::kF6);
   told();
   EXPECT_FALSE(View().Visible);
   // From the interest the pass book's key is off until Esc has gone back to the entries.
@@ -229,7 +226,7 @@ TEST_F(Interest, OnlyThePassBookGivesTheBanksInterest) {
   PressInterest({Confirm()});
   ASSERT_TRUE(View().Visible);
   Key(*bench_, keys::kF7);
-  Key(*bench_, kF5);
+  Key(*bench_, keys::kF5);
   EXPECT_TRUE(View().Visible);
   Key(*bench_, keys::kEscape);
   EXPECT_TRUE(At<CGridPlus>(bench_, "Grid").HasFocus());
@@ -325,7 +322,7 @@ TEST_F(Interest, ImproperContraEntriesStopIt) {
                  },
                  [&] {
                    // Asked again while it is up, nothing is counted twice.
-                   Key(*bench_, kF5);
+                   Key(*bench_, keys::kF5);
                    EXPECT_EQ(Top()->Caption(), "Alert window");
                    EXPECT_EQ(At<CGridPlus>(Top(), "Grid").Rows(), 3);
                  },

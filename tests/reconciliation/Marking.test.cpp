@@ -11,9 +11,6 @@ constexpr int kClearDate = 2;
 constexpr int kChequeNo = 3;
 constexpr int kNarration = 5;
 constexpr int kPreMarked = 8;
-constexpr int kF6 = keys::kF7 - 1;
-constexpr int kF8 = keys::kF7 + 1;
-constexpr int kF9 = keys::kF7 + 2;
 constexpr const char* kPickTitle = "Multiple matching records found ... Select one";
 
 /// The marking form on bank 101 with the cheques of a week in April.
@@ -266,7 +263,7 @@ TEST_F(Marking, TheSearchKeepsToItsDays) {
   // No day before, and none after it.
   for (const char* days : {"0", ""}) {
     Days(days);
-    Key(*form_, kF6);
+    Key(*form_, keys::kF6);
     EXPECT_TRUE(Date(1, "7/4/2024"));
     AnswerMessage();
     EXPECT_FALSE(Number(1, "470252"));
@@ -412,7 +409,7 @@ TEST_F(Marking, ANewPageUndoesNothing) {
   EXPECT_TRUE(Number(1, "470251"));
   EXPECT_TRUE(Number(2, "470252"));
   Statements();
-  Key(*form_, kF6);
+  Key(*form_, keys::kF6);
   EXPECT_EQ(Updates(), Texts());
   EXPECT_EQ(Stored(2), "08-Apr-2024");
   EXPECT_EQ(Grid().Rows(), 2);
@@ -425,7 +422,7 @@ TEST_F(Marking, ANewPageUndoesNothing) {
     Grid().UserType("31/2");
   });
   AnswerMessage();
-  Key(*form_, kF6);
+  Key(*form_, keys::kF6);
   EXPECT_FALSE(Grid().EditMode());
   EXPECT_EQ(Row(1), "|||||||||");
 }
@@ -434,8 +431,8 @@ TEST_F(Marking, ThePageIsPreviewedAndPrinted) {
   Open();
   EXPECT_TRUE(Date(1, "8/4/2024"));
   EXPECT_TRUE(Number(1, "470251"));
-  Key(*form_, kF8);
-  Key(*form_, kF9);
+  Key(*form_, keys::kF8);
+  Key(*form_, keys::kF9);
   const std::vector<Json> reports = Events("report");
   ASSERT_EQ(reports.size(), 2U);
   for (const Json& report : reports) {
@@ -526,7 +523,7 @@ TEST_F(Marking, AUserWithoutTheRightIsTurnedAway) {
   Open();
   EXPECT_TRUE(form_->IsLoaded());
   AnswerMessage();
-  Key(*form_, kF9);
+  Key(*form_, keys::kF9);
   EXPECT_EQ(Messages().size(), 1U);
   EXPECT_EQ(Events("report").size(), 0U);
 }

@@ -6,9 +6,6 @@ namespace {
 using Texts = std::vector<std::string>;
 
 constexpr int kPassBookButton = 4;
-constexpr int kF6 = keys::kF7 - 1;
-constexpr int kF8 = keys::kF7 + 1;
-constexpr int kF9 = keys::kF7 + 2;
 
 /// The pass book of bank 101, reached by F7 from the workbench.
 class PassBook : public DeskTest {
@@ -207,7 +204,7 @@ TEST_F(PassBook, OnlyEscBringsItsButtonBack) {
   Open();
   EXPECT_FALSE(Bar().Buttons(kPassBookButton).Enabled());
   AnswerDate("30-Apr-2024");
-  Key(*bench_, kF6);
+  Key(*bench_, keys::kF6);
   EXPECT_TRUE(At<CGridPlus>(bench_, "GridStatement").Visible);
   EXPECT_FALSE(Bar().Buttons(kPassBookButton).Enabled());
   Key(*bench_, keys::kEscape);
@@ -225,8 +222,8 @@ TEST_F(PassBook, OnlyEscBringsItsButtonBack) {
 TEST_F(PassBook, PrintsWithItsFooter) {
   AddVoucher({.id = 2, .date = "2024-04-10", .amount = "100", .cleared = "2024-04-12", .narration = "Slip"});
   Open();
-  Key(*bench_, kF9);
-  Key(*bench_, kF8);
+  Key(*bench_, keys::kF9);
+  Key(*bench_, keys::kF8);
   const std::vector<Json> reports = Events("report");
   ASSERT_EQ(reports.size(), 2U);
   EXPECT_EQ(reports[0]["title"], "Pass Book");

@@ -223,7 +223,7 @@ TEST_F(StandingScreens, AViewThatFailedShowsNoTotalsAndIsNeitherPrintedNorReckon
   EXPECT_EQ(Errors().size(), 1U);
   EXPECT_EQ(View().Title(), "Reconciliation Statement as on 20/04/2024 (not complete)");
   EXPECT_EQ(View().Footer.TextMatrix(0, 5), "") << "nor a closing line of another date";
-  refuses(keys::kF7 + 1, "Reconciliation Statement as on 20/04/2024 (not complete)");
+  refuses(keys::kF8, "Reconciliation Statement as on 20/04/2024 (not complete)");
   Key(*bench_, keys::kEscape);
 
   Db().Execute("update FAData set dBankDate='2024-04-21' where VoucherID in (60,61)");
@@ -233,7 +233,7 @@ TEST_F(StandingScreens, AViewThatFailedShowsNoTotalsAndIsNeitherPrintedNorReckon
   ASSERT_TRUE(book.Visible) << "what was read stays to be seen";
   EXPECT_EQ(book.Title(), "Pass Book (not complete)");
   EXPECT_EQ(book.Footer.Rows(), 0);
-  refuses(keys::kF3 + 2, "Pass Book (not complete)");
+  refuses(keys::kF5, "Pass Book (not complete)");
   EXPECT_EQ(Events("report").size(), 0U);
 
   Do([&] { runtime_.Unload(*bench_); });  // back to the entries
@@ -242,7 +242,7 @@ TEST_F(StandingScreens, AViewThatFailedShowsNoTotalsAndIsNeitherPrintedNorReckon
   EXPECT_EQ(Source().Title(), "Sahyadri Bank, Pune (not complete)");
   EXPECT_EQ(Source().Footer.TextMatrix(0, 24), "");
   AnswerMessage();
-  Key(*statement_, keys::kF3 + 3);
+  Key(*statement_, keys::kF6);
   EXPECT_EQ(Messages().size(), 1U);
   EXPECT_EQ(runtime_.ActiveForm(), statement_) << "no reconciliation of half an account";
 }
@@ -290,7 +290,7 @@ TEST_F(StandingScreens, InterestAloneShowsNoOtherView) {
   CButtonBar& bar = At<CButtonBar>(bench_, "BtnBar1");
   for (const char* key : {"MassMarking", "Statement", "PassBook"})
     EXPECT_FALSE(bar.Buttons(key).Enabled()) << key;
-  for (const int key : {keys::kF3, keys::kF3 + 3, keys::kF7}) Key(*bench_, key);
+  for (const int key : {keys::kF3, keys::kF6, keys::kF7}) Key(*bench_, key);
   EXPECT_THROW(bench_->Call("UpdateGridPassBook", {}), HostError);
   EXPECT_TRUE(At<CGridPlus>(bench_, "GridIntt").Visible);
   EXPECT_EQ(Events("date").size(), 0U);

@@ -120,14 +120,14 @@ TEST_F(Statement, NothingOutstandingAndNothingAtAll) {
   EXPECT_EQ(View().Footer.TextMatrix(0, 5), "500.00");
   Key(*bench_, keys::kEscape);
   AnswerDate("10/5/2024");
-  Key(*bench_, keys::kF3 + 3);
+  Key(*bench_, keys::kF6);
   EXPECT_EQ(Rows(),
             (Texts{"10-May-2024||Balance as per Our Books||N I L  ||", "||Adjusted Balance||  N I L  ||"}));
   EXPECT_EQ(View().Footer.TextMatrix(0, 5), "");
   EXPECT_EQ(Events("date").back()["date1"], "30-Apr-2024") << "the last date is offered again";
   Key(*bench_, keys::kEscape);
   runtime_.Laid.Add({{"to", "date"}, {"cancel", true}});
-  Key(*bench_, keys::kF3 + 3);
+  Key(*bench_, keys::kF6);
   EXPECT_TRUE(Entries().Visible) << "a cancelled date changes nothing";
 }
 

@@ -24,7 +24,13 @@ inline constexpr int kF1 = 112;
 inline constexpr int kF2 = 113;
 inline constexpr int kF3 = 114;
 inline constexpr int kF4 = 115;
+inline constexpr int kF5 = 116;
+inline constexpr int kF6 = 117;
 inline constexpr int kF7 = 118;
+inline constexpr int kF8 = 119;
+inline constexpr int kF9 = 120;
+inline constexpr int kF10 = 121;
+inline constexpr int kF11 = 122;
 inline constexpr int kF12 = 123;
 
 inline constexpr int kShift = 1;
