@@ -25,3 +25,4 @@
 #include "host/services/PrintRun.h"
 #include "host/services/PrintSetup.h"
 #include "host/services/PrinterDevice.h"
+#include "host/services/StoredFields.h"
