@@ -68,8 +68,8 @@ function(quillon_folder name)
 endfunction()
 
 # Joins pieces that lie in files of their own, so that two people who add one share no file: each NAME.PIECE.cpp of the
-# target's folders defines `TYPE NAMEPiece()`, and a generated source gives all of them as `std::vector<TYPE> TYPEs()`,
-# which HEADER declares with TYPE.
+# target's folders defines `TYPE NAMEPiece()`, and a generated source gives all of them as `std::vector<TYPE> TYPEs()`
+# in the order of their `Place`; HEADER declares it with TYPE.
 function(quillon_collect name piece type header)
   string(SUBSTRING ${piece} 0 1 first)
   string(SUBSTRING ${piece} 1 -1 rest)
@@ -85,7 +85,21 @@ function(quillon_collect name piece type header)
     endforeach()
   endforeach()
   file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/pieces/${type}s.cpp CONTENT
-       "#include \"${header}\"\n\nnamespace quillon {\n\n${declared}\nstd::vector<${type}> ${type}s() { return {${listed}}; }\n\n}  // namespace quillon\n")
+"#include \"${header}\"
+
+#include <algorithm>
+
+namespace quillon {
+
+${declared}
+std::vector<${type}> ${type}s() {
+  std::vector<${type}> all{${listed}};
+  std::stable_sort(all.begin(), all.end(), [](const ${type}& a, const ${type}& b) { return a.Place < b.Place; });
+  return all;
+}
+
+}  // namespace quillon
+")
   target_sources(quillon_${name} PRIVATE ${CMAKE_BINARY_DIR}/pieces/${type}s.cpp)
 endfunction()
 

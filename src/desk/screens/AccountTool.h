@@ -14,7 +14,7 @@ struct AccountTool {
   void (*Open)(frmAccount&);  ///< on the statement's account and period
 };
 
-/// Those of all files NAME.tool.cpp, in no order.
+/// Those of all files NAME.tool.cpp, in the order of their places.
 std::vector<AccountTool> AccountTools();
 
 }  // namespace quillon

@@ -64,7 +64,7 @@ class frmAccount : public ListScreen, public AccountPeriod {
  private:
   struct Sums;
 
-  void PlaceControls();
+  void DesignControls();
   void SetColumns();
   bool AskAccount();
   void OpenAnother();

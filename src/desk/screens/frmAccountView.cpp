@@ -3,7 +3,6 @@
 #include "host/data/CDataSet.h"
 #include "host/forms/Runtime.h"
 #include "host/services/ISession.h"
-#include "host/services/IStd.h"
 
 namespace quillon {
 
@@ -43,15 +42,12 @@ frmAccountView::frmAccountView()
                   .origin = Origin::Desk,
                   .onlyCloses = true}),
       Grid(*this, "Grid") {
-  Grid.Move(0, 0, Width, Height - 720);
   Member("AccountCode", AccountCode);
+  DesignControls();
 }
 
 void frmAccountView::LoadDialog() {
-  Grid.Cols = 2;
-  gStd->SetupGrid(Grid);
-  gStd->SetGridColumn(Grid, 0, "", 0.25, kAlignLeft);
-  gStd->SetGridColumn(Grid, 1, "", 0.7, kAlignLeft);
+  SetColumns();
   Grid.Rows = static_cast<int>(std::size(kFields)) + 1;
   CDataSet account;
   account.Open("Select a.*,c.CtgName from FAMaster a left join CtgMaster c on a.mbshno=c.CtgNo where a.mcd=" +

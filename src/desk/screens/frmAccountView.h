@@ -19,6 +19,10 @@ class frmAccountView : public DialogForm {
 
  protected:
   void LoadDialog() override;
+
+ private:
+  void DesignControls();
+  void SetColumns();
 };
 
 }  // namespace quillon

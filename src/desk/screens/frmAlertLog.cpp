@@ -70,9 +70,7 @@ frmAlertLog::frmAlertLog()
                   .onlyCloses = true}),
       lblHeading(*this, "lblHeading"),
       Grid(*this, "Grid") {
-  lblHeading.Move(120, 90, Width - 240, 360);
-  Grid.Move(0, 510, Width, Height - 510 - 630);
-  Grid.Rows = 1;
+  DesignControls();
 }
 
 void frmAlertLog::OnKeyDown(KeyEvent& key) {

@@ -24,6 +24,9 @@ class frmAlertLog : public DialogForm {
 
  protected:
   void OnKeyDown(KeyEvent& key) override;
+
+ private:
+  void DesignControls();
 };
 
 }  // namespace quillon

@@ -34,6 +34,8 @@ class frmFilterAc : public DialogForm {
   bool Confirm() override;
 
  private:
+  void DesignControls();
+
   std::vector<std::int64_t> codes_;  // of the list's items
 };
 

@@ -42,6 +42,7 @@ class frmSelectAc : public DialogForm {
   bool Confirm() override;
 
  private:
+  void DesignControls();
   void TellNotFound(const std::string& typed);
   void Take();
 };

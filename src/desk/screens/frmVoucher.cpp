@@ -43,13 +43,7 @@ frmVoucher::frmVoucher()
   Grid.RowChange = [this](int row) { MStrip1.Code = ValInteger(Grid.Cell(row, col::kCode)); };
 }
 
-void frmVoucher::BuildBar() { BtnBar1.AddButtons({"Exit,Esc : Exit,Close"}); }
-
-void frmVoucher::PlaceControls() {
-  constexpr long kLine = 390;
-  lblDocument.Move(0, BtnBar1.Top - 2 * kLine, Width, kLine);
-  lblLeaf.Move(0, BtnBar1.Top - kLine, Width, kLine);
-  Grid.Move(0, ContentTop(), Width, lblDocument.Top - ContentTop());
+void frmVoucher::SetColumns() {
   gStd->SetupGrid(Grid);
   Grid.Cols = col::kCount;
   SetColumnsInTwips(Grid, {
@@ -64,7 +58,8 @@ void frmVoucher::PlaceControls() {
 }
 
 void frmVoucher::LoadScreen() {
-  PlaceControls();
+  DesignControls();
+  SetColumns();
   const std::shared_ptr<FinYear> year = gSession->NewYear();
   bool ok = false;
   year->Init(true);
@@ -79,8 +74,8 @@ void frmVoucher::FillLines(CDbLink& db) {
   CDataSet lines;
   lines.Open(
       "Select a.dcd,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dBankDate,b.mhd,b.mst,n.Narration from (FAData a "
-      "left "
-      "join FAMaster b on a.dcd=b.mcd) left join FANar n on a.NarrationID=n.NarrationID where a.VoucherID=" +
+      "left join FAMaster b on a.dcd=b.mcd) left join FANar n on a.NarrationID=n.NarrationID where "
+      "a.VoucherID=" +
           std::to_string(VoucherID) + " order by a.dVchSubNo",
       db);
   Grid.Rows = static_cast<int>(lines.RecordCount()) + 1;

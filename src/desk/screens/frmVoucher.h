@@ -29,7 +29,8 @@ class frmVoucher : public ScreenForm {
   GridModel* MainGrid() override { return &Grid; }
 
  private:
-  void PlaceControls();
+  void DesignControls();
+  void SetColumns();
   void FillLines(CDbLink& db);
   void ShowDocuments(CDbLink& db);
   void ShowLeaves(CDbLink& db);
