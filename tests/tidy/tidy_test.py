@@ -11,7 +11,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent.parent
 
 def read_arrows():
-    """What each folder of src may include beside itself, from the table that CMake reads too."""
+    """The table that CMake reads too: what each folder of src may include beside itself, and its targets."""
     folders, may_see = {}, {}
     for line in (ROOT / "cmake/arrows.txt").read_text(encoding="utf-8").splitlines():
         if line.startswith("#") or not line.strip():
@@ -23,10 +23,10 @@ def read_arrows():
         folder: {other for name in [target, *may_see[target]] for other in folders[name]} - {folder}
         for target, own in folders.items()
         for folder in own
-    }
+    }, set(folders)
 
 
-MAY_SEE = read_arrows()
+MAY_SEE, TARGETS = read_arrows()
 
 LONGEST_FUNCTION = 70
 MONEY = re.compile(
@@ -190,9 +190,20 @@ def check_reached(texts):
         if path.name == "main.cpp" and name.startswith("src/"):
             built = folder in programs
         else:
-            built = folder in MAY_SEE or re.search(r"^\s*quillon_(?:desk_)?test\(", own, re.MULTILINE) or path.name in own + above
+            calls = re.search(r"^\s*quillon_(?:desk_)?test\(", own, re.MULTILINE)
+            collected = path.parent.parent.name == "tests" and path.parent.name in TARGETS and not own
+            built = folder in MAY_SEE or calls or collected or path.name in own + above
         if not built:
             fault(name, 1, "no target compiles this source", "name it in its CMakeLists.txt or remove it")
+
+
+def check_guide():
+    """Chapters that the index of the guide does not list."""
+    guide = ROOT / "docs/guide"
+    listed = set(re.findall(r"\]\(([\w-]+\.md)\)", (guide / "README.md").read_text(encoding="utf-8")))
+    for chapter in guide.glob("*.md"):
+        if chapter.name not in listed | {"README.md"}:
+            fault(chapter.relative_to(ROOT), 1, "the guide's index does not list this chapter", "name it in docs/guide/README.md")
 
 
 def check_format(names):
@@ -221,6 +232,7 @@ def main():
             check_includes(name, text)
             check_money(name, text)
     check_reached(texts)
+    check_guide()
     formatted = check_format([name for name in texts if is_code(name)])
     for name, line, text in sorted(faults):
         print(f"{name}:{line}: {text}")
