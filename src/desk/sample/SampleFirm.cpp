@@ -1,7 +1,9 @@
 #include "desk/sample/SampleFirm.h"
 
 #include <algorithm>
+#include <string_view>
 
+#include "books/Right.h"
 #include "desk/firm/Firm.h"
 #include "desk/firm/Schema.h"
 #include "desk/sample/SampleMasters.h"
@@ -40,10 +42,9 @@ void FillCommon(FirebirdLink& common) {
     common.ExecuteWith("insert into Users (UserName,UserLevel) values (?,?)", values);
   }
   // The clerk works everywhere but prints no reconciliation.
-  const std::pair<const char*, const char*> rights[] = {
-      {"mst.labels", "NP"}, {"mst.envelopes", "NP"}, {"mst.mailmerge", "NP"}, {"acst.reconciliation", "N"}};
-  for (const auto& [key, actions] : rights) {
-    const Variant values[] = {"Clerk", key, actions};
+  for (const Right& right : Rights()) {
+    const bool prints = std::string_view(right.Key) != "acst.reconciliation";
+    const Variant values[] = {"Clerk", right.Key, prints ? "NP" : "N"};
     common.ExecuteWith("insert into UserRights (UserName,RightKey,Actions) values (?,?,?)", values);
   }
 }

@@ -1,0 +1,7 @@
+#include "books/Right.h"
+
+namespace quillon {
+
+Right AddressLabelsRight() { return {10, "mst.labels", "Address Labels"}; }
+
+}  // namespace quillon

@@ -1,0 +1,7 @@
+#include "books/Right.h"
+
+namespace quillon {
+
+Right ReconciliationRight() { return {40, "acst.reconciliation", "Bank Reconciliation"}; }
+
+}  // namespace quillon
