@@ -31,18 +31,24 @@ Script::Script(std::istream& in, Desk& desk, DriverRuntime& runtime, EventLog& l
 
 Script::Command Script::Find(const std::string& name) {
   static const std::map<std::string, Command> kCommands = {
-      {"firm", &Script::DoFirm},       {"form", &Script::DoForm},       {"menu", &Script::DoMenu},
-      {"set", &Script::DoSet},         {"get", &Script::DoGet},         {"call", &Script::DoCall},
-      {"show", &Script::DoShow},       {"close", &Script::DoClose},     {"forms", &Script::DoForms},
-      {"key", &Script::DoKey},         {"focus", &Script::DoFocus},     {"type", &Script::DoType},
-      {"paste", &Script::DoPaste},     {"click", &Script::DoClick},     {"dblclick", &Script::DoDblClick},
-      {"bar", &Script::DoBar},         {"choose", &Script::DoChoose},   {"check", &Script::DoCheck},
-      {"row", &Script::DoRow},         {"cell", &Script::DoCell},       {"range", &Script::DoRange},
-      {"gridrow", &Script::DoGridRow}, {"scroll", &Script::DoScroll},   {"pickbutton", &Script::DoPickButton},
-      {"picked", &Script::DoPicked},   {"popup", &Script::DoPopup},     {"answer", &Script::DoAnswer},
-      {"state", &Script::DoState},     {"tree", &Script::DoTree},       {"query", &Script::DoQuery},
-      {"execute", &Script::DoExecute}, {"setting", &Script::DoSetting}, {"picture", &Script::DoPicture},
-      {"trace", &Script::DoTrace}};
+      {"firm", &Script::DoFirm},         {"form", &Script::DoForm},
+      {"menu", &Script::DoMenu},         {"set", &Script::DoSet},
+      {"get", &Script::DoGet},           {"call", &Script::DoCall},
+      {"show", &Script::DoShow},         {"close", &Script::DoClose},
+      {"forms", &Script::DoForms},       {"key", &Script::DoKey},
+      {"focus", &Script::DoFocus},       {"type", &Script::DoType},
+      {"paste", &Script::DoPaste},       {"click", &Script::DoClick},
+      {"dblclick", &Script::DoDblClick}, {"bar", &Script::DoBar},
+      {"choose", &Script::DoChoose},     {"check", &Script::DoCheck},
+      {"row", &Script::DoRow},           {"cell", &Script::DoCell},
+      {"range", &Script::DoRange},       {"gridrow", &Script::DoGridRow},
+      {"scroll", &Script::DoScroll},     {"pickbutton", &Script::DoPickButton},
+      {"picked", &Script::DoPicked},     {"popup", &Script::DoPopup},
+      {"answer", &Script::DoAnswer},     {"state", &Script::DoState},
+      {"tree", &Script::DoTree},         {"query", &Script::DoQuery},
+      {"execute", &Script::DoExecute},   {"setting", &Script::DoSetting},
+      {"picture", &Script::DoPicture},   {"trace", &Script::DoTrace},
+      {"menuline", &Script::DoMenuLine}};
   const auto known = kCommands.find(name);
   if (known == kCommands.end()) throw HostError("There is no command \"" + name + "\"");
   return known->second;

@@ -5,6 +5,7 @@
 #include "desk/qt/windows/FormPicture.h"
 #include "host/data/CDataSet.h"
 #include "host/forms/WindowHandle.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -41,6 +42,24 @@ Json Script::DoMenu(const Json& command) {
     bool cancel = false;
     gApp->MainWindow().MainMenuClick.Raise(key, cancel);
   });
+}
+
+Json Script::DoMenuLine(const Json& command) {
+  RequireFirm();
+  DeskMenu& menu = desk_.Menu();
+  if (command.contains("key")) {
+    if (const FormPtr form = runtime_.ActiveForm(); form && form->IsModal())
+      throw Refused("The form " + form->Name() + " keeps the menus away");
+    return Act([&] { menu.Pick(command.at("key").get<std::string>()); });
+  }
+  Json lines = Json::array();
+  for (const DeskMenuLine& line : menu.Lines()) {
+    lines.push_back({{"key", line.Key},
+                     {"menu", text::ReplaceAll(line.Menu, "&", "")},
+                     {"caption", text::ReplaceAll(line.Caption, "&", "")},
+                     {"enabled", menu.IsOn(line)}});
+  }
+  return {{"lines", lines}};
 }
 
 Json Script::DoSet(const Json& command) {

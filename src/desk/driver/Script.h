@@ -54,6 +54,7 @@ class Script {
   Json DoFirm(const Json& command);
   Json DoForm(const Json& command);
   Json DoMenu(const Json& command);
+  Json DoMenuLine(const Json& command);
   Json DoSet(const Json& command);
   Json DoGet(const Json& command);
   Json DoCall(const Json& command);

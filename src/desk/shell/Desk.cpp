@@ -36,6 +36,7 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
   session_->AddModule(module_->ID(), *module_);
   unfinished_ = std::make_unique<UnfinishedWork>(*session_);
   module_->Init(app_->MainWindow());
+  menu_ = std::make_unique<DeskMenu>(*module_, *session_);
 }
 
 void Desk::CloseFirm() {
@@ -49,6 +50,7 @@ void Desk::CloseFirm() {
       gRuntime->TellError("", form.get(), error);
     }
   }
+  menu_.reset();
   unfinished_.reset();
   app_.reset();
   screens_.reset();

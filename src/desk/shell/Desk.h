@@ -4,6 +4,7 @@
 #include <string>
 
 #include "desk/print/DeskReports.h"
+#include "desk/screens/DeskMenu.h"
 #include "desk/screens/DeskScreens.h"
 #include "desk/services/DeskApp.h"
 #include "desk/services/DeskSession.h"
@@ -41,6 +42,7 @@ class Desk {
   IModule& Module() { return *module_; }
   DeskSession& Session() { return *session_; }
   DeskApp& App() { return *app_; }
+  DeskMenu& Menu() { return *menu_; }
 
  private:
   int PrinterMode() const;
@@ -52,6 +54,7 @@ class Desk {
   std::unique_ptr<DeskScreens> screens_;
   std::unique_ptr<DeskSession> session_;
   std::unique_ptr<DeskApp> app_;
+  std::unique_ptr<DeskMenu> menu_;
   std::unique_ptr<UnfinishedWork> unfinished_;
 };
 

@@ -234,13 +234,6 @@ void DeskWindow::OpenAccount() {
   });
 }
 
-void DeskWindow::RaiseMenu(const std::string& key) {
-  Acts::Run([&] {
-    bool cancel = false;
-    gApp->MainWindow().MainMenuClick.Raise(key, cancel);
-  });
-}
-
 void DeskWindow::OnReport(const ReportShown& report) {
   if (report.Pages == 0) return;
   if (report.Sheets.Pages.empty()) {
@@ -271,6 +264,7 @@ void DeskWindow::ShowBusy(bool on, const std::string& text) {
 void DeskWindow::ShowState() {
   const bool open = desk_->HasFirm();
   for (QAction* act : firmActs_) act->setEnabled(open);
+  ShowMenuLines();
   if (!open) {
     firm_->clear();
     start_->ShowFirm(QString());

@@ -10,6 +10,7 @@
 #include "desk/shell/Desk.h"
 
 class QLabel;
+class QMenu;
 
 namespace quillon {
 
@@ -50,11 +51,14 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   QMenu* AddMenu(const QString& title);
   void BuildFirmMenu();
   void BuildBooksMenu();
-  void BuildMastersMenu();
   void BuildWindowsMenu();
   void BuildHelpMenu();
   void AddZooms(QMenu& menu);
   void FillWindows(QMenu& menu);
+
+  /// Makes the lines anew that the firm's module and user have.
+  void ShowMenuLines();
+  QMenu& MenuOfLine(const QString& title);
   QAction* AddAct(QMenu& menu, const QString& text, const QKeySequence& key, void (DeskWindow::*act)());
 
   /// Asks each form whether it may close; false when one refused.
@@ -67,7 +71,6 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   void AskUser();
   void OpenStatement();
   void OpenAccount();
-  void RaiseMenu(const std::string& key);
   void ShowKeys();
   void ShowAbout();
   void ShowBusy(bool on, const std::string& text);
@@ -85,6 +88,9 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   QLabel* busy_;
   QString folder_;
   QList<QAction*> firmActs_;
+  QList<QAction*> lineActs_;
+  QList<QMenu*> lineMenus_;  // those that stand for their lines alone
+  QMenu* windows_ = nullptr;
   std::unique_ptr<Desk> desk_;
 };
 

@@ -8,25 +8,12 @@
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/dialogs/KeysDialog.h"
 #include "desk/qt/windows/QtRuntime.h"
-#include "host/services/ISession.h"
 
 namespace quillon {
 
 namespace {
 
 constexpr int kZooms[] = {90, 100, 110, 125, 150, 175, 200};
-
-/// The main menu's items that a module may answer.
-struct ModuleItem {
-  const char* title;
-  const char* menuKey;
-  const char* formKey;
-};
-constexpr ModuleItem kMasters[] = {
-    {"Address &Labels", "AddLabels", "addresslabels"},
-    {"&Envelopes", "Envelopes", "envelopeprint"},
-    {"&Mail Merge", "MailMerge", "mailmerge"},
-};
 
 }  // namespace
 
@@ -43,7 +30,6 @@ QAction* DeskWindow::AddAct(QMenu& menu, const QString& text, const QKeySequence
 void DeskWindow::BuildMenus() {
   BuildFirmMenu();
   BuildBooksMenu();
-  BuildMastersMenu();
   BuildWindowsMenu();
   BuildHelpMenu();
 }
@@ -75,19 +61,36 @@ void DeskWindow::BuildBooksMenu() {
   firmActs_ << accounts << statement;
 }
 
-void DeskWindow::BuildMastersMenu() {
-  QMenu& menu = *AddMenu(QStringLiteral("&Masters"));
-  for (const ModuleItem& item : kMasters) {
-    QAction* const act = menu.addAction(QString::fromLatin1(item.title));
-    connect(act, &QAction::triggered, this, [this, &item] { RaiseMenu(item.menuKey); });
-    connect(&menu, &QMenu::aboutToShow, act, [this, act, &item] {
-      act->setEnabled(desk_->HasFirm() && desk_->Module().GetForm(item.formKey) != nullptr);
-    });
+QMenu& DeskWindow::MenuOfLine(const QString& title) {
+  for (const QAction* act : menuBar()->actions()) {
+    if (act->menu() != nullptr && act->menu()->title() == title) return *act->menu();
+  }
+  lineMenus_ << new QMenu(title, menuBar());
+  menuBar()->insertMenu(windows_->menuAction(), lineMenus_.back());
+  return *lineMenus_.back();
+}
+
+void DeskWindow::ShowMenuLines() {
+  qDeleteAll(lineActs_);
+  lineActs_.clear();
+  qDeleteAll(lineMenus_);
+  lineMenus_.clear();
+  if (!desk_->HasFirm()) return;
+  DeskMenu& lines = desk_->Menu();
+  for (const DeskMenuLine& line : lines.Lines()) {
+    QAction* const act = MenuOfLine(QString::fromUtf8(line.Menu)).addAction(QString::fromUtf8(line.Caption));
+    act->setObjectName(QString::fromUtf8(line.Key));
+    act->setShortcut(QKeySequence::fromString(QString::fromUtf8(line.Shortcut)));
+    act->setEnabled(lines.IsOn(line));
+    connect(act, &QAction::triggered, this,
+            [this, key = std::string(line.Key)] { Acts::Run([&] { desk_->Menu().Pick(key); }); });
+    lineActs_ << act;
   }
 }
 
 void DeskWindow::BuildWindowsMenu() {
-  QMenu& menu = *AddMenu(QStringLiteral("&Windows"));
+  windows_ = AddMenu(QStringLiteral("&Windows"));
+  QMenu& menu = *windows_;
   connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { FillWindows(menu); });
   // The keys of the zoom hold before the menu was ever opened.
   AddZooms(menu);
