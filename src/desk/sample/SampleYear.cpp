@@ -2,24 +2,30 @@
 
 #include <algorithm>
 
+#include "desk/sample/SamplePiece.h"
+
 namespace quillon {
 
 namespace {
 
 constexpr int kBanks[] = {SampleCode::kMainBank, SampleCode::kCreditBank, SampleCode::kThirdBank};
-constexpr int kLeavesInBook = 50;
-constexpr int kFirstCheque = 470001;
 
 }  // namespace
 
 SampleYear::SampleYear(FirebirdLink& year, const SampleMasters& masters, SampleRandom& random, Date start,
                        Date end)
-    : year_(year), masters_(masters), random_(random), start_(start), end_(end), books_(year) {}
+    : year_(year),
+      masters_(masters),
+      random_(random),
+      start_(start),
+      end_(end),
+      books_(year),
+      cheques_(random) {}
 
 void SampleYear::Write(SampleCarry& carry, const SampleOptions& options, bool isLast) {
   year_.BeginTrans();
-  nextNumber_ = carry.NextCheque;
-  for (const int bank : kBanks) ReceiveBook(bank, start_.AddDays(-10));
+  cheques_.Begin(carry.NextCheque);
+  for (const int bank : kBanks) cheques_.ReceiveBook(bank, start_.AddDays(-10));
   masters_.Write(year_, start_);
   WriteOpenings(carry);
   const int before = books_.Vouchers();
@@ -36,7 +42,9 @@ void SampleYear::Write(SampleCarry& carry, const SampleOptions& options, bool is
   WriteYearEnd();
   while (books_.Vouchers() - before < options.Vouchers) Journal(end_);
   if (!isLast) books_.PostClosing(end_);
-  WriteLeaves(carry);
+  for (const SamplePiece& piece : SamplePieces())
+    piece.Write({year_, masters_, books_, cheques_, start_, end_});
+  carry.NextCheque = cheques_.NextNumbers();
   Close(carry);
   year_.CommitTrans();
 }
@@ -67,54 +75,6 @@ int SampleYear::Post(SampleVoucher voucher) {
   }
   open_.push_back(std::move(voucher));
   return id;
-}
-
-void SampleYear::ReceiveBook(int bank, Date day) {
-  int& number = nextNumber_[bank];
-  if (number == 0) number = kFirstCheque + (bank - SampleCode::kMainBank) * 100000;
-  for (int i = 0; i < kLeavesInBook; ++i) {
-    Leaf leaf;
-    leaf.Bank = bank;
-    leaf.Number = number++;
-    leaf.Received = day;
-    leaves_[bank].push_back(leaf);
-  }
-}
-
-SampleYear::Leaf& SampleYear::NextLeaf(int bank, Date day) {
-  std::size_t& next = nextLeaf_[bank];
-  for (;;) {
-    if (next == leaves_[bank].size()) ReceiveBook(bank, day);
-    Leaf& leaf = leaves_[bank][next++];
-    leaf.IsCancelled = random_.InThousand(30);
-    if (!leaf.IsCancelled) return leaf;
-  }
-}
-
-void SampleYear::WriteLeaves(SampleCarry& carry) {
-  int id = 0;
-  for (const auto& [bank, leaves] : leaves_) {
-    for (const Leaf& leaf : leaves) {
-      const Variant none = Variant::Null();
-      const bool isIssued = leaf.Voucher != 0;
-      const Variant values[] = {++id,
-                                bank,
-                                leaf.Number,
-                                leaf.Received,
-                                leaf.Issued,
-                                isIssued ? Variant(leaf.Voucher) : none,
-                                leaf.IsCancelled ? Variant("Y") : none,
-                                isIssued ? Variant(leaf.Party) : none,
-                                isIssued ? Variant(leaf.Voucher) : none,
-                                isIssued ? Variant(leaf.Value) : none};
-      year_.ExecuteWith(
-          "insert into ChqLeaves "
-          "(ID,BankCode,ChqNo,RctDate,IsuDate,VoucherID,Cancelled,PartyCode,NarrationID,Amount) "
-          "values (?,?,?,?,?,?,?,?,?,?)",
-          values);
-    }
-  }
-  carry.NextCheque = nextNumber_;
 }
 
 /// Incomes and expenses end with the year: their balances become the capital's.

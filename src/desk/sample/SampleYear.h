@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "desk/sample/SampleBooks.h"
+#include "desk/sample/SampleCheques.h"
 #include "desk/sample/SampleFirm.h"
 #include "desk/sample/SampleMasters.h"
 #include "desk/sample/SampleRandom.h"
@@ -28,22 +29,10 @@ class SampleYear {
   void Write(SampleCarry& carry, const SampleOptions& options, bool isLast);
 
  private:
-  struct Leaf {
-    int Bank = 0;
-    int Number = 0;
-    Date Received;
-    Date Issued;
-    int Voucher = 0;
-    int Party = 0;
-    Amount Value;
-    bool IsCancelled = false;
-  };
-
   void WriteOpenings(const SampleCarry& carry);
   void WriteMonth(Date day);
   void WriteYearEnd();
   void WriteTrade(Date day);
-  void WriteLeaves(SampleCarry& carry);
   void Close(SampleCarry& carry);
 
   int Post(SampleVoucher voucher);
@@ -69,8 +58,6 @@ class SampleYear {
   const SampleAccount& PickCreditor() { return *random_.Pick(masters_.Creditors()); }
   void Clear(SampleVoucher& voucher);
   std::string TheirCheque();
-  Leaf& NextLeaf(int bank, Date day);
-  void ReceiveBook(int bank, Date day);
 
   FirebirdLink& year_;
   const SampleMasters& masters_;
@@ -79,9 +66,7 @@ class SampleYear {
   Date end_;
   SampleBooks books_;
   std::vector<SampleVoucher> open_;
-  std::map<int, std::vector<Leaf>> leaves_;
-  std::map<int, std::size_t> nextLeaf_;
-  std::map<int, int> nextNumber_;
+  SampleCheques cheques_;
 };
 
 }  // namespace quillon

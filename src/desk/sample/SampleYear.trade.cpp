@@ -105,7 +105,7 @@ void SampleYear::BankPayment(Date day) {
   const int bank = PickBank();
   const SampleAccount& party = PickCreditor();
   const Amount value = random_.Money();
-  Leaf& leaf = NextLeaf(bank, day);
+  SampleLeaf& leaf = cheques_.NextLeaf(bank, day);
   SampleVoucher voucher =
       Voucher(day, SampleVoucher::BankBook(bank), SampleVoucher::PaymentType(bank),
               "Paid by Chq.No. " + std::to_string(leaf.Number), party.Code, bank, value, kPaymentNature);
