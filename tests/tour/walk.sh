@@ -4,14 +4,14 @@ set -euo pipefail
 sample=$1
 tour=$2
 zoom=$3
-script=$(cd "$(dirname "$0")/../.." && pwd)/scripts/tour.txt
+script=$(cd "$(dirname "$0")/../.." && pwd)/scripts/tour
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
 "$sample" "$folder/firm"
 cd "$folder"
 "$tour" "$script" firm pictures "$zoom"
-asked=$(grep -c '^picture ' "$script")
+asked=$(cat "$script"/*.txt | grep -c '^picture ')
 drawn=$(find pictures -name '*.png' -size +5k | wc -l)
 if [ "$asked" -ne "$drawn" ]; then
   echo "$asked pictures are asked for, $drawn were drawn"

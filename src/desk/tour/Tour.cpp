@@ -111,7 +111,7 @@ void Tour::See(const QString& wanted) const {
 }
 
 void Tour::Fail(const TourAct& act, const QString& why) {
-  std::fprintf(stderr, "Line %d of the tour, \"%s %s\": %s\n", act.Line, qPrintable(act.What),
+  std::fprintf(stderr, "Line %d of %s, \"%s %s\": %s\n", act.Line, qPrintable(act.File), qPrintable(act.What),
                qPrintable(act.Rest), qPrintable(why));
   // Whatever still waits for an answer would wait for ever.
   std::_Exit(1);

@@ -18,9 +18,8 @@ namespace {
 
 constexpr const char* kUsage =
     "quillon-tour SCRIPT FIRM OUT [ZOOM]\n"
-    "Walks the desk on the firm in the folder FIRM by the acts of SCRIPT and leaves its pictures in OUT; "
-    "ZOOM in per "
-    "cent.\n";
+    "Walks the desk on the firm in the folder FIRM by the acts of SCRIPT, a file or a folder of them, and "
+    "leaves its pictures in OUT; ZOOM in per cent.\n";
 
 constexpr int kScreenWidth = 1366;
 constexpr int kScreenHeight = 768;
@@ -43,9 +42,7 @@ void ForgetUser(const QTemporaryDir& folder) {
 }
 
 int Walk(const QStringList& words) {
-  std::ifstream script(words[1].toStdString());
-  if (!script) throw quillon::HostError("The script " + words[1].toStdString() + " cannot be read");
-  const std::vector<quillon::TourAct> acts = quillon::ReadTour(script);
+  const std::vector<quillon::TourAct> acts = quillon::ReadTourFiles(words[1].toStdString());
   QDir().mkpath(words[3]);
   const QTemporaryDir printed;
   quillon::QtRuntime runtime(printed.path().toStdString());
