@@ -6,6 +6,7 @@ namespace quillon {
 
 std::span<const FormKey> ChequesForms() {
   static constexpr FormKey kForms[] = {
+      // Returned cheques of a bank account and a period.
       {"chqretreport", MakeForm<frmChqRetReport>},
   };
   return kForms;

@@ -8,8 +8,11 @@ namespace quillon {
 
 std::span<const FormKey> ReconciliationForms() {
   static constexpr FormKey kForms[] = {
+      // Bank reconciliation: the entries, the reconciliation statement, the pass book, the interest.
       {"acreconciliation", MakeForm<frmAcReconciliation>},
+      // Reconciliation markings: the bank's paper keyed in by clear date and cheque number.
       {"acreconciliationmark", MakeForm<frmAcReconciliationMark>},
+      // Interest options.
       {"inttmethod", MakeForm<frmInttMethod>},
   };
   return kForms;
