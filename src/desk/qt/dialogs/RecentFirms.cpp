@@ -24,10 +24,4 @@ void RecentFirms::Add(const QString& given) {
   QSettings().setValue(Key(), folders.mid(0, kMost));
 }
 
-void RecentFirms::Forget(const QString& folder) {
-  QStringList folders = Folders();
-  folders.removeAll(folder);
-  QSettings().setValue(Key(), folders);
-}
-
 }  // namespace quillon

@@ -10,7 +10,6 @@ class RecentFirms {
   /// Folders, the last one opened first.
   static QStringList Folders();
   static void Add(const QString& folder);
-  static void Forget(const QString& folder);
 };
 
 }  // namespace quillon
