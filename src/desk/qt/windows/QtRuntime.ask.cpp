@@ -118,7 +118,10 @@ int QtRuntime::AskPopup(Form& form, Menu& menu, long left, long top) {
   if (!shown.actions().isEmpty()) shown.setActiveAction(shown.actions().front());
   const QPoint place(Scale::Px(left), Scale::Px(top));
   FormView* const view = ViewOf(form);
-  QAction* const taken = shown.exec(view != nullptr ? view->mapToGlobal(place) : place);
+  QPoint corner = view != nullptr ? view->mapToGlobal(place) : place;
+  // A menu of the bar opens upwards, so that its button stays in sight.
+  if (view != nullptr && place.y() > view->height() / 2) corner.ry() -= shown.sizeHint().height();
+  QAction* const taken = shown.exec(corner);
   return static_cast<int>(shown.actions().indexOf(taken));
 }
 
