@@ -45,14 +45,16 @@ double RatioTable::Fast(const Acts& acts, const Line& line, const char* who) {
 }
 
 void RatioTable::PrintTimes(const char* heading, const Acts& acts) const {
-  std::printf("\n%-30s | %7s | %9s | %9s %6s | %9s %6s\n", heading, "entries", kDesk, "by text", "ratio",
-              "prepared", "ratio");
+  std::printf("\n%-30s | %7s | %9s | %9s %6s | %9s %6s | %9s %6s\n", heading, "entries", kDesk, "by text",
+              "ratio", "prepared", "ratio", "lean", "ratio");
   for (const Line& line : lines_) {
     const double desk = Fast(acts, line, kDesk);
     const double text = Fast(acts, line, kFloorByText);
     const double prepared = Fast(acts, line, kFloorPrepared);
-    std::printf("%-30s | %7d | %9.3f | %9.3f %6s | %9.3f %6s\n", line.Title, line.Entries, desk, text,
-                Ratio(desk, text).c_str(), prepared, Ratio(desk, prepared).c_str());
+    const double lean = Fast(acts, line, kFloorLean);
+    std::printf("%-30s | %7d | %9.3f | %9.3f %6s | %9.3f %6s | %9.3f %6s\n", line.Title, line.Entries, desk,
+                text, Ratio(desk, text).c_str(), prepared, Ratio(desk, prepared).c_str(), lean,
+                Ratio(desk, lean).c_str());
   }
 }
 

@@ -59,5 +59,6 @@ class RatioTable {
 inline constexpr const char* kDesk = "desk";
 inline constexpr const char* kFloorByText = "floor by text";
 inline constexpr const char* kFloorPrepared = "floor prepared";
+inline constexpr const char* kFloorLean = "floor lean";
 
 }  // namespace quillon::bench

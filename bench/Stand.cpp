@@ -1,5 +1,7 @@
 #include "bench/Stand.h"
 
+#include "bench/BenchFirm.h"
+
 namespace quillon::bench {
 
 namespace {
@@ -8,22 +10,66 @@ constexpr const char* kConnection = "select current_connection from rdb$database
 
 std::string ThisConnection(RawClient& client) { return std::to_string(client.Numbers(kConnection).at(0)); }
 
+const std::string kAccount = "a.dcd=" + std::to_string(kBank) + " and a.dBook<>'MEM' and a.dBook<>'0B'";
+const std::string kOpen = kAccount + " and a.dBankDate is null";
+const std::string kCleared = kAccount + " and a.dBankDate between '2024-04-01' and '2025-03-31'";
+
+/// The entries with their narrations in the order asked for.
+std::string Entries(const std::string& condition, const std::string& order) {
+  return "select a.*,n.Narration from (select a.VoucherID,a.dVchSubNo,a.dVchDate,a.dBook,a.dAmt,a.dBankDate,"
+         "a.NarrationID from FAData a where " +
+         condition + " order by " + order + ") a left join FANar n on a.NarrationID=n.NarrationID";
+}
+
+/// Their other sides together.
+std::string OtherSides(const std::string& condition) {
+  return "select l.VoucherID,l.dcd,l.dAmt from FAData a join FAData l on l.VoucherID=a.VoucherID and "
+         "l.dVchSubNo<>a.dVchSubNo where " +
+         condition;
+}
+
 }  // namespace
 
 const std::vector<Case>& Cases() {
   static const auto nothing = [](DeskWork&) {};
+  static const std::string byDay = "a.dVchDate,a.dBook";
+  static const std::string byClearing = "a.dBankDate,a.dVchNo,a.dSrNo";
   static const std::vector<Case> cases = {
-      {"Statement of account", &DeskWork::CloseForms, &DeskWork::OpenStatement, &DeskWork::CloseForms},
+      {"Statement of account",
+       &DeskWork::CloseForms,
+       &DeskWork::OpenStatement,
+       &DeskWork::CloseForms,
+       1,
+       {"select a.VoucherID,a.dVchSubNo,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dTrnNature,a.dBankDate,"
+        "a.NarrationID from FAData a where " +
+            kAccount + " order by a.dVchDate",
+        "select VoucherID from FADocs where ChqReturn='Y'"}},
       {"Workbench opened", &DeskWork::ReadyStatement, &DeskWork::OpenWorkbench, &DeskWork::CloseWorkbench},
       {"Date stored", &DeskWork::ReadyEntries, &DeskWork::StoreDate, nothing, DeskWork::kRows},
-      {"Reconciliation, no references", [](DeskWork& desk) { desk.ReadyReconciliation(true); },
-       &DeskWork::PressReferences, nothing},
-      {"Reconciliation, references", [](DeskWork& desk) { desk.ReadyReconciliation(false); },
-       &DeskWork::PressReferences, nothing},
-      {"Pass book, no references", [](DeskWork& desk) { desk.ReadyPassBook(true); },
-       &DeskWork::PressReferences, nothing},
-      {"Pass book, references", [](DeskWork& desk) { desk.ReadyPassBook(false); }, &DeskWork::PressReferences,
-       nothing},
+      {"Reconciliation, no references",
+       [](DeskWork& desk) { desk.ReadyReconciliation(true); },
+       &DeskWork::PressReferences,
+       nothing,
+       1,
+       {Entries(kOpen, byDay)}},
+      {"Reconciliation, references",
+       [](DeskWork& desk) { desk.ReadyReconciliation(false); },
+       &DeskWork::PressReferences,
+       nothing,
+       1,
+       {Entries(kOpen, byDay), OtherSides(kOpen)}},
+      {"Pass book, no references",
+       [](DeskWork& desk) { desk.ReadyPassBook(true); },
+       &DeskWork::PressReferences,
+       nothing,
+       1,
+       {Entries(kCleared, byClearing)}},
+      {"Pass book, references",
+       [](DeskWork& desk) { desk.ReadyPassBook(false); },
+       &DeskWork::PressReferences,
+       nothing,
+       1,
+       {Entries(kCleared, byClearing), OtherSides(kCleared)}},
       {"Interest", [](DeskWork& desk) { desk.ReadyPassBook(false); }, &DeskWork::ShowInterest, nothing},
       {"Cheque looked up", &DeskWork::ReadyMarkings, &DeskWork::LookUpCheque, nothing, DeskWork::kRows},
       {"1,000 entries marked", &DeskWork::ReadyMassMarking, &DeskWork::MarkThousand, nothing},
@@ -111,6 +157,10 @@ void Stand::RunFloor(bool prepared) {
   for (const Sent& sent : acts_[next_++ % acts_.size()]) {
     prepared ? sent.To->RunPrepared(sent.Sql) : sent.To->Run(sent.Sql);
   }
+}
+
+void Stand::RunLean(const Case& measured) {
+  for (const std::string& sql : measured.Lean) year_.Floor.Run(sql);
 }
 
 }  // namespace quillon::bench

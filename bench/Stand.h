@@ -19,6 +19,9 @@ struct Case {
   std::function<void(DeskWork&)> Act;
   std::function<void(DeskWork&)> Undo;
   int Acts = 1;  ///< to be recorded and counted
+
+  /// The least statements on the year that could fill the view, where they are not those that were sent.
+  std::vector<std::string> Lean = {};
 };
 
 const std::vector<Case>& Cases();
@@ -42,6 +45,9 @@ class Stand {
 
   /// Sends what one act of the recorded case has sent; each call takes the next act.
   void RunFloor(bool prepared);
+
+  /// Sends the least statements of a case.
+  void RunLean(const Case& measured);
 
   const Counts& DeskCounts() const { return desk_; }
   const Counts& FloorCounts() const { return floor_; }

@@ -59,15 +59,26 @@ int Iterations(int entries, const Case& measured) {
   return entries >= 100000 ? 5 : 20;
 }
 
+void RunAct(Stand& stand, const Case& measured, const char* who) {
+  if (who == kDesk) {
+    measured.Act(stand.Work);
+  } else if (who == kFloorLean) {
+    stand.RunLean(measured);
+  } else {
+    stand.RunFloor(who == kFloorPrepared);
+  }
+}
+
 void Register(Grounds& grounds, RatioTable& table, int entries, const Case& measured) {
-  for (const char* who : {kDesk, kFloorByText, kFloorPrepared}) {
+  for (const char* who : {kDesk, kFloorByText, kFloorPrepared, kFloorLean}) {
+    if (who == kFloorLean && measured.Lean.empty()) continue;
     const std::string name = RatioTable::NameOf(measured.Title, entries, who);
     const auto run = [&grounds, &table, &measured, entries, who, name](benchmark::State& state) {
       Stand& stand = grounds.StandOf(entries, measured);
       for ([[maybe_unused]] auto iteration : state) {
         if (who == kDesk) measured.Ready(stand.Work);
         const Times start = Times::Now();
-        who == kDesk ? measured.Act(stand.Work) : stand.RunFloor(who == kFloorPrepared);
+        RunAct(stand, measured, who);
         const Times passed = Times::Now() - start;
         if (who == kDesk) measured.Undo(stand.Work);
         state.SetIterationTime(passed.Wall);

@@ -82,15 +82,15 @@ void EntriesView::MassMark(bool unmark) {
     // Neither the footer nor the statement follows: both stand as they were until they are refreshed.
     marked_.Forget();
     Progress progress(unmark ? "Removing dates" : "Filling dates", grid_.Rows - 1);
+    std::string day;
+    Date date;
     for (int row = 1; row < grid_.Rows; ++row, progress.Step()) {
-      if (!EntryOf(row).IsEntry() || grid_.Cell(row, kDate).empty() || !grid_.IsRowVisible(row)) continue;
-      const Date date = Date::Parse(grid_.Cell(row, kDate));
+      const bool isDated = !grid_.Cell(row, kClearedEdit).empty();
+      if ((isDated && !unmark) || grid_.Cell(row, kDate).empty()) continue;
+      // The rows of a day follow one another.
+      if (grid_.Cell(row, kDate) != day) date = Date::Parse(day = grid_.Cell(row, kDate));
       if (date < period.Date1() || date > period.Date2()) continue;
-      if (unmark) {
-        MassMarkRow(row, Date());
-      } else if (grid_.Cell(row, kClearedEdit).empty()) {
-        MassMarkRow(row, date);
-      }
+      if (grid_.IsRowVisible(row) && EntryOf(row).IsEntry()) MassMarkRow(row, unmark ? Date() : date);
     }
   } catch (const std::exception& error) {
     gApp->ReportError(error, &account_.Screen(), "MassMarking");

@@ -73,14 +73,17 @@ void PassBookView::Fill() {
                                    "dcd=" + account + " and (dBankDate<" + gStd->SqlDate(account_.First()) +
                                        " or " + books::IsOpening() + ") and " + books::InBalances())
                              .ToAmount();
+  const std::string cleared = "a.dcd=" + account + " and a.dBankDate between " +
+                              gStd->SqlDate(account_.First(), account_.Last()) + " and " +
+                              books::InLists("a.dBook");
+  const std::shared_ptr<void> otherSides = account_.ExpectOtherSides(cleared);
   CDataSet entries;
   entries.Open(
-      "Select a.*,n.Narration from FAData a Left Join FANar n on a.NarrationID=n.NarrationID where a.dcd=" +
-          account + " and a.dBankDate between " + gStd->SqlDate(account_.First(), account_.Last()) + " and " +
-          books::InLists("a.dBook") + " order by a.dBankDate,a.dVchNo,a.dSrNo",
+      "Select a.*,n.Narration from FAData a Left Join FANar n on a.NarrationID=n.NarrationID where " +
+          cleared + " order by a.dBankDate,a.dVchNo,a.dSrNo",
       db);
   int row = AddOpening(opening);
-  Progress progress("Reading the entries", 0);
+  Progress progress("Reading the entries", grid_);
   for (; !entries.Eof(); entries.MoveNext(), progress.Step()) {
     if (++row >= grid_.Rows) grid_.Rows = row + kMoreRows;
     AddEntry(entries, row);

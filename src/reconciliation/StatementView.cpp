@@ -138,32 +138,33 @@ Amount StatementView::ShowBooksBalance() {
 void StatementView::Fill() {
   SetColumns();
   const Amount balance = ShowBooksBalance();
-  CDbLink& db = gSession->Year().Db();
   const std::string account = books::SqlNumber(account_.Code());
   const std::string date = gStd->SqlDate(asOn_);
-  const std::string lines =
-      "Select a.*,n.Narration from FAData a,FANar n where a.NarrationID=n.NarrationID and a.dcd=" + account +
-      " and " + books::InLists("a.dBook") + " and ";
-  const std::string order = " order by a.dvchdate,a.dbook";
+  const std::string listed = "a.dcd=" + account + " and " + books::InLists("a.dBook") + " and ";
   Section debitedByUs{"Amounts Debited by us only:-", true, "1", " Cr.", {}};
   Section creditedByUs{"Amounts Credited by us only:-", false, "-1", " Dr.", {}};
   Section notDebited{"Amounts Not Debited by us:-", true, "", " Dr.", {}};
   Section notCredited{"Amounts Not Credited by us:-", false, "", " Cr.", {}};
   int row = 1;
-  CDataSet set;
-  set.Open(lines + "a.dvchdate<=" + date + " and (a.dBankDate is null OR a.dBankDate>" + date + ")" + order,
-           db);
-  AddSection(set, debitedByUs, row);
-  AddSection(set, creditedByUs, row);
-  set.Open(lines + "a.dvchdate>" + date + " and a.dBankDate<=" + date + order, db);
-  AddSection(set, notDebited, row);
-  AddSection(set, notCredited, row);
-  set.Close();
+  AddSections(listed + "a.dvchdate<=" + date + " and (a.dBankDate is null OR a.dBankDate>" + date + ")",
+              debitedByUs, creditedByUs, row);
+  AddSections(listed + "a.dvchdate>" + date + " and a.dBankDate<=" + date, notDebited, notCredited, row);
   AddAdjustedBalance(balance - debitedByUs.sum + creditedByUs.sum + notDebited.sum - notCredited.sum, row);
 }
 
+void StatementView::AddSections(const std::string& condition, Section& debits, Section& credits, int& row) {
+  CDbLink& db = gSession->Year().Db();
+  const std::shared_ptr<void> otherSides = account_.ExpectOtherSides(condition);
+  CDataSet lines;
+  lines.Open("Select a.*,n.Narration from FAData a,FANar n where a.NarrationID=n.NarrationID and " +
+                 condition + " order by a.dvchdate,a.dbook",
+             db);
+  AddSection(lines, debits, row);
+  AddSection(lines, credits, row);
+}
+
 void StatementView::AddSection(CDataSet& lines, Section& section, int& row) {
-  Progress progress("Reading the entries", 0);
+  Progress progress("Reading the entries", grid_);
   for (lines.MoveFirst(); !lines.Eof(); lines.MoveNext(), progress.Step()) {
     const Amount amount = lines.Field("dAmt").ToAmount();
     if (section.debits ? amount <= Amount() : amount >= Amount()) continue;

@@ -40,6 +40,7 @@ class StatementView : public DatedView {
   void SetColumns();
   void Fill();
   Amount ShowBooksBalance();
+  void AddSections(const std::string& condition, Section& debits, Section& credits, int& row);
   void AddSection(CDataSet& lines, Section& section, int& row);
   void AddLine(CDataSet& line, const Section& section, int row);
   void AddAdjustedBalance(Amount balance, int& row);

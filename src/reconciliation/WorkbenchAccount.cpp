@@ -56,6 +56,10 @@ std::string WorkbenchAccount::NarrationWithReference(CDataSet& line) const {
   return text.empty() ? narration : narration + " : " + text;
 }
 
+std::shared_ptr<void> WorkbenchAccount::ExpectOtherSides(const std::string& condition) const {
+  return ShowsReferences ? gApp->ExpectCrossRefs(gSession->Year().Db(), condition) : nullptr;
+}
+
 void WorkbenchAccount::ShowOtherSide(std::int64_t voucher, Amount amount) {
   std::int64_t code = 0;
   std::string text;

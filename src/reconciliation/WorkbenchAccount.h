@@ -46,6 +46,10 @@ class WorkbenchAccount {
   /// The narration of a line of FAData, with the other side's name behind it while references are shown.
   std::string NarrationWithReference(CDataSet& line) const;
 
+  /// As long as the answer is held, the other sides of the lines of FAData, named a, that meet the condition
+  /// are known together; nothing while no references are shown.
+  [[nodiscard]] std::shared_ptr<void> ExpectOtherSides(const std::string& condition) const;
+
   void ShowOtherSide(std::int64_t voucher, Amount amount);
   void OpenVoucher(std::int64_t voucher) const;
 

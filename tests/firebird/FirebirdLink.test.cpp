@@ -64,6 +64,62 @@ class LinkTest : public testing::Test {
   std::shared_ptr<FirebirdLink> link_;
 };
 
+TEST_F(LinkTest, SortsBeforeItJoinsAndGivesTheSameRows) {
+  link_->Execute("update entries set nar=null where id=7");
+  link_->Execute("update entries set nar=9 where id=8");
+  const std::string left =
+      "Select a.*,n.Narration from entries a Left Join narrations n on a.nar=n.nar where ";
+  const std::string both = "Select a.*,n.Narration from entries a,narrations n where a.nar=n.nar and ";
+  for (
+      const std::string& query :
+      {left + "a.id between 2 and 30 and (a.mark is null or a.id>9) order by a.amt",
+       left + "a.id<>4 order by a.vdate,a.nar", both + "a.id<20 order by a.nar,a.id",
+       std::string(
+           "Select n.narration,a.id from entries a join narrations n on n.nar=a.nar where a.id in (1,7,3) order by a.amt")}) {
+    EXPECT_TRUE(link_->Leaner(query)) << query;
+    const std::string plain = "select first 1000 " + query.substr(7) + ",a.id,a.line";
+    ASSERT_FALSE(link_->Leaner(plain));
+    CDataSet lean;
+    CDataSet rows;
+    lean.Open(query, *link_);
+    rows.Open(plain, *link_);
+    ASSERT_EQ(lean.RecordCount(), rows.RecordCount()) << query;
+    for (; !rows.Eof(); rows.MoveNext(), lean.MoveNext()) {
+      for (std::size_t i = 0; i < lean.FieldNames().size(); ++i) {
+        EXPECT_EQ(lean.Field(i).ToText(), rows.Field(i).ToText()) << query;
+      }
+    }
+  }
+}
+
+TEST_F(LinkTest, LeavesOtherQueriesAsTheyStand) {
+  const std::string entries = "select a.id from entries a left join narrations n on a.nar=n.nar where ";
+  for (
+      const std::string& query :
+      {entries + "n.narration='Rent' order by a.id", entries + "a.id=1 order by n.narration",
+       entries + "a.id=1", entries + "id=1 order by a.id", entries + "a.id=1 order by a.id desc",
+       entries + "a.id in (select nar from narrations) order by a.id", entries + "a.amt>1.5 order by a.id",
+       std::string(
+           "select a.id from entries a,narrations n where a.nar=n.nar and a.id=1 or a.id=2 order by a.id"),
+       std::string(
+           "select count(*) from entries a left join narrations n on a.nar=n.nar where a.id=1 order by a.id"),
+       std::string(
+           "select distinct a.id from entries a join narrations n on a.nar=n.nar where a.id=1 order by a.id"),
+       std::string(
+           "select a.id from entries a right join narrations n on a.nar=n.nar where a.id=1 order by a.id")}) {
+    EXPECT_FALSE(link_->Leaner(query)) << query;
+  }
+  const DbError error = ErrorOf([&] {
+    CDataSet set;
+    set.Open(
+        "select a.nil,n.narration from entries a left join narrations n on a.nar=n.nar where a.id=1 order by a.id",
+        *link_);
+  });
+  EXPECT_NE(error.EngineText().find("NIL"), std::string::npos);
+  EXPECT_EQ(error.Statement().find("select a.nil,n.narration from entries a left"), 0U)
+      << "the statement is told as it was asked";
+}
+
 TEST_F(LinkTest, ValuesOfAllTypesComeBackAsTheyWereStored) {
   link_->Execute(
       "create table kinds (id int not null primary key, small smallint, big bigint, money numeric(18,4), "

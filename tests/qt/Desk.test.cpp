@@ -60,6 +60,49 @@ class frmNote : public Form {
   TextBox txtNote;
 };
 
+/// Takes some seconds of the engine's time.
+constexpr const char* kSlow =
+    "select count(*) from rdb$fields a,rdb$fields b,rdb$fields c,rdb$relation_fields d where a.rdb$field_length+b.rdb$field_length+c.rdb$field_length<0";
+
+TEST_F(DeskTest, WhileTheEngineWorksTheWindowsPaintAndKeysWait) {
+  OpenStatement();
+  const auto note = std::make_shared<frmNote>();
+  runtime_.Show(note);
+  int ticks = 0;
+  QTimer clock;
+  QObject::connect(&clock, &QTimer::timeout, [&] { ++ticks; });
+  clock.start(20);
+  const auto press = [&](Qt::Key key, const char* text) {
+    QCoreApplication::postEvent(
+        runtime_.ViewOf(*note)->window()->windowHandle(),
+        new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, QString::fromLatin1(text)));
+  };
+  QTimer::singleShot(200, qApp, [&] {
+    press(Qt::Key_4, "4");
+    press(Qt::Key_7, "7");
+    EXPECT_EQ(note->txtNote.Text(), "");
+    EXPECT_THROW(gSession->MainDb().RowExists("select 1 from rdb$database"), HostError)
+        << "the engine is taken";
+  });
+  QTimer::singleShot(500, qApp, [&] { press(Qt::Key_Escape, ""); });
+  std::string failure;
+  Acts::Run([&] {
+    try {
+      gSession->MainDb().RowExists(kSlow);
+    } catch (const DbError& error) {
+      failure = error.what();
+    }
+    EXPECT_EQ(note->txtNote.Text(), "") << "what was typed waits for the end of the act";
+    EXPECT_TRUE(gSession->MainDb().RowExists("select 1 from rdb$database"))
+        << "only that statement was broken off";
+  });
+  EXPECT_EQ(failure, "The work was broken off.");
+  EXPECT_GT(ticks, 10);
+  QApplication::processEvents();
+  EXPECT_EQ(note->txtNote.Text(), "47");
+  EXPECT_TRUE(note->IsShownToUser());
+}
+
 TEST_F(DeskTest, AModalScreenLiesInTheAreaAndKeepsTheMenusAway) {
   OpenStatement();
   const auto picker = std::make_shared<frmPicker>();

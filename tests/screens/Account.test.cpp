@@ -1,3 +1,4 @@
+#include "host/data/CDataSet.h"
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {
@@ -55,6 +56,71 @@ TEST_F(Account, APeriodBeginsWithAllThatLiesBeforeIt) {
   bare->Set("WithOpening", false);
   Do([&] { gApp->ShowForm(bare); });
   EXPECT_EQ(Rows(bare).front(), "3|BNK||1|1|03-May-2024|BNK|Out||200.00|200.00 Cr.|Y");
+}
+
+TEST_F(Account, NarrationsAreReadWhenSomebodyLooksAtThem) {
+  const FormPtr form = ShowStatement();
+  const FormPtr workbench = ShowWorkbench(form);
+  Statements();
+  EXPECT_EQ(At<CGridPlus>(workbench, "Grid").TextMatrix(3, 11), "Out");
+  EXPECT_EQ(Statements(), Texts{"Select NarrationID,Narration from FANar where NarrationID between 2 and 5"});
+  EXPECT_EQ(At<CGridPlus>(form, "Grid").TextMatrix(2, 11), "In");
+  EXPECT_TRUE(Statements().empty()) << "the copies share what was read";
+}
+
+TEST_F(Account, ANarrationThatCannotBeReadIsNoEmptyOne) {
+  const FormPtr form = ShowStatement();
+  Db().Execute("drop table FANar");
+  const auto& grid = At<CGridPlus>(form, "Grid");
+  EXPECT_THROW(grid.TextMatrix(2, 11), DbError);
+  Key(*form, keys::kF8);
+  EXPECT_EQ(Errors().size(), 1U) << "a page without its narrations is not printed";
+  EXPECT_TRUE(Events("report").empty());
+  EXPECT_EQ(grid.TextMatrix(2, 24), "1,500.25");
+}
+
+TEST_F(Account, EntriesOfADayStandByTheirNumbers) {
+  Db().BeginTrans();
+  for (const int id : {20, 18, 19}) AddVoucher({.id = id, .date = "2024-05-03", .amount = "1"});
+  Db().Execute("update FAData set dSrNo=null where VoucherID=20");
+  Db().Execute("update FAData set dSrNo=1 where VoucherID=19");
+  Db().CommitTrans();
+  const FormPtr form = ShowStatement();
+  EXPECT_EQ(RowTexts(At<CGridPlus>(form, "Grid"), {0}), (Texts{"", "2", "20", "19", "3", "18", "5"}));
+}
+
+TEST_F(Account, TheOtherSidesOfManyAreThoseOfEach) {
+  Db().BeginTrans();
+  AddAccount(202, "Bansal");
+  for (int id = 30; id < 60; ++id) {
+    // Lines of several parties and of the bank itself, equal ones, none, and one that no master names.
+    for (int line = 1; line <= 2 + id % 4; ++line) {
+      const int account = line == 1 ? 101 : 199 + (id + line) % 4;
+      const int amount = (id * 7 + line * 13) % 5 - 2;
+      Db().Execute("insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook) values (" +
+                   std::to_string(id) + "," + std::to_string(9 - line) + ",'2024-07-01'," +
+                   std::to_string(account == 199 ? 101 : account) + "," + std::to_string(amount) + ",'BNK')");
+    }
+  }
+  Db().CommitTrans();
+  const auto all = [&] {
+    Texts sides;
+    CDataSet lines;
+    for (lines.Open("select VoucherID,dAmt from FAData where dcd=101 order by VoucherID,dVchSubNo", Db());
+         !lines.Eof(); lines.MoveNext()) {
+      std::int64_t code = 0;
+      std::string text;
+      gApp->VoucherCrossRef(Db(), lines.Field("VoucherID").ToInteger(), lines.Field("dAmt").ToAmount(), code,
+                            text);
+      sides.push_back(std::to_string(code) + " " + text);
+    }
+    return sides;
+  };
+  const Texts each = all();
+  const auto expected = gApp->ExpectCrossRefs(Db(), "a.dcd=101");
+  Statements();
+  EXPECT_EQ(all(), each);
+  EXPECT_LT(Statements().size(), each.size() / 2);
 }
 
 TEST_F(Account, WithoutAnAccountItAsksForOne) {

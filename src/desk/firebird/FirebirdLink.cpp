@@ -2,12 +2,13 @@
 
 #include <sys/stat.h>
 #include <thread>
-#include <type_traits>
 
+#include "desk/firebird/EngineThread.h"
 #include "desk/firebird/EngineWatch.h"
 #include "desk/firebird/FirebirdRows.h"
 #include "desk/firebird/LiftedSql.h"
 #include "desk/firebird/QueryText.h"
+#include "desk/firebird/SortedJoin.h"
 #include "host/values/Errors.h"
 
 namespace quillon {
@@ -75,6 +76,7 @@ void FirebirdLink::Drop() {
   auto_.reset();
   work_.reset();
   attachment_.reset();
+  sortsWholeRows_.reset();
 }
 
 void FirebirdLink::Tell(const std::string& sql, std::int64_t rows, const std::string& error) {
@@ -87,31 +89,31 @@ void FirebirdLink::NoteFailure(const std::string& sql, const DbError& error) {
 }
 
 template <class Action>
-auto FirebirdLink::Repeat(Action action) {
+void FirebirdLink::Repeat(Action action) {
   const auto first = std::chrono::steady_clock::now();
   for (;;) {
     try {
-      return action();
+      action();
+      return;
     } catch (const DbError& error) {
       if (!MayTryAgain(error, first)) throw;
     }
   }
 }
 
+/// What reads may be broken off by its user, what stores never.
 template <class Action>
-auto FirebirdLink::Send(const std::string& sql, Action action) {
-  const EngineWatch::Call call(address_, Handle());
+void FirebirdLink::Send(const std::string& sql, Aim aim, Action action) {
   try {
-    Attach();
-    RequirePlace();
-    if constexpr (std::is_void_v<decltype(action())>) {
-      Repeat(action);
-      RequirePlace();
-    } else {
-      auto result = Repeat(action);
-      RequirePlace();
-      return result;
-    }
+    EngineThread::Do(
+        [&] {
+          const EngineWatch::Call call(address_, Handle());
+          Attach();
+          RequirePlace();
+          Repeat(action);
+          RequirePlace();
+        },
+        aim == Aim::kRead ? Handle() : nullptr);
   } catch (const DbError& error) {
     NoteFailure(sql, error);
     if (error.Statement() == sql) throw;
@@ -144,9 +146,9 @@ FirebirdStatement& FirebirdLink::Prepared(const std::string& statement) {
 }
 
 void FirebirdLink::Execute(const std::string& sql, std::int64_t& rowsAffected, int /*options*/) {
-  rowsAffected = Send(sql, [&] {
+  Send(sql, Aim::kStore, [&] {
     const std::optional<std::int64_t> rows = ExecuteLifted(sql);
-    return rows ? *rows : ExecutePlain(sql);
+    rowsAffected = rows ? *rows : ExecutePlain(sql);
   });
   Tell(sql, rowsAffected, {});
 }
@@ -182,7 +184,8 @@ std::int64_t FirebirdLink::ExecutePlain(const std::string& sql) {
 
 std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<const Variant> values) {
   const std::string shown = observer_ ? WithLiterals(statement, values) : statement;
-  const std::int64_t rows = Send(shown, [&] { return Prepared(statement).Execute(Writing(), values); });
+  std::int64_t rows = 0;
+  Send(shown, Aim::kStore, [&] { rows = Prepared(statement).Execute(Writing(), values); });
   Tell(shown, rows, {});
   return rows;
 }
@@ -190,7 +193,7 @@ std::int64_t FirebirdLink::ExecuteWith(const std::string& statement, std::span<c
 std::vector<Variant> FirebirdLink::InsertWith(const std::string& statement, std::span<const Variant> values) {
   const std::string shown = observer_ ? WithLiterals(statement, values) : statement;
   std::vector<Variant> returned;
-  Send(shown, [&] {
+  Send(shown, Aim::kStore, [&] {
     FirebirdStatement& prepared = Prepared(statement);
     prepared.Execute(Writing(), values);
     for (std::size_t i = 0; i < prepared.Outputs().size(); ++i) returned.push_back(prepared.Value(i));
@@ -200,13 +203,13 @@ std::vector<Variant> FirebirdLink::InsertWith(const std::string& statement, std:
 }
 
 Variant FirebirdLink::FirstValue(const std::string& sql) {
-  Variant value = Send(sql, [&] {
+  Variant value;
+  Send(sql, Aim::kRead, [&] {
     FirebirdStatement statement(*Reading(), sql);
     statement.Open(Reading());
-    Variant first = statement.Fetch() ? statement.Value(0) : Variant();
+    value = statement.Fetch() ? statement.Value(0) : Variant();
     // What LIST makes lives as long as its transaction.
     if (statement.Outputs()[0].Holds == FirebirdField::Kind::kBlob) read_.reset();
-    return first;
   });
   Tell(sql, 0, {});
   return value;
@@ -229,7 +232,7 @@ bool FirebirdLink::RowExists(const std::string& sql) { return !FirstValue(sql).I
 std::vector<Variant> FirebirdLink::FirstRowWith(const std::string& query, std::span<const Variant> values) {
   const std::string shown = observer_ ? WithLiterals(query, values) : query;
   std::vector<Variant> row;
-  Send(shown, [&] {
+  Send(shown, Aim::kRead, [&] {
     FirebirdStatement& statement = Prepared(query);
     statement.Open(Reading(), values);
     if (statement.Fetch()) {
@@ -243,7 +246,7 @@ std::vector<Variant> FirebirdLink::FirstRowWith(const std::string& query, std::s
 
 void FirebirdLink::BeginTrans() {
   if (inTransaction_) throw HostError("A transaction is open already");
-  Send("",
+  Send("", Aim::kStore,
        [&] { work_ = std::make_shared<FirebirdTransaction>(attachment_, FirebirdTransaction::Kind::kWork); });
   inTransaction_ = true;
 }
@@ -252,7 +255,7 @@ void FirebirdLink::CommitTrans() {
   if (!inTransaction_) throw HostError("There is no transaction to store");
   const std::shared_ptr<FirebirdTransaction> ended = std::move(work_);
   try {
-    Send("", [&] {
+    Send("", Aim::kStore, [&] {
       if (ended) ended->Commit();
     });
   } catch (const DbError&) {
@@ -269,14 +272,31 @@ void FirebirdLink::RollbackTrans() {
 }
 
 std::unique_ptr<RowSet> FirebirdLink::OpenRows(const std::string& sql, bool changeable, bool keep) {
-  auto rows = Send(sql, [&] {
+  std::unique_ptr<FirebirdRows> rows;
+  Send(sql, Aim::kRead, [&] {
     const bool whole = keep || inTransaction_;
-    auto opened = std::make_unique<FirebirdRows>(*this, Reading(), sql, changeable, whole);
-    if (opened->HasBlobs()) read_.reset();
-    return opened;
+    rows = std::make_unique<FirebirdRows>(*this, Reading(), sql, changeable, whole);
+    if (rows->HasBlobs()) read_.reset();
   });
   Tell(sql, 0, {});
   return rows;
+}
+
+/// Engines from 4 on leave wide columns out of a sort by themselves.
+bool FirebirdLink::SortsWholeRows() {
+  if (!sortsWholeRows_) {
+    FirebirdStatement asked(*Reading(),
+                            "select rdb$get_context('SYSTEM','ENGINE_VERSION') from rdb$database");
+    asked.Open(Reading());
+    sortsWholeRows_ = asked.Fetch() && asked.Value(0).ToText().starts_with("3.");
+  }
+  return *sortsWholeRows_;
+}
+
+std::optional<std::string> FirebirdLink::Leaner(const std::string& query) {
+  std::optional<std::string> leaner =
+      SortedBeforeJoin(query, [this](const std::string& table) { return KeyOf(table); });
+  return leaner && SortsWholeRows() ? leaner : std::nullopt;
 }
 
 const std::vector<std::string>& FirebirdLink::KeyOf(const std::string& table) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "desk/firebird/EngineThread.h"
 #include "desk/firebird/EngineWatch.h"
 #include "desk/firebird/FirebirdLink.h"
 #include "desk/firebird/QueryText.h"
@@ -21,7 +22,8 @@ FirebirdRows::FirebirdRows(FirebirdLink& link, const std::shared_ptr<FirebirdTra
                            const std::string& sql, bool changeable, bool whole)
     : link_(link.weak_from_this()),
       sql_(sql),
-      statement_(std::make_unique<FirebirdStatement>(*transaction, sql)),
+      statement_(changeable ? std::make_unique<FirebirdStatement>(*transaction, sql)
+                            : Lean(link, *transaction, sql)),
       changeable_(changeable) {
   for (const FirebirdField& field : statement_->Outputs()) names_.push_back(field.Name);
   if (changeable) PrepareForChange(link, *transaction);
@@ -33,7 +35,20 @@ FirebirdRows::FirebirdRows(FirebirdLink& link, const std::shared_ptr<FirebirdTra
   }
   store_.emplace(std::move(kinds));
   statement_->Open(transaction);
-  if (whole || changeable) FetchTo(INT64_MAX);
+  if (whole || changeable) Fetch(INT64_MAX);
+}
+
+std::unique_ptr<FirebirdStatement> FirebirdRows::Lean(FirebirdLink& link, FirebirdTransaction& transaction,
+                                                      const std::string& sql) {
+  if (const std::optional<std::string> leaner = link.Leaner(sql)) {
+    try {
+      return std::make_unique<FirebirdStatement>(transaction, *leaner);
+    } catch (const DbError& error) {
+      // The text itself tells what is wrong with it.
+      if (error.Why() == DbError::Reason::kLost) throw;
+    }
+  }
+  return std::make_unique<FirebirdStatement>(transaction, sql);
 }
 
 /// Notes the tables of the output and answers the key columns, with their aliases, that the query leaves out.
@@ -84,22 +99,31 @@ void FirebirdRows::PrepareForChange(FirebirdLink& link, FirebirdTransaction& tra
 bool FirebirdRows::FetchTo(std::int64_t row) {
   if (!statement_) return row < store_->Count();
   const auto owner = link_.lock();
-  const EngineWatch::Call call(owner ? owner->Address() : FirebirdAddress(),
-                               owner ? owner->Handle() : nullptr);
+  const FirebirdAddress address = owner ? owner->Address() : FirebirdAddress();
+  Firebird::IAttachment* const handle = owner ? owner->Handle() : nullptr;
   try {
-    while (store_->Count() <= row) {
-      if (!statement_->Fetch()) {
-        statement_->Close();
-        statement_.reset();
-        return false;
-      }
-      store_->Add(*statement_);
-    }
+    EngineThread::Do(
+        [&] {
+          const EngineWatch::Call call(address, handle);
+          Fetch(row);
+        },
+        handle);
   } catch (const DbError& error) {
-    if (const auto link = link_.lock()) link->NoteFailure(sql_, error);
-    throw;
+    if (owner) owner->NoteFailure(sql_, error);
+    throw DbError(error.what(), error.SqlState(), sql_, error.EngineText(), error.Why());
   }
-  return true;
+  return row < store_->Count();
+}
+
+void FirebirdRows::Fetch(std::int64_t row) {
+  while (store_->Count() <= row) {
+    if (!statement_->Fetch()) {
+      statement_->Close();
+      statement_.reset();
+      return;
+    }
+    store_->Add(*statement_);
+  }
 }
 
 bool FirebirdRows::Seek(std::int64_t row) {

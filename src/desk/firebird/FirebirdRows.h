@@ -39,6 +39,8 @@ class FirebirdRows final : public RowSet {
     std::vector<std::pair<std::string, std::size_t>> Key;  // column, field
   };
 
+  static std::unique_ptr<FirebirdStatement> Lean(FirebirdLink& link, FirebirdTransaction& transaction,
+                                                 const std::string& sql);
   void PrepareForChange(FirebirdLink& link, FirebirdTransaction& transaction);
   std::vector<std::string> FindTables(FirebirdLink& link);
   const Table& TableOf(std::size_t field) const;
@@ -46,6 +48,7 @@ class FirebirdRows final : public RowSet {
   std::vector<Variant> Values(std::int64_t row) const;
   FirebirdLink& Link() const;
   bool FetchTo(std::int64_t row);
+  void Fetch(std::int64_t row);
 
   std::weak_ptr<FirebirdLink> link_;
   std::string sql_;

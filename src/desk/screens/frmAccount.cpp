@@ -1,10 +1,13 @@
 #include "desk/screens/frmAccount.h"
 
 #include <algorithm>
+#include <optional>
+#include <tuple>
 
 #include "books/BooksNames.h"
 #include "books/EntryRows.h"
 #include "books/SqlText.h"
+#include "desk/services/NarrationTexts.h"
 #include "host/forms/AccountPicker.h"
 #include "host/forms/Busy.h"
 #include "host/forms/GridFill.h"
@@ -55,6 +58,49 @@ struct frmAccount::Sums {
   void Add(Amount amount) {
     (amount < Amount() ? credits : debits) += amount.Abs();
     balance += amount;
+  }
+};
+
+/// A line of FAData, as the statement shows it.
+struct frmAccount::Entry {
+  std::int64_t Voucher;
+  std::int64_t Line;
+  std::optional<std::int64_t> Serial;  // those without one come first
+  std::string Number;
+  Date Day;
+  std::string Book;
+  Amount Value;
+  std::string Nature;
+  Date Cleared;
+  std::int64_t Narration;
+
+  static Entry Of(const CDataSet& row) {
+    std::size_t field = 0;
+    const auto next = [&] { return row.Field(field++); };
+    Entry entry{};
+    entry.Voucher = next().ToInteger();
+    entry.Line = next().ToInteger();
+    if (const Variant serial = next(); !serial.IsNull()) entry.Serial = serial.ToInteger();
+    entry.Number = next().ToText();
+    entry.Day = next().ToDate();
+    entry.Book = next().ToText();
+    entry.Value = next().ToAmount();
+    entry.Nature = next().ToText();
+    entry.Cleared = next().ToDate();
+    entry.Narration = next().ToInteger();
+    return entry;
+  }
+
+  /// Reads on to the end of the day at hand.
+  static void ReadDay(CDataSet& entries, std::vector<Entry>& day) {
+    day.clear();
+    do {
+      day.push_back(Of(entries));
+      entries.MoveNext();
+    } while (!entries.Eof() && entries.Field("dVchDate").ToDate() == day.back().Day);
+    std::sort(day.begin(), day.end(), [](const Entry& a, const Entry& b) {
+      return std::tie(a.Serial, a.Voucher, a.Line) < std::tie(b.Serial, b.Voucher, b.Line);
+    });
   }
 };
 
@@ -200,39 +246,46 @@ std::unordered_set<std::int64_t> frmAccount::ReturnedVouchers() const {
   return returned;
 }
 
+/// The rows come by day in the order of an index, so that the first are there at once; a day's are put in
+/// their order here.
 void frmAccount::AddEntries(int& row, Sums& sums) {
   const std::unordered_set<std::int64_t> returned = ReturnedVouchers();
+  const auto narrations = std::make_shared<NarrationTexts>(gSession->MainDb());
   CDataSet entries;
   entries.Open(
-      "Select "
-      "a.VoucherID,a.dVchSubNo,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dTrnNature,a.dBankDate,n.Narration "
-      "from FAData a left join FANar n on a.NarrationID=n.NarrationID where " +
-          EntriesCondition() + " order by a.dVchDate,a.dSrNo,a.VoucherID,a.dVchSubNo",
+      "Select a.VoucherID,a.dVchSubNo,a.dSrNo,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dTrnNature,a.dBankDate,"
+      "a.NarrationID from FAData a where " +
+          EntriesCondition() + " order by a.dVchDate",
       gSession->MainDb());
   constexpr int kMoreRows = 1000;
-  Progress progress("Reading the entries", 0);
-  for (; !entries.Eof(); entries.MoveNext(), progress.Step()) {
-    if (++row >= Grid.Rows) Grid.Rows = row + kMoreRows;
-    AddEntry(entries, row, returned.contains(entries.Field(std::size_t{0}).ToInteger()), sums);
+  Progress progress("Reading the entries", Grid);
+  std::vector<Entry> day;
+  while (!entries.Eof()) {
+    Entry::ReadDay(entries, day);
+    for (const Entry& entry : day) {
+      if (++row >= Grid.Rows) Grid.Rows = row + kMoreRows;
+      AddEntry(entry, row, returned.contains(entry.Voucher), sums);
+      if (entry.Narration != 0) {
+        Grid.SetTextLater(row, col::kNarration, narrations, narrations->Add(entry.Narration));
+      }
+      progress.Step();
+    }
   }
 }
 
-void frmAccount::AddEntry(CDataSet& entry, int row, bool returned, Sums& sums) {
-  const Amount amount = entry.Field("dAmt").ToAmount();
-  const std::string book = entry.Field("dBook").ToText();
-  sums.Add(amount);
-  Grid.SetTextMatrix(row, col::kVoucherId, entry.Field("VoucherID").ToText());
-  Grid.SetTextMatrix(row, col::kBookCode, book);
-  Grid.SetTextMatrix(row, col::kNature, entry.Field("dTrnNature").ToText());
-  Grid.SetTextMatrix(row, col::kClearedOn, entry.Field("dBankDate").ToDate().Text());
-  Grid.SetTextMatrix(row, col::kVchSubNo, entry.Field("dVchSubNo").ToText());
+void frmAccount::AddEntry(const Entry& entry, int row, bool returned, Sums& sums) {
+  sums.Add(entry.Value);
+  Grid.SetTextMatrix(row, col::kVoucherId, std::to_string(entry.Voucher));
+  Grid.SetTextMatrix(row, col::kBookCode, entry.Book);
+  Grid.SetTextMatrix(row, col::kNature, entry.Nature);
+  Grid.SetTextMatrix(row, col::kClearedOn, entry.Cleared.Text());
+  Grid.SetTextMatrix(row, col::kVchSubNo, std::to_string(entry.Line));
   Grid.SetTextMatrix(row, col::kSerial, std::to_string(row));
-  Grid.SetTextMatrix(row, col::kVchNo, entry.Field("dVchNo").ToText());
-  Grid.SetTextMatrix(row, col::kDate, entry.Field("dVchDate").ToDate().Text());
-  Grid.SetTextMatrix(row, col::kBook, book);
-  Grid.SetTextMatrix(row, col::kNarration, entry.Field("Narration").ToText());
-  Grid.SetTextMatrix(row, amount < Amount() ? col::kCredit : col::kDebit,
-                     gStd->FormatAmount(amount.Abs(), "c2"));
+  Grid.SetTextMatrix(row, col::kVchNo, entry.Number);
+  Grid.SetTextMatrix(row, col::kDate, entry.Day.Text());
+  Grid.SetTextMatrix(row, col::kBook, entry.Book);
+  Grid.SetTextMatrix(row, entry.Value < Amount() ? col::kCredit : col::kDebit,
+                     gStd->FormatAmount(entry.Value.Abs(), "c2"));
   Grid.SetTextMatrix(row, col::kBalance, BalanceText(sums.balance, "C2"));
   if (returned) Grid.SetTextMatrix(row, col::kReturned, "Y");
 }

@@ -9,7 +9,6 @@
 #include "desk/screens/AccountTool.h"
 #include "host/controls/ControlArray.h"
 #include "host/controls/Menu.h"
-#include "host/data/CDataSet.h"
 #include "host/forms/ListScreen.h"
 
 namespace quillon {
@@ -63,6 +62,7 @@ class frmAccount : public ListScreen, public AccountPeriod {
 
  private:
   struct Sums;
+  struct Entry;
 
   void DesignControls();
   void SetColumns();
@@ -75,7 +75,7 @@ class frmAccount : public ListScreen, public AccountPeriod {
   std::unordered_set<std::int64_t> ReturnedVouchers() const;
   void AddOpening(int& row, Sums& sums);
   void AddEntries(int& row, Sums& sums);
-  void AddEntry(CDataSet& entry, int row, bool returned, Sums& sums);
+  void AddEntry(const Entry& entry, int row, bool returned, Sums& sums);
   void ShowTotals(const Sums& sums);
   void ReadAnew();
   void ReadMarks();

@@ -117,9 +117,17 @@ void DeskApp::OpenVoucher(Form& form, std::int64_t voucherId, int startYear, std
 
 void DeskApp::VoucherCrossRef(CDbLink& db, std::int64_t voucherId, Amount amount, std::int64_t& code,
                               std::string& text) {
-  OtherSide other = FindOtherSide(db, voucherId, amount);
+  const std::shared_ptr<ExpectedSides> expected = expected_.lock();
+  OtherSide other = expected && expected->IsOf(db) ? expected->Find(voucherId, amount)
+                                                   : FindOtherSide(db, voucherId, amount);
   code = other.Code;
   text = std::move(other.Head);
+}
+
+std::shared_ptr<void> DeskApp::ExpectCrossRefs(CDbLink& db, const std::string& condition) {
+  auto expected = std::make_shared<ExpectedSides>(db, condition);
+  expected_ = expected;
+  return expected;
 }
 
 void DeskApp::PostBalanceEntry(CDataSet& /*entries*/, std::string& voucher, const std::string& book,

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "desk/services/CrossReference.h"
 #include "desk/services/DeskSession.h"
 #include "desk/services/IDeskScreens.h"
 #include "desk/services/Posting.h"
@@ -47,6 +48,7 @@ class DeskApp : public IApp {
   void OpenVoucher(Form& form, std::int64_t voucherId, int startYear, std::int64_t accountCode) override;
   void VoucherCrossRef(CDbLink& db, std::int64_t voucherId, Amount amount, std::int64_t& code,
                        std::string& text) override;
+  std::shared_ptr<void> ExpectCrossRefs(CDbLink& db, const std::string& condition) override;
   IModule& MainModule() override { return mainModule_; }
   void InitForm(Form& form) override;
   std::vector<std::string> GetPartyLines(std::int64_t code) override;
@@ -113,6 +115,7 @@ class DeskApp : public IApp {
   StoresModule stores_;
   Posting posting_;
   std::vector<OpenWindow> windows_;
+  std::weak_ptr<ExpectedSides> expected_;
 };
 
 }  // namespace quillon

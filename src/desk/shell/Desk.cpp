@@ -42,6 +42,7 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
 void Desk::CloseFirm() {
   if (!session_) return;
   unfinished_->UndoAll();
+  const Runtime::Closing closing(*gRuntime, gRuntime->AllForms());
   module_->Terminate();
   for (const FormPtr& form : gRuntime->AllForms()) {
     try {

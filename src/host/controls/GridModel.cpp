@@ -50,23 +50,58 @@ GridModel::RowExtra& GridModel::Extra(int row) {
   return *data.extra;
 }
 
-std::string_view GridModel::Cell(int row, int col) const {
+const CellText* GridModel::Text(int row, int col) const {
   const RowData& data = Data(row);
   RequireCol(col);
   const auto at = static_cast<std::size_t>(col);
-  return at < data.cells.size() ? data.cells[at].View() : std::string_view();
+  return at < data.cells.size() ? &data.cells[at] : nullptr;
 }
 
-void GridModel::SetTextMatrix(int row, int col, std::string_view text) {
+std::string_view GridModel::Cell(int row, int col) const {
+  const CellText* const text = Text(row, col);
+  return text != nullptr ? text->View() : std::string_view();
+}
+
+std::optional<std::string_view> GridModel::KnownCell(int row, int col) const {
+  const CellText* const text = Text(row, col);
+  return text != nullptr ? text->Known() : std::string_view();
+}
+
+void GridModel::ReadCells(int firstRow, int lastRow) const {
+  for (int row = std::max(firstRow, 0); row <= std::min(lastRow, Rows - 1); ++row) {
+    for (int col = 0; col < Cols; ++col) {
+      if (IsColVisible(col) && !KnownCell(row, col)) Cell(row, col);
+    }
+  }
+}
+
+void GridModel::ShowSoFar() {
+  if (sight_.height > 0) {
+    // A grid that is filled stands on its first rows.
+    int last = FixedRows;
+    for (long height = 0; last < Rows && height < sight_.height; ++last) height += RowHeight(last);
+    ReadCells(FixedRows, last);
+  }
+  shownSoFar_ = true;
+  ContentChanged();
+}
+
+void GridModel::SetTextMatrix(int row, int col, std::string_view text) { PutText(row, col, CellText(text)); }
+
+void GridModel::SetTextLater(int row, int col, const std::shared_ptr<LaterTexts>& texts, std::int64_t key) {
+  PutText(row, col, CellText(texts, key));
+}
+
+void GridModel::PutText(int row, int col, CellText text) {
   RowData& data = Data(row);
   RequireCol(col);
   const auto at = static_cast<std::size_t>(col);
   if (at >= data.cells.size()) {
-    if (text.empty()) return;
+    if (text.IsEmpty()) return;
     if (data.cells.empty()) data.cells.reserve(columns_.size());
     data.cells.resize(at + 1);
   }
-  data.cells[at] = CellText(text);
+  data.cells[at] = std::move(text);
   Touched();
 }
 
@@ -269,6 +304,7 @@ void GridModel::PropertyChanged(const PropertyBase& property) {
   } else if (&property == &Width || &property == &Height) {
     sight_ = {};
   }
+  if (&property == &Redraw) shownSoFar_ = false;
   if (&property == &Redraw || Redraw) Control::PropertyChanged(property);
 }
 

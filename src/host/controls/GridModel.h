@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -84,6 +85,20 @@ class GridModel : public Control {
 
   /// The same without a copy; holds until the cell changes.
   std::string_view Cell(int row, int col) const;
+
+  /// The cell takes a text that is read when somebody looks at it; copies of the row share it.
+  void SetTextLater(int row, int col, const std::shared_ptr<LaterTexts>& texts, std::int64_t key);
+
+  /// The text as far as it was read: for painting, in which nothing may be read.
+  std::optional<std::string_view> KnownCell(int row, int col) const;
+
+  /// Reads what is to be read later of the shown cells of these rows. Throws what the reading throws.
+  void ReadCells(int firstRow, int lastRow) const;
+
+  /// While Redraw holds back, shows the rows that are filled so far; what a window has in sight of them is
+  /// read first.
+  void ShowSoFar();
+  bool IsShownSoFar() const { return Redraw() || shownSoFar_; }
 
   long ColWidth(int col) const { return Column(col).width; }
   void SetColWidth(int col, long width);
@@ -211,6 +226,8 @@ class GridModel : public Control {
     std::unique_ptr<RowExtra> extra;
   };
 
+  void PutText(int row, int col, CellText text);
+  const CellText* Text(int row, int col) const;
   const ColumnData& Column(int col) const;
   ColumnData& Column(int col);
   const RowData& Data(int row) const;
@@ -231,6 +248,7 @@ class GridModel : public Control {
   std::vector<RowData> rows_;
   std::vector<ColumnData> columns_;
   mutable Sight sight_;
+  bool shownSoFar_ = false;
   int toldRow_ = 1;
   int toldCol_ = 0;
 };

@@ -52,6 +52,12 @@ class CDbLink {
   /// What CDataSet opens. `changeable` asks for a set whose rows can be changed and added to; `keep` for one
   /// that stays readable after the link is gone.
   virtual std::unique_ptr<RowSet> OpenRows(const std::string& sql, bool changeable, bool keep) = 0;
+
+  /// Expires with the link: for what may outlive it.
+  std::weak_ptr<const void> Life() const { return life_; }
+
+ private:
+  std::shared_ptr<const int> life_ = std::make_shared<const int>();
 };
 
 }  // namespace quillon

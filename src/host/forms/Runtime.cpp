@@ -96,6 +96,7 @@ void Runtime::Hide(Form& form) {
 bool Runtime::Unload(Form& form, UnloadMode mode) {
   if (!form.IsLoaded()) return true;
   const FormPtr alive = form.Self();
+  const Closing closing(*this, {alive});
   if (!UnloadLastFirst(StandingOn(form), mode) || !form.RunQueryUnload(mode)) return false;
   if (!UnloadLastFirst(OwnedBy(form), mode)) return false;
   if (!form.IsLoaded()) return true;
@@ -108,6 +109,17 @@ bool Runtime::Unload(Form& form, UnloadMode mode) {
   }
   End(form);
   return true;
+}
+
+Runtime::Closing::Closing(Runtime& runtime, std::vector<FormPtr> forms)
+    : runtime_(runtime), before_(runtime.closing_.size()) {
+  runtime.closing_.insert(runtime.closing_.end(), forms.begin(), forms.end());
+}
+
+Runtime::Closing::~Closing() {
+  runtime_.closing_.resize(before_);
+  // One that stays after all is up again.
+  if (runtime_.ActiveForm() != runtime_.active_.lock()) runtime_.Act([this] { runtime_.UpdateActive(); });
 }
 
 bool Runtime::UnloadLastFirst(std::vector<FormPtr> forms, UnloadMode mode) {
@@ -168,6 +180,7 @@ void Runtime::BringToFront(Form& form) {
 void Runtime::UpdateActive() {
   const FormPtr top = ActiveForm();
   if (top == active_.lock()) return;
+  if (std::find(closing_.begin(), closing_.end(), top) != closing_.end()) return;
   active_ = top;
   if (top) top->RunActivate();
 }

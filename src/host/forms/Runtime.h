@@ -98,6 +98,20 @@ class Runtime {
   /// them refused in its QueryUnload: then the form stays.
   bool Unload(Form& form, UnloadMode mode = UnloadMode::Code);
 
+  /// For the length of a block forms are on their way out: when the one above them goes they are not brought
+  /// up for that, only to be closed in turn.
+  class Closing {
+   public:
+    Closing(Runtime& runtime, std::vector<FormPtr> forms);
+    Closing(const Closing&) = delete;
+    Closing& operator=(const Closing&) = delete;
+    ~Closing();
+
+   private:
+    Runtime& runtime_;
+    std::size_t before_;
+  };
+
   /// The loaded forms of one origin, in the order of loading.
   std::vector<FormPtr> Forms(Form::Origin origin) const;
   std::vector<FormPtr> AllForms() const { return loaded_; }
@@ -223,6 +237,7 @@ class Runtime {
 
   std::vector<FormPtr> loaded_;
   std::vector<FormPtr> shown_;  // the form shown last is the last
+  std::vector<FormPtr> closing_;
   std::weak_ptr<Form> active_;
   std::deque<std::string> keys_;
   std::vector<std::string> failures_;  // of the events at hand, the innermost last

@@ -80,6 +80,14 @@ class IApp : public IPosting {
   virtual void VoucherCrossRef(CDbLink& db, std::int64_t voucherId, Amount amount, std::int64_t& code,
                                std::string& text) = 0;
 
+  /// Tells that VoucherCrossRef will be asked for the lines of FAData, named a, that meet the condition: as
+  /// long as the answer is held it then knows them from one statement. A host that cannot do so answers
+  /// nothing.
+  [[nodiscard]] virtual std::shared_ptr<void> ExpectCrossRefs(CDbLink& /*db*/,
+                                                              const std::string& /*condition*/) {
+    return nullptr;
+  }
+
   /// The host's main accounts module.
   virtual IModule& MainModule() = 0;
   virtual void InitForm(Form& form) = 0;

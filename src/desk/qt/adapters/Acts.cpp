@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
+#include "desk/qt/adapters/Meanwhile.h"
 #include "host/controls/Control.h"
 #include "host/forms/Runtime.h"
 
@@ -14,8 +15,6 @@ std::function<void()>& Afterwards() {
   static std::function<void()> afterwards;
   return afterwards;
 }
-
-bool painting = false;
 
 void Guarded(const std::function<void()>& act) {
   try {
@@ -29,18 +28,26 @@ void Guarded(const std::function<void()>& act) {
 }  // namespace
 
 void Acts::Run(const std::function<void()>& act) {
-  if (gRuntime == nullptr || painting) return;
+  if (gRuntime == nullptr || Meanwhile::IsOn()) return;
   Guarded(act);
   Guarded([] { gRuntime->DeliverKeys(); });
   if (Afterwards()) Afterwards()();
 }
 
 void Acts::LetPaint() {
-  if (painting) return;
-  painting = true;
+  if (Meanwhile::IsOn()) return;
+  const Meanwhile::Block painting(false);
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  painting = false;
 }
+
+bool Acts::PaintAndListen(bool mayBreak) {
+  constexpr int kMilliseconds = 10;
+  const Meanwhile::Block painting(mayBreak);
+  QCoreApplication::processEvents(QEventLoop::AllEvents, kMilliseconds);
+  return painting.IsEscaped();
+}
+
+bool Acts::IsPainting() { return Meanwhile::IsOn(); }
 
 void Acts::SetAfterwards(std::function<void()> afterwards) { Afterwards() = std::move(afterwards); }
 

@@ -15,6 +15,13 @@ class Acts {
   /// is passed over: the form at work is not ready for it.
   static void LetPaint();
 
+  /// The same for some milliseconds, while the engine works. Answers whether Esc was pressed; other keys
+  /// wait.
+  static bool PaintAndListen(bool mayBreak);
+
+  /// Whether the windows paint in the midst of an act.
+  static bool IsPainting();
+
   /// Called after each act, to bring the windows up to date.
   static void SetAfterwards(std::function<void()> afterwards);
 };

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QScrollBar>
+#include <exception>
+#include <utility>
 
 #include "desk/qt/adapters/Acts.h"
 #include "desk/qt/adapters/BoxEdit.h"
@@ -21,6 +23,7 @@ GridAdapter::GridAdapter(GridModel& model, QWidget* parent)
     Acts::Run([&] { grid_.UserSelect(row, col, toRow, toCol); });
   };
   shown_->OnDoubleClick = [this](int row, int col) { DoubleClick(row, col); };
+  shown_->OnLook = [this](int firstRow, int lastRow) { ReadCells(firstRow, lastRow); };
   shown_->OnMoved = [this] { PlaceEditor(); };
   if (editable_ == nullptr) return;
   editor_ = new BoxEdit(editable_->EditBox, grid_, shown_->viewport());
@@ -40,6 +43,21 @@ void GridAdapter::DoubleClick(int row, int col) {
     const bool stays = gRuntime->ActiveForm() == form && row < grid_.Rows && col < grid_.Cols;
     if (editable_ != nullptr && editable_->BeforeEdit && stays) editable_->UserEnterCell(row, col);
   });
+}
+
+/// In the midst of an act nothing is read; its end settles the grid once more.
+void GridAdapter::ReadCells(int firstRow, int lastRow) {
+  if (Acts::IsPainting()) return;
+  try {
+    grid_.ReadCells(firstRow, lastRow);
+    readingFailed_ = false;
+  } catch (const std::exception&) {
+    // It is told once, when the hand is free; until it succeeds the cells show that they were not read.
+    if (std::exchange(readingFailed_, true)) return;
+    QMetaObject::invokeMethod(
+        shown_, [failure = std::current_exception()] { Acts::Run([&] { std::rethrow_exception(failure); }); },
+        Qt::QueuedConnection);
+  }
 }
 
 std::string GridAdapter::SpokenName() const { return grid_.Title().empty() ? grid_.Name() : grid_.Title(); }

@@ -25,11 +25,13 @@ class GridAdapter : public Adapter {
  private:
   void PlaceEditor();
   void DoubleClick(int row, int col);
+  void ReadCells(int firstRow, int lastRow);
 
   GridModel& grid_;
   EditableGrid* editable_;
   GridWidget* shown_;
   BoxEdit* editor_ = nullptr;
+  bool readingFailed_ = false;
 };
 
 }  // namespace quillon

@@ -70,8 +70,22 @@ void GridWidget::Settle() {
     QAccessibleEvent moved(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&moved);
   }
+  Look();
   if (OnMoved) OnMoved();
   viewport()->update();
+}
+
+void GridWidget::Look() {
+  if (!OnLook || !model_.Redraw || layout_.Rows().empty() || !isVisible()) return;
+  const int top = verticalScrollBar()->value();
+  const std::size_t last = layout_.Rows().size() - 1;
+  const std::size_t from = std::min(layout_.PlaceAt(top), last);
+  OnLook(layout_.Rows()[from], layout_.Rows()[std::min(layout_.PlaceAt(top + Body().height()), last)]);
+}
+
+/// What was not read yet is not empty.
+std::string_view GridWidget::Known(int row, int col) const {
+  return model_.KnownCell(row, col).value_or("…");
 }
 
 void GridWidget::UpdateBars() {
@@ -146,9 +160,10 @@ QString GridWidget::CursorText() const {
   QStringList cells;
   for (int col = 0; col < model_.Cols; ++col) {
     const bool wanted = model_.IsColVisible(model_.Col) ? col == model_.Col : model_.IsColVisible(col);
-    if (!wanted || model_.Cell(row, col).empty()) continue;
+    const std::string text(Known(row, col));
+    if (!wanted || text.empty()) continue;
     const std::string title = model_.FixedRows > 0 ? model_.TextMatrix(0, col) + ": " : std::string();
-    cells << QString::fromStdString(title + model_.TextMatrix(row, col));
+    cells << QString::fromStdString(title + text);
   }
   return QStringLiteral("Row %1, %2").arg(row).arg(cells.join(QStringLiteral(", ")));
 }
@@ -221,7 +236,7 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
   painter.setFont(font());
   painter.fillRect(viewport()->rect(), Back());
   // While a form fills the grid, its rows are not for showing.
-  if (!model_.Redraw) return;
+  if (!model_.IsShownSoFar()) return;
   if (stale_ || !layout_.Fits(model_)) Measure();
   PaintRows(painter);
   PaintCursor(painter);
@@ -284,15 +299,15 @@ void GridWidget::PaintRow(QPainter& painter, int row, const QRect& band) const {
     if (block && taken.Contains(row, col)) {
       painter.fillRect(cell, Translucent(Theme::Accent(), 60));
     }
-    const bool command = col == layout_.Cols() - 1 && model_.Cell(row, col) == kRuled;
+    const bool command = col == layout_.Cols() - 1 && Known(row, col) == kRuled;
     if (command) return;
     painter.setPen(fore);
     QFont font = painter.font();
     font.setUnderline(model_.CellFontUnderline(row, col));
     painter.setFont(font);
-    DrawText(painter, cell, model_.Cell(row, col), model_.ColAlignment(col));
+    DrawText(painter, cell, Known(row, col), model_.ColAlignment(col));
   });
-  const bool ruled = model_.Cols > 0 && model_.Cell(row, model_.Cols - 1) == kRuled;
+  const bool ruled = model_.Cols > 0 && Known(row, model_.Cols - 1) == kRuled;
   painter.setPen(ruled ? QPen(Theme::Text(), 1) : QPen(Translucent(Theme::Border(), 130), 1));
   painter.drawLine(band.bottomLeft(), band.bottomRight());
 }
@@ -341,6 +356,7 @@ void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
 
 void GridWidget::scrollContentsBy(int /*dx*/, int /*dy*/) {
   TellSight();
+  Look();
   if (OnMoved) OnMoved();
   viewport()->update();
 }
@@ -375,7 +391,7 @@ bool GridWidget::viewportEvent(QEvent* event) {
   const CellPlace cell = CellAt(help->pos());
   QString text;
   if (cell.row >= 0 && cell.col >= 0 && model_.Redraw && layout_.Fits(model_)) {
-    text = QString::fromStdString(model_.TextMatrix(cell.row, cell.col));
+    text = QString::fromStdString(std::string(Known(cell.row, cell.col)));
     if (fontMetrics().horizontalAdvance(text) <= layout_.ColWidth(cell.col) - 2 * kPadding) text.clear();
   }
   QToolTip::showText(help->globalPos(), text, this);

@@ -21,6 +21,9 @@ class GridWidget : public QAbstractScrollArea {
   /// The keys move in the grid although it has not the focus: the list of a field.
   void LeadKeys() { leads_ = true; }
 
+  /// Reads the texts of these rows that are read when somebody looks at them; called before they are painted.
+  std::function<void(int firstRow, int lastRow)> OnLook;
+
   /// Called when cells have moved on the screen.
   std::function<void()> OnMoved;
 
@@ -59,6 +62,8 @@ class GridWidget : public QAbstractScrollArea {
 
   void Measure();
   void UpdateBars();
+  void Look();
+  std::string_view Known(int row, int col) const;
   void TellSight();
   int TitleLine() const;
   int FooterHeight() const;

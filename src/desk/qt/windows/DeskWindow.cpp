@@ -144,6 +144,7 @@ QString DeskWindow::TryFirm(const QString& folder, const QString& user, int star
 bool DeskWindow::CloseForms() {
   if (runtime_.IsWaiting()) return false;
   std::vector<FormPtr> forms = runtime_.AllForms();
+  const Runtime::Closing closing(runtime_, forms);
   for (auto form = forms.rbegin(); form != forms.rend(); ++form) {
     bool closed = false;
     Acts::Run([&] { closed = runtime_.Unload(**form, UnloadMode::CloseBox); });

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <cmath>
 
+#include "desk/firebird/EngineThread.h"
 #include "desk/print/Spooler.h"
 #include "desk/print/TextMeasure.h"
 #include "desk/qt/adapters/Acts.h"
@@ -29,9 +30,11 @@ bool QtRuntime::IsScreen(const Form& form) const {
 
 QtRuntime::QtRuntime(std::string outputFolder) : printer_(std::move(outputFolder), this) {
   Acts::SetAfterwards([this] { Settle(); });
+  EngineThread::Start([](bool mayBreak) { return Acts::PaintAndListen(mayBreak); });
 }
 
 QtRuntime::~QtRuntime() {
+  EngineThread::Stop();
   Acts::SetAfterwards({});
   for (const auto& [form, view] : views_) delete view;
 }
