@@ -105,6 +105,40 @@ TEST_F(FormLife, AModalFormInsideAModalForm) {
   EXPECT_EQ(gRuntime->ActiveForm(), owner);
 }
 
+TEST_F(FormLife, AClosedFormKeepsItsCellsAsLongAsItsCallerMayLook) {
+  const auto owner = Shown();
+  const auto asked = std::make_shared<Dialog>();
+  const auto picker = std::make_shared<Dialog>();
+  picker->Grid.SetTextMatrix(3, 1, "Harbour Mills");
+  std::string taken;
+  owner->Pressed = [&](KeyEvent& key) {
+    key.KeyCode = 0;
+    gRuntime->Show(asked, true);
+  };
+  asked->Pressed = [&](KeyEvent& key) {
+    if (key.KeyCode != keys::kF2) return;
+    key.KeyCode = 0;
+    gRuntime->Show(picker, true);
+    taken = picker->Grid.TextMatrix(3, 1);
+  };
+  std::vector<std::function<void()>> acts = {[&] { Key(*asked, keys::kF2); },
+                                             [&] { Key(*picker, keys::kEscape); },
+                                             [&] {
+                                               EXPECT_EQ(picker->Grid.Rows(), 2) << "who asked is done";
+                                               EXPECT_EQ(picker->Grid.TextMatrix(1, 1), "");
+                                             },
+                                             [&] { Key(*asked, keys::kEscape); }};
+  std::size_t next = 0;
+  runtime_.NextCommand = [&] {
+    if (next == acts.size()) return false;
+    Do(acts[next++]);
+    return true;
+  };
+  Key(*owner, keys::kF2);
+  EXPECT_EQ(taken, "Harbour Mills");
+  EXPECT_EQ(owner->Grid.Rows(), 4);
+}
+
 TEST_F(FormLife, AFormMayCloseInItsOwnKeyHandler) {
   const auto dialog = Shown();
   Do([&] { dialog->UserFocus(dialog->Grid); });

@@ -150,6 +150,11 @@ TEST_F(Grids, TellWhereTheCellOfTheCursorIs) {
   Do([&] { Grid().UserMoveTo(29, 2); });
   EXPECT_EQ(Grid().CellTop() + 2 * Grid().CellHeight(), Grid().Height());
   EXPECT_EQ(Grid().CellPlace(29, 0).width, 0) << "a hidden cell has no place";
+  Refuses([&] { Grid().UserMoveTo(29, 0); }, Grid().Name() + " column 0 is hidden");
+  Refuses([&] { Grid().UserSelect(28, 1, 29, 0); }, Grid().Name() + " column 0 is hidden");
+  Grid().Col = 0;
+  Do([&] { Grid().UserDoubleClickRow(28); });
+  EXPECT_EQ(Cursor(), "28,1") << "a person comes to stand in what he sees";
 }
 
 TEST_F(Grids, RowsPutInAndTakenOutLeaveTheEditorOnItsRow) {

@@ -110,6 +110,7 @@ bool Script::Next() {
 void Script::CarryOut(int number, const Json& command) {
   Json done{{"done", number}, {"ok", true}};
   try {
+    const Runtime::Step step(runtime_);
     const std::string name = command.value("cmd", "");
     const Command carryOut = Find(name);
     if (!LeavesMenuOpen(name)) runtime_.LeaveMenu();

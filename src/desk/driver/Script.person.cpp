@@ -131,7 +131,7 @@ Json Script::DoCheck(const Json& command) {
 Json Script::DoRow(const Json& command) {
   auto& grid = Kind<GridModel>(command, "grid");
   const int row = command.at("row").get<int>();
-  const int col = command.value("col", grid.Col());
+  const int col = command.value("col", grid.UserCol());
   return Act([&] { grid.UserMoveTo(row, col); });
 }
 
@@ -167,7 +167,8 @@ Json Script::DoGridRow(const Json& command) {
   const int row = command.at("row").get<int>();
   const std::string what = command.value("what", "dblclick");
   if (what != "dblclick" && what != "click") throw HostError("A row is not \"" + what + "\"-ed");
-  return Act([&] { what == "dblclick" ? grid.UserDoubleClickRow(row) : grid.UserMoveTo(row, grid.Col); });
+  return Act(
+      [&] { what == "dblclick" ? grid.UserDoubleClickRow(row) : grid.UserMoveTo(row, grid.UserCol()); });
 }
 
 Json Script::DoScroll(const Json& command) {

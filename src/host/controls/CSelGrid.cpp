@@ -179,6 +179,11 @@ void CSelGrid::UserPick(const std::string& text) {
   throw Refused(FullName() + " has no line \"" + text + "\"");
 }
 
+void CSelGrid::ReleaseHeavy() {
+  loaded_ = false;
+  Control::ReleaseHeavy();
+}
+
 Control::State CSelGrid::Describe() const {
   State state = Control::Describe();
   state.emplace_back("title", Title.Caption());

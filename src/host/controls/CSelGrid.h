@@ -75,6 +75,7 @@ class CSelGrid : public Control, private ITextCompanion {
 
   void UserPick(int row);
   void UserPick(const std::string& text);
+  void ReleaseHeavy() override;
   State Describe() const override;
   Variant Get(const std::string& member) override;
 

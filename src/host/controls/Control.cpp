@@ -189,6 +189,10 @@ void Control::Set(const std::string& member, const Variant& value) {
   Object::Set(member, value);
 }
 
+void Control::ReleaseHeavy() {
+  for (Control* child : children_) child->ReleaseHeavy();
+}
+
 void Control::AddListener(IControlListener& listener) { listeners_.push_back(&listener); }
 
 void Control::RemoveListener(IControlListener& listener) { std::erase(listeners_, &listener); }

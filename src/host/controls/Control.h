@@ -141,6 +141,9 @@ class Control : public Object {
   Variant Get(const std::string& member) override;
   void Set(const std::string& member, const Variant& value) override;
 
+  /// Lets go of what is heavy, such as the cells of a grid: the form was closed, and who closed it is done.
+  virtual void ReleaseHeavy();
+
   void AddListener(IControlListener& listener);
   void RemoveListener(IControlListener& listener);
 

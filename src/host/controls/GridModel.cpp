@@ -149,6 +149,13 @@ void GridModel::Clear() {
   Touched();
 }
 
+void GridModel::ReleaseHeavy() {
+  Clear();
+  Rows = std::min(Rows(), FixedRows + 1);
+  rows_.shrink_to_fit();
+  Control::ReleaseHeavy();
+}
+
 void GridModel::AddItem(std::string_view tabbedText, int row) {
   if (row == kNoIndex) row = Rows;
   if (row < 0 || row > Rows) throw SubscriptError(Name() + " row " + std::to_string(row));

@@ -10,6 +10,10 @@ namespace {
 
 constexpr long kScrollBar = 240;
 
+void RequireSeen(const GridModel& grid, int col) {
+  if (!grid.IsColVisible(col)) throw Refused(grid.Name() + " column " + std::to_string(col) + " is hidden");
+}
+
 }  // namespace
 
 int GridModel::VisibleRowFrom(int row, int step) const {
@@ -167,8 +171,15 @@ void GridModel::RequireUserCell(int row, int col) const {
   if (!IsRowVisible(row)) throw Refused(called + " is hidden");
 }
 
+int GridModel::UserCol() const {
+  if (IsColVisible(Col)) return Col;
+  const int right = ColBeside(Col, 1);
+  return right != Col ? right : ColBeside(Col, -1);
+}
+
 void GridModel::UserMoveTo(int row, int col) {
   RequireUserCell(row, col);
+  RequireSeen(*this, col);
   if (!OwnerForm().UserFocus(*this)) return;
   KeyMoveTo(row, col);
 }
@@ -181,13 +192,14 @@ void GridModel::KeyMoveTo(int row, int col) {
 
 void GridModel::UserSelect(int row, int col, int rowSel, int colSel) {
   RequireUserCell(rowSel, colSel);
+  RequireSeen(*this, colSel);
   UserMoveTo(row, col);
   RowSel = rowSel;
   ColSel = colSel;
 }
 
 void GridModel::UserDoubleClickRow(int row) {
-  UserMoveTo(row, Col);
+  UserMoveTo(row, UserCol());
   DblClick.Raise();
 }
 

@@ -145,6 +145,10 @@ class GridModel : public Control {
 
   /// A person moves the cursor to a cell that he can see.
   virtual void UserMoveTo(int row, int col);
+
+  /// Where a person who goes to a row comes to stand: in the cursor's column, or in the nearest one to its
+  /// right, else to its left, that he can see.
+  int UserCol() const;
   void UserSelect(int row, int col, int rowSel, int colSel);
   void UserDoubleClickRow(int row);
   void UserDoubleClick() override;
@@ -181,6 +185,8 @@ class GridModel : public Control {
   /// A row of titles that says nothing is no line on the screen.
   bool IsTitleShown(int row) const;
 
+  /// Only the titles and one empty row stay.
+  void ReleaseHeavy() override;
   State Describe() const override;
 
   /// The cells of rows `first` to `last` and the given columns; all columns when the list is empty.

@@ -14,6 +14,11 @@ void Surface::ClearLines() {
   ContentChanged();
 }
 
+void Surface::ReleaseHeavy() {
+  ClearLines();
+  Control::ReleaseHeavy();
+}
+
 Control::State Surface::Describe() const {
   State state = Control::Describe();
   Array lines;

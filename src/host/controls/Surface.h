@@ -28,6 +28,7 @@ class Surface : public Control {
   long ScaleWidth() const { return Width; }
   long ScaleHeight() const { return Height; }
 
+  void ReleaseHeavy() override;
   State Describe() const override;
   Variant Get(const std::string& member) override;
 

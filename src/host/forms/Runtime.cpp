@@ -31,6 +31,7 @@ Runtime::~Runtime() {
 void Runtime::Load(const FormPtr& form) {
   if (form->IsLoaded()) return;
   loaded_.push_back(form);
+  NoteStep(*form);
   FormHappened(Happening::Load, *form);
   try {
     form->RunLoad();
@@ -50,6 +51,7 @@ void Runtime::Show(const FormPtr& form, bool modal, const FormPtr& owner) {
   if (form->AskInstead()) return;
   Load(form);
   if (!form->IsLoaded()) return;  // Load may have unloaded it
+  NoteStep(*form);
   form->SetOwner(owner);
   std::erase(shown_, form);
   shown_.push_back(form);
@@ -58,6 +60,21 @@ void Runtime::Show(const FormPtr& form, bool modal, const FormPtr& owner) {
   UpdateActive();
   if (form->IsShownToUser()) form->FocusFirst();
   if (modal) RunModal(form);
+}
+
+void Runtime::NoteStep(const Form& form) {
+  int& known = steps_.try_emplace(&form, step_).first->second;
+  known = std::min(known, step_);
+}
+
+Runtime::Step::~Step() {
+  const int step = runtime_.step_--;
+  std::erase_if(runtime_.closed_, [step](const auto& closed) {
+    if (closed.second < step) return false;
+    const FormPtr form = closed.first.lock();
+    if (form && !form->IsLoaded()) form->ReleaseHeavy();
+    return true;
+  });
 }
 
 bool Runtime::UsePrinter(const std::string& deviceName) {
@@ -147,6 +164,8 @@ void Runtime::End(Form& form) {
   form.EndLife();
   std::erase(loaded_, alive);
   std::erase(shown_, alive);
+  closed_.emplace_back(alive, steps_[&form]);
+  steps_.erase(&form);
   form.SetShown(false, false);
   FormHappened(Happening::Unload, form);
   UpdateActive();
@@ -186,6 +205,7 @@ void Runtime::UpdateActive() {
 }
 
 void Runtime::Act(const std::function<void()>& act) {
+  const Step step(*this);
   failures_.emplace_back();
   if (watch_ != nullptr) watch_->EventBegins();
   try {

@@ -4,8 +4,10 @@
 #include <deque>
 #include <exception>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/forms/Form.h"
@@ -138,6 +140,19 @@ class Runtime {
   /// passes.
   void Act(const std::function<void()>& act);
 
+  /// As long as it lives a command or an event is carried out. Forms that were closed in it let go of what is
+  /// heavy at its end, unless an outer one loaded or showed them and may still look at them.
+  class Step {
+   public:
+    explicit Step(Runtime& runtime) : runtime_(runtime) { ++runtime_.step_; }
+    Step(const Step&) = delete;
+    Step& operator=(const Step&) = delete;
+    ~Step();
+
+   private:
+    Runtime& runtime_;
+  };
+
   /// An error of the event at hand was told, also one that a routine caught itself.
   void NoteFailure(const std::string& text);
 
@@ -234,11 +249,15 @@ class Runtime {
   void RunModal(const FormPtr& form);
   void Press(const std::string& name);
   void EndEvent();
+  void NoteStep(const Form& form);
 
   std::vector<FormPtr> loaded_;
   std::vector<FormPtr> shown_;  // the form shown last is the last
   std::vector<FormPtr> closing_;
   std::weak_ptr<Form> active_;
+  int step_ = 0;
+  std::map<const Form*, int> steps_;  // the outermost that loaded or showed a form, of those loaded
+  std::vector<std::pair<std::weak_ptr<Form>, int>> closed_;
   std::deque<std::string> keys_;
   std::vector<std::string> failures_;  // of the events at hand, the innermost last
   IEventWatch* watch_ = nullptr;
