@@ -2,6 +2,7 @@
 
 #include "books/BooksNames.h"
 #include "books/SqlText.h"
+#include "books/StoreEntry.h"
 #include "host/forms/CDateDialog.h"
 #include "host/forms/Progress.h"
 #include "host/services/AccountColumns.h"
@@ -113,9 +114,9 @@ void EntriesView::StoreReturned() {
   const std::string mark = returned_.CheckValue != 0 ? "Y" : "N";
   std::int64_t documents = 0;
   try {
-    gSession->Year().Db().Execute(
-        "UPDATE FADOCS SET CHQRETURN='" + mark + "' WHERE VOUCHERID=" + books::SqlNumber(voucher), documents,
-        CDbLink::kNoRows);
+    documents = books::StoreEntry(
+        gSession->Year().Db(), voucher,
+        "UPDATE FADOCS SET CHQRETURN='" + mark + "' WHERE VOUCHERID=" + books::SqlNumber(voucher));
   } catch (...) {
     ShowReturned();  // as the books still have it
     throw;

@@ -1,6 +1,7 @@
 #include "reconciliation/WorkbenchAccount.h"
 
 #include "books/SqlText.h"
+#include "books/StoreEntry.h"
 #include "host/services/AccountColumns.h"
 #include "host/services/host_services.h"
 
@@ -41,9 +42,9 @@ void WorkbenchAccount::Echo(const books::EntryKey& entry, const std::string& dat
 
 void WorkbenchAccount::StoreClearedDate(const books::EntryKey& entry, Date date) const {
   if (!entry.IsEntry()) throw HostError("This row is no entry, so it can have no cleared date");
-  gSession->Year().Db().Execute("Update FAData set dBankDate=" + books::SqlDateOrNull(date) +
-                                " where VoucherID=" + books::SqlNumber(entry.Voucher) +
-                                " and dVchSubNo=" + books::SqlNumber(entry.Line));
+  books::StoreEntry(gSession->Year().Db(), entry.Voucher,
+                    "Update FAData set dBankDate=" + books::SqlDateOrNull(date) + " where VoucherID=" +
+                        books::SqlNumber(entry.Voucher) + " and dVchSubNo=" + books::SqlNumber(entry.Line));
 }
 
 std::string WorkbenchAccount::NarrationWithReference(CDataSet& line) const {
