@@ -15,7 +15,7 @@ TEST(Date, TheCalendarHasItsLeapYears) {
   EXPECT_FALSE(Date::Exists(2024, 13, 1));
   EXPECT_FALSE(Date::Exists(2024, 4, 31));
   EXPECT_FALSE(Date::Exists(2024, 4, 0));
-  EXPECT_FALSE(Date::Exists(99, 1, 1));
+  EXPECT_FALSE(Date::Exists(0, 1, 1));
   EXPECT_FALSE(Date::Exists(10000, 1, 1));
   EXPECT_FALSE(Date::Exists(2024, 257, 1)) << "no month beyond a byte wraps around";
   EXPECT_FALSE(Date::Exists(2024, 1, 257));
@@ -63,11 +63,11 @@ TEST(Date, MovesStayInsideTheCalendar) {
   for (const std::int64_t days : {INT64_MAX, INT64_MIN, std::int64_t{3000000}, std::int64_t{-800000}}) {
     EXPECT_THROW(day.AddDays(days), OverflowError) << days;
   }
-  for (const int years : {INT32_MAX, INT32_MIN, 7976, -1925})
+  for (const int years : {INT32_MAX, INT32_MIN, 7976, -2024})
     EXPECT_THROW(day.AddYears(years), OverflowError);
   EXPECT_EQ(Date::Days(Date::Of(2024, 4, 1), Date::Of(2024, 3, 1)), -31);
   EXPECT_THROW(Date::Days(Date(), day), HostError);
-  EXPECT_LT(Date(), Date::Of(100, 1, 1)) << "an empty date sorts before every other";
+  EXPECT_LT(Date(), Date::Of(1, 1, 1)) << "an empty date sorts before every other";
 }
 
 }  // namespace

@@ -68,6 +68,25 @@ class Workbench : public DeskTest {
 
 using Texts = std::vector<std::string>;
 
+TEST_F(Workbench, ADamagedDateClosesNothingAndIsSetRight) {
+  Db().Execute("update FAData set dBankDate='0024-04-10' where VoucherID=3");
+  Db().Execute("update FAData set dVchDate='0001-01-01' where VoucherID=4");
+  Open();
+  EXPECT_EQ(
+      RowTexts(Grid(), {8, kCleared}),
+      (std::vector<std::string>{"01-Apr-2024|", "05-Apr-2024|", "08-Apr-2024|10-Apr-0024", "02-May-2024|"}));
+  AnswerDate("30-Apr-2024");
+  Do([&] { Bar().UserPress("Statement"); });
+  const Texts dates = RowTexts(View(), {0});
+  EXPECT_NE(std::find(dates.begin(), dates.end(), "01-Jan-0001"), dates.end());
+  Key(*bench_, keys::kEscape);
+  AnswerMessage();
+  EXPECT_FALSE(EditCell(Grid(), 3, kCleared, "10/4/0024")) << "nobody types such a date";
+  EXPECT_EQ(Messages(), std::vector<std::string>{"Invalid Date"});
+  EXPECT_TRUE(EditCell(Grid(), 3, kCleared, "10"));
+  EXPECT_EQ(Stored(3), "10-Apr-2024");
+}
+
 TEST_F(Workbench, OpensOnTheStatementWithItsRowsTitlesAndTotals) {
   Open();
   EXPECT_EQ(At<Label>(bench_, "lblTitle").Caption(), "   Statement of Account -> Reconciliation");

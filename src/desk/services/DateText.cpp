@@ -86,8 +86,9 @@ bool ReadParts(const std::string& text, Parts& parts) {
   return parts.day > 0 && named;
 }
 
+/// A year that is typed short names no day of the first century.
 Date ToDate(const Parts& parts) {
-  const bool exists = Date::Exists(parts.year, parts.month, parts.day);
+  const bool exists = parts.year >= 100 && Date::Exists(parts.year, parts.month, parts.day);
   return exists ? Date::Of(parts.year, parts.month, parts.day) : Date();
 }
 

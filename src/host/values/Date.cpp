@@ -54,7 +54,7 @@ int MonthOf(std::string_view name) {
 }  // namespace
 
 bool Date::Exists(int y, int m, int d) {
-  return y >= 100 && y <= 9999 && m >= 1 && m <= 12 && d >= 1 && d <= 31 && Civil(y, m, d).ok();
+  return y >= 1 && y <= 9999 && m >= 1 && m <= 12 && d >= 1 && d <= 31 && Civil(y, m, d).ok();
 }
 
 Date Date::Of(int y, int m, int d) {
@@ -88,13 +88,13 @@ int Date::Day() const { return static_cast<int>(static_cast<unsigned>(Civil(seri
 Date Date::AddDays(std::int64_t days) const {
   if (IsEmpty()) return *this;
   const Date last = Of(9999, 12, 31);
-  if (days > last.serial_ - serial_ || days < Of(100, 1, 1).serial_ - serial_) throw OverflowError();
+  if (days > last.serial_ - serial_ || days < Of(1, 1, 1).serial_ - serial_) throw OverflowError();
   return Date(static_cast<std::int32_t>(serial_ + days));
 }
 
 Date Date::AddYears(int years) const {
   if (IsEmpty()) return *this;
-  if (years > 9999 - Year() || years < 100 - Year()) throw OverflowError();
+  if (years > 9999 - Year() || years < 1 - Year()) throw OverflowError();
   const int y = Year() + years;
   return Exists(y, Month(), Day()) ? Of(y, Month(), Day()) : Of(y, Month(), 28);
 }

@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// A calendar date of the years 100 to 9999, or none. An empty date sorts before every other.
+/// A calendar date of the years 1 to 9999, or none. An empty date sorts before every other.
 class Date {
  public:
   constexpr Date() = default;
