@@ -2,12 +2,17 @@
 
 #include <csignal>
 #include <filesystem>
+#include <unistd.h>
 
+#include "desk/firebird/EngineNames.h"
 #include "desk/firebird/EngineWatch.h"
 #include "desk/firebird/FirebirdEngine.h"
 #include "desk/firebird/FirebirdStatus.h"
+#include "host/values/Errors.h"
 
 namespace quillon {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -59,7 +64,6 @@ std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool 
   // All who open a firm's file share its tables, so the embedded engine sees one user whoever runs the desk.
   dpb->insertString(&status, isc_dpb_user_name, address.User.empty() ? "SYSDBA" : address.User.c_str());
   if (!address.IsServer()) {
-    // Asked for by name: a colon in a path would be taken for the end of a host's name.
     dpb->insertString(&status, isc_dpb_config, "Providers=Engine12");
   } else {
     dpb->insertString(&status, isc_dpb_password, address.Password.c_str());
@@ -83,11 +87,22 @@ std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool 
 
 std::shared_ptr<FirebirdAttachment> FirebirdAttachment::Attach(const FirebirdAddress& address) {
   return Opened(address, false, [&](auto& provider, auto& status, unsigned length, const unsigned char* dpb) {
-    return provider.attachDatabase(&status, address.Database.c_str(), length, dpb);
+    const std::string name = address.IsServer() ? address.Database : EngineNames::Of(address.Database);
+    return provider.attachDatabase(&status, name.c_str(), length, dpb);
   });
 }
 
 std::shared_ptr<FirebirdAttachment> FirebirdAttachment::Create(const FirebirdAddress& address) {
+  if (!address.IsServer() && !EngineNames::IsPlain(address.Database)) {
+    // Under a short name the engine opens what there is, and no more.
+    const fs::path made = FirebirdEngine::Names() / (std::to_string(getpid()) + ".fdb");
+    Create({made.string(), address.User, address.Password}).reset();
+    std::error_code failed;
+    fs::copy_file(made, address.Database, failed);
+    fs::remove(made);
+    if (failed) throw HostError("The file " + address.Database + " cannot be made: " + failed.message());
+    return Attach(address);
+  }
   return Opened(address, true, [&](auto& provider, auto& status, unsigned length, const unsigned char* dpb) {
     return provider.createDatabase(&status, address.Database.c_str(), length, dpb);
   });
@@ -103,7 +118,7 @@ void FirebirdAttachment::Delete(const FirebirdAddress& address) noexcept {
     // What cannot be opened is no database yet.
   }
   std::error_code ignored;
-  if (!address.IsServer()) std::filesystem::remove(address.Database, ignored);
+  if (!address.IsServer()) fs::remove(address.Database, ignored);
 }
 
 FirebirdAttachment::~FirebirdAttachment() {

@@ -1,10 +1,12 @@
 #include "desk/firebird/FirebirdEngine.h"
 
+#include <chrono>
 #include <clocale>
 #include <cstdlib>
 #include <dlfcn.h>
 #include <firebird/Interface.h>
 #include <fstream>
+#include <iterator>
 #include <langinfo.h>
 #include <mutex>
 #include <pwd.h>
@@ -54,6 +56,11 @@ void WriteWhole(const fs::path& file, const std::string& text) {
   PutInPlace(made, file);
 }
 
+bool Holds(const fs::path& file, const std::string& text) {
+  std::ifstream in(file, std::ios::binary);
+  return in && std::string(std::istreambuf_iterator<char>(in), {}) == text;
+}
+
 void LinkTo(const fs::path& target, const fs::path& link) {
   const fs::path made = Aside(link);
   fs::remove(made);
@@ -73,6 +80,9 @@ void PrepareOnce(fs::path root) {
 
 std::once_flag prepared;
 
+constexpr const char* kNames = "databases.conf";
+constexpr const char* kAllNames = "include $(this)/names/*.conf\n";
+
 constexpr const char* kLocks = "FIREBIRD_LOCK";
 
 std::optional<fs::path> GivenLocks() {
@@ -90,14 +100,29 @@ void FirebirdEngine::MakeRoot(const fs::path& root, const std::string& settings)
   const fs::path package = PackageFolder();
   try {
     fs::create_directories(root / "lock");
+    fs::create_directories(root / "names");
     fs::permissions(root, fs::perms::owner_all);
     for (const char* part : {"plugins", "intl", "firebird.msg", "plugins.conf"}) {
       LinkTo(package / part, root / part);
     }
-    WriteWhole(root / "databases.conf", "");
+    // Its time tells engines that a list has changed, so it is not written for nothing.
+    if (!Holds(root / kNames, kAllNames)) WriteWhole(root / kNames, kAllNames);
     WriteWhole(root / "firebird.conf", settings);
   } catch (const fs::filesystem_error& error) {
     throw HostError("The folder of the database engine cannot be made: " + std::string(error.what()));
+  }
+}
+
+void FirebirdEngine::PutNames(const fs::path& folder, const std::string& name, const std::string& list) {
+  try {
+    LinkTo(folder, Names() / name);
+    WriteWhole(Names() / (name + ".conf"), list);
+    // By its second an engine sees that a list has changed.
+    const fs::path all = Root() / kNames;
+    if (!Holds(all, kAllNames)) WriteWhole(all, kAllNames);
+    fs::last_write_time(all, fs::last_write_time(all) + std::chrono::seconds(1));
+  } catch (const fs::filesystem_error& error) {
+    throw HostError("The folder of the database engine cannot be written: " + std::string(error.what()));
   }
 }
 

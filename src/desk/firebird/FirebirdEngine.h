@@ -38,6 +38,13 @@ class FirebirdEngine {
   /// The root folder in use.
   static std::filesystem::path Root();
 
+  /// The folder of short names in it; a root that was not made by MakeRoot has none.
+  static std::filesystem::path Names() { return Root() / "names"; }
+
+  /// Puts a list of short names, lines of NAME = FILE, and a link to a folder there under a name of their
+  /// own. Engines that have attached already see it too.
+  static void PutNames(const std::filesystem::path& folder, const std::string& name, const std::string& list);
+
   /// Makes a root folder with a `firebird.conf` of these settings and links to the installed package's parts.
   static void MakeRoot(const std::filesystem::path& root, const std::string& settings);
 

@@ -4,13 +4,13 @@
 #include <fstream>
 #include <unistd.h>
 
+#include "desk/firebird/EngineNames.h"
 #include "desk/firm/OpeningNote.h"
 #include "desk/firm/Schema.h"
 #include "desk/firm/SchemaUpgrade.h"
 #include "host/data/CDataSet.h"
 #include "host/services/FinYear.h"
 #include "host/values/Errors.h"
-#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -20,12 +20,15 @@ namespace {
 
 bool IsWritable(const fs::path& path) { return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0; }
 
-/// The engine takes what stands before a colon for a host's name, wherever it stands, and knows UTF-8 only.
-void RequireNameable(const fs::path& folder) {
-  const std::string name = folder.string();
-  if (name.find(':') == std::string::npos && text::Repaired(name) == name) return;
-  throw HostError("The database engine cannot open files in the folder " + name +
-                  ": give it a name without a colon and in letters that every program reads");
+/// Tells the engine of the firm's files, before it attaches any.
+void TellEngine(const FirmFile& file) {
+  std::vector<std::string> files;
+  const auto add = [&files](const FirebirdAddress& address) {
+    if (!address.IsServer()) files.push_back(address.Database);
+  };
+  add(file.Common);
+  for (const auto& [start, year] : file.Years) add(year.Database);
+  EngineNames::Tell(files);
 }
 
 std::string YearText(int startYear) {
@@ -90,10 +93,8 @@ std::unique_ptr<Firm> Firm::Open(const fs::path& folder, const FirmOptions& opti
 
 Firm::Firm(const fs::path& folder, const FirmOptions& options)
     : folder_(fs::absolute(folder)), steps_(*options.Steps), file_(FirmFile::Read(folder)) {
-  if (!file_.Common.IsServer()) {
-    RequireNameable(folder_);
-    Lock(options.TakeOver);
-  }
+  TellEngine(file_);
+  if (!file_.Common.IsServer()) Lock(options.TakeOver);
   common_ = OpenDatabase(file_.Common, "common");
   if (Schema::Check(*common_, "The database " + file_.Common.Database, VersionAfter(steps_)) <
       VersionAfter(steps_)) {
@@ -203,7 +204,6 @@ void Firm::SetObserver(SqlObserver* observer) {
 
 void CreateFirm(const fs::path& folder, const FirmDetails& details, const std::vector<int>& years,
                 const FirebirdAddress& server) {
-  if (server.Database.empty()) RequireNameable(fs::absolute(folder));
   std::error_code failed;
   fs::create_directories(folder, failed);
   if (failed || !IsWritable(folder)) {
@@ -215,17 +215,17 @@ void CreateFirm(const fs::path& folder, const FirmDetails& details, const std::v
   FirmFile file;
   file.Name = details.FirmName;
   file.Common = PlaceOf(folder, server, "common.fdb");
+  for (const int start : years) {
+    file.Years[start] = {PlaceOf(folder, server, std::to_string(start) + ".fdb"), Date::Of(start, 4, 1),
+                         Date::Of(start + 1, 3, 31)};
+  }
+  TellEngine(file);
   Making making;
   making.Add(file.Common, [&](FirebirdLink& link) {
     Schema::MakeCommon(link);
     WriteDetails(link, details);
   });
-  for (const int start : years) {
-    FirmFile::Year& year = file.Years[start];
-    year = {PlaceOf(folder, server, std::to_string(start) + ".fdb"), Date::Of(start, 4, 1),
-            Date::Of(start + 1, 3, 31)};
-    making.Add(year.Database, Schema::MakeYear);
-  }
+  for (const auto& [start, year] : file.Years) making.Add(year.Database, Schema::MakeYear);
   SchemaUpgrade(folder, file, AllSchemaSteps()).RaiseAll();
   // Last, so that a folder with firm.json holds a whole firm.
   file.Write(folder);

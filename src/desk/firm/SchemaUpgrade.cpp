@@ -1,7 +1,9 @@
 #include "desk/firm/SchemaUpgrade.h"
 
+#include <algorithm>
 #include <fstream>
 
+#include "desk/firebird/JointTransaction.h"
 #include "desk/firm/Schema.h"
 #include "host/values/Errors.h"
 
@@ -25,26 +27,51 @@ std::vector<SchemaUpgrade::Database> SchemaUpgrade::Databases() const {
   for (const auto& [start, year] : file_.Years) {
     databases.push_back({SchemaStep::Database::kYear, year.Database});
   }
-  // Last, because a firm is as old as its common database.
   databases.push_back({SchemaStep::Database::kCommon, file_.Common});
   return databases;
 }
 
-void SchemaUpgrade::Raise(const Database& database) const {
-  const auto link = FirebirdLink::Open(database.Address, "");
-  const int newest = VersionAfter(steps_);
-  for (int version = Schema::Check(*link, NameOf(database.Address), newest); version < newest; ++version) {
+/// A database that is being raised, and where it stands.
+struct SchemaUpgrade::Raised {
+  SchemaStep::Database Kind;
+  std::shared_ptr<FirebirdLink> Link;
+  int Version;
+};
+
+void SchemaUpgrade::RaiseFrom(int version, std::vector<Raised>& databases) const {
+  std::vector<FirebirdLink*> links;
+  for (const Raised& database : databases) {
+    if (database.Version == version) links.push_back(database.Link.get());
+  }
+  if (links.empty()) return;
+  JointTransaction work(links);
+  for (Raised& database : databases) {
+    if (database.Version != version) continue;
     for (const SchemaStep& step : steps_) {
       if (step.Kind != database.Kind || step.From != version) continue;
-      for (const std::string& statement : step.Statements) link->Execute(statement);
+      for (const std::string& statement : step.Statements) work.Execute(*database.Link, statement);
     }
-    link->Execute("update SchemaVersion set Version=" + std::to_string(version + 1));
+    ++database.Version;
+    work.Execute(*database.Link, "update SchemaVersion set Version=" + std::to_string(database.Version));
   }
+  work.Commit();
 }
 
 void SchemaUpgrade::RaiseAll() const {
   if (steps_.empty()) return;
-  for (const Database& database : Databases()) Raise(database);
+  const int newest = VersionAfter(steps_);
+  std::vector<Raised> databases;
+  for (const Database& database : Databases()) {
+    const auto link = FirebirdLink::Open(database.Address, "");
+    const int version = Schema::Check(*link, NameOf(database.Address), newest);
+    databases.push_back({database.Kind, link, version});
+  }
+  for (int version = 1; version < newest; ++version) RaiseFrom(version, databases);
+}
+
+bool SchemaUpgrade::IsOnServer() const {
+  const std::vector<Database> all = Databases();
+  return std::any_of(all.begin(), all.end(), [](const Database& each) { return each.Address.IsServer(); });
 }
 
 void SchemaUpgrade::Copy() const {
@@ -81,10 +108,12 @@ void SchemaUpgrade::Run() const {
     DropCopies();
   } catch (const DbError& error) {
     Recover();
-    throw DbError(
-        "The firm was made by an older version of this program and cannot be brought up. It is as it was. " +
-            std::string(error.what()),
-        error.SqlState(), error.Statement(), error.EngineText(), error.Why());
+    const std::string state = IsOnServer()
+                                  ? "Its databases stand together at the last version that all took. "
+                                  : "It is as it was. ";
+    throw DbError("The firm was made by an older version of this program and cannot be brought up. " + state +
+                      error.what(),
+                  error.SqlState(), error.Statement(), error.EngineText(), error.Why());
   } catch (const fs::filesystem_error& error) {
     Recover();
     throw HostError(

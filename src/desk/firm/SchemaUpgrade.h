@@ -8,9 +8,10 @@
 
 namespace quillon {
 
-/// Brings the databases of an older firm up, all of them or none: those that are files are copied first, and
-/// the copies come back when a step fails, or when the program ended in the middle. Databases on a server
-/// have no copies; a step that fails there is taken up again at the next opening.
+/// Brings the databases of an older firm up, version by version, each by one transaction over all of them.
+/// Those that are files are copied first, and the copies come back when a version fails, or when the program
+/// ended in the middle. Databases on a server have no copies: they stay together at the last version that all
+/// of them took.
 class SchemaUpgrade {
  public:
   SchemaUpgrade(const std::filesystem::path& folder, const FirmFile& file,
@@ -33,7 +34,9 @@ class SchemaUpgrade {
   };
 
   std::vector<Database> Databases() const;
-  void Raise(const Database& database) const;
+  struct Raised;
+  void RaiseFrom(int version, std::vector<Raised>& databases) const;
+  bool IsOnServer() const;
   void Copy() const;
   void DropCopies() const;
 
