@@ -392,6 +392,45 @@ TEST_F(ReportTest, LabelsKeepTheirPitchAndTakeNoColour) {
   EXPECT_TRUE(preview.sheets.Pages[0].Lines.empty());
 }
 
+TEST_F(ReportTest, LabelsOfATextPrinterKeepTheirPitchAndTheGapBetweenThem) {
+  MSHFlexGrid& grid = form->Labels;
+  grid.Cols = 7;
+  grid.HideAllColumns();
+  grid.SetColWidth(0, 9500);
+  grid.SetColWidth(1, 8000);
+  grid.Rows = 6;
+  grid.SetRowHeight(0, 0);
+  for (int row = 1; row < 6; ++row) {
+    for (int col = 0; col < 2; ++col)
+      grid.SetTextMatrix(
+          row, col,
+          "Party" + std::to_string(row * 10 + col) +
+              " of a name that fills its label\r\n  Road and lane of the very same length\r\n  Pune");
+    grid.SetTextMatrix(row, 6, "*midchk-08*");
+  }
+  options.SetColumnOption(1, "Wrap", "True");
+  options.SetColumnOption(2, "Wrap", "True");
+  options.Settings.LineHeight = 1.88 * 1440;
+  options.Settings.LineTopMargin = 300;
+  const std::vector<std::string> lines =
+      text::Split(ShowPlain(grid, options,
+                            "MainHeadForm1=,MainHeadForm2=,Heading=False,RulingChr1=,HeadingHorizontalLine1=,"
+                            "HeadingHorizontalLine2="),
+                  "\n");
+  std::size_t gap = 1000;
+  std::vector<int> starts;
+  for (int i = 0; i < static_cast<int>(lines.size()); ++i) {
+    const std::string& line = lines[static_cast<std::size_t>(i)];
+    EXPECT_EQ(line.find('*'), std::string::npos) << line;
+    if (line.starts_with("Party")) starts.push_back(i);
+    const std::size_t second = line.find("Party", 1);
+    if (second == std::string::npos) continue;
+    gap = std::min(gap, second - line.find_last_not_of(' ', second - 1) - 1);
+  }
+  EXPECT_EQ(starts, (std::vector<int>{1, 12, 23, 34, 46})) << "the tops of the labels, 11.28 lines apart";
+  EXPECT_GE(gap, 6U) << "the wider column keeps it";
+}
+
 TEST_F(LetterTest, ATextPrinterLeavesRoomForTheHeadOfTheSheetAndEndsEachLetterOnItsPage) {
   Fill();
   options.SetOption("MainHeadForm1", "LetterHeadRefDate");

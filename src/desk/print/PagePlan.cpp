@@ -51,6 +51,9 @@ bool PagePlan::TryFit(const ReportTable& table, const std::vector<double>& least
   Body.Size = Bold.Size = size;
   LineHeight = size * kLineHeight;
   ColumnWidth = ShareWidth(table, least, Right - Left);
+  TextWidth = ColumnWidth;
+  if (IsLabels)
+    TextWidth.assign(ColumnWidth.size(), *std::min_element(ColumnWidth.begin(), ColumnWidth.end()));
   ColumnLeft.clear();
   double x = Left;
   for (const double width : ColumnWidth) {
@@ -63,6 +66,7 @@ bool PagePlan::TryFit(const ReportTable& table, const std::vector<double>& least
 PagePlan PagePlan::For(const ReportTable& table, const ReportSettings& settings) {
   PagePlan plan;
   // A letter's lines stand as close as those of a wrapped paragraph, from margin to margin.
+  plan.IsLabels = settings.IsLabels() && !table.Columns().empty();
   plan.CellMargin = settings.IsLetter() ? 0 : kCellMargin;
   plan.RowMargin = settings.IsLetter() ? 0 : kRowMargin;
   plan.Body = table.Grid().Font();

@@ -23,6 +23,8 @@ struct PagePlan {
   double RowMargin = 0;   ///< above and below the text of a row
   std::vector<double> ColumnLeft;
   std::vector<double> ColumnWidth;
+  std::vector<double> TextWidth;  ///< what of the column's width a text may take
+  bool IsLabels = false;
 
   /// Upright when the columns fit with a readable font, else landscape; a font below that only when nothing
   /// else helps, because figures are never cut.

@@ -162,7 +162,14 @@ class Writer {
     const auto above = static_cast<int>(settings_.LineTopMargin / kTwipsPerLine);
     for (int i = 0; i < above; ++i) Line();
     int lines = above + WriteCells([&](std::size_t i) { return table_.Cell(row, i); }, false);
-    for (; lines < static_cast<int>(settings_.LineHeight / kTwipsPerLine); ++lines) Line();
+    // A height that is no whole number of lines must not drift away from the labels on the paper.
+    owed_ += settings_.LineHeight / kTwipsPerLine;
+    for (; lines < static_cast<int>(owed_); ++lines) Line();
+    owed_ = std::max(0.0, owed_ - lines);
+  }
+
+  double TextWidth(std::size_t column) const {
+    return settings_.IsLabels() ? *std::min_element(widths_.begin(), widths_.end()) : widths_[column];
   }
 
   template <class Texts>
@@ -170,7 +177,7 @@ class Writer {
     std::vector<std::vector<WrappedLine>> cells;
     std::size_t lines = 1;
     for (std::size_t i = 0; i < table_.Columns().size(); ++i) {
-      cells.push_back(WrapText(texts(i), widths_[i], DisplayWidth));
+      cells.push_back(WrapText(texts(i), TextWidth(i), DisplayWidth));
       lines = std::max(lines, cells.back().size());
     }
     for (std::size_t line = 0; line < lines; ++line) {
@@ -201,6 +208,7 @@ class Writer {
   ReportSettings settings_;
   ReportTable table_;
   double width_ = 0;
+  double owed_ = 0;  // lines by which the rows so far are shorter than their heights
   std::vector<double> widths_;
   PlainReport out_;
 };

@@ -58,6 +58,10 @@ struct ReportSettings {
   double LineTopMargin = 0;  ///< twips
   bool Underline = false;
 
+  /// A sheet of labels: its columns are alike, and by what one is wider than another it keeps from its
+  /// neighbour.
+  bool IsLabels() const { return Bare && LineHeight > 0; }
+
   bool IsLetter() const {
     return FirstForm == HeadingForm::Letter || FirstForm == HeadingForm::LetterReference;
   }

@@ -35,7 +35,7 @@ void RowSetter::SetCell(std::size_t column, std::string_view text, bool underlin
   CellLines& cell = cells_[column];
   cell.underlined = underlined;
   cell.color = color;
-  const double width = plan_.ColumnWidth[column] - 2 * plan_.CellMargin + kRounding;
+  const double width = plan_.TextWidth[column] - 2 * plan_.CellMargin + kRounding;
   const auto measure = [this](std::string_view part) { return TextMeasure::Width(Face(), part); };
   if (text.find('\n') == std::string_view::npos && measure(text) <= width) {
     cell.lines.push_back({text, true});
