@@ -103,6 +103,31 @@ TEST_F(ChartTest, TheAxisGoesInRoundStepsGroupedTheIndianWay) {
   }
 }
 
+TEST_F(ChartTest, ValuesStandOnBothSidesAndAFootnoteBelow) {
+  Fill({{300000}, {100000}});
+  const auto inked = [this](const QRect& part) {
+    const QImage picture = Picture();
+    int dots = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+      for (int x = part.left(); x <= part.right(); ++x) dots += qGray(picture.pixel(x, y)) < 160 ? 1 : 0;
+    }
+    return dots;
+  };
+  const QRect all = Picture().rect();
+  const QRect right(all.right() - 60, all.top(), 60, all.height() - 60);
+  const int plain = inked(right);
+  EXPECT_GT(plain, 200);
+  Font large = chart_.Plot.Axis(MSChartPlot::kAxisY2).Labels(1).Font();
+  large.Size = 14;
+  chart_.Plot.Axis(MSChartPlot::kAxisY2).Labels(1).Font = large;
+  EXPECT_NE(inked(right), plain);
+  const QRect foot(all.left(), all.bottom() - 28, all.width(), 18);
+  EXPECT_LT(inked(foot), inked(right));
+  const int without = inked(foot);
+  chart_.FootnoteText = "Figures in thousands of rupees";
+  EXPECT_NE(inked(foot), without);
+}
+
 TEST_F(ChartTest, ThreeHundredAndSixtySixBarsStandApart) {
   chart_.Width = 15000;
   Fill(std::vector<std::vector<double>>(366, {5}));

@@ -31,6 +31,9 @@ class MSChart : public Control {
   Property<bool> ShowLegend{*this, "ShowLegend"};
   TextProperty TitleText{*this, "TitleText"};
 
+  /// A line under the chart.
+  TextProperty FootnoteText{*this, "FootnoteText"};
+
   MSChartDataGrid DataGrid{changed_};
   mutable MSChartPlot Plot{changed_};
 

@@ -40,6 +40,7 @@ QFontMetricsF ChartPainter::Metrics() const { return QFontMetricsF(painter_.font
 void ChartPainter::Paint() {
   field_.Spots.clear();
   PaintTitle();
+  PaintFootnote();
   if (chart_.SeriesCount() == 0 || chart_.PeriodCount() == 0) {
     painter_.setPen(Theme::Muted());
     painter_.drawText(field_.Place, Qt::AlignCenter, QStringLiteral("No figures"));
@@ -53,6 +54,7 @@ void ChartPainter::Paint() {
   }
   PlanAxis();
   PaintValues();
+  PaintRightValues();
   PaintPeriods();
   if (chart_.chartType <= MSChart::k2dBar) {
     PaintChartBars(field_);
@@ -75,6 +77,15 @@ void ChartPainter::PaintTitle() {
                     Qt::AlignHCenter | Qt::AlignTop, QString::fromStdString(chart_.TitleText));
   painter_.restore();
   field_.Place.setTop(field_.Place.top() + height);
+}
+
+void ChartPainter::PaintFootnote() {
+  if (chart_.FootnoteText().empty()) return;
+  const double height = Metrics().height() * 1.4;
+  field_.Place.setBottom(field_.Place.bottom() - height);
+  painter_.setPen(Theme::Muted());
+  painter_.drawText(QRectF(field_.Place.left(), field_.Place.bottom(), field_.Place.width(), height),
+                    Qt::AlignHCenter | Qt::AlignBottom, QString::fromStdString(chart_.FootnoteText));
 }
 
 void ChartPainter::PaintLegend() {
@@ -141,14 +152,22 @@ void ChartPainter::PlanAxis() {
   const double periods = Metrics().height() * 1.5;
   painter_.setFont(FontOf(MSChartPlot::kAxisY));
   const QFontMetricsF metrics = Metrics();
-  const double title = chart_.Plot.Axis(MSChartPlot::kAxisY).AxisTitle.Text().empty() ? 0.6 : 1.8;
+  const bool isTitled = !chart_.Plot.Axis(MSChartPlot::kAxisY).AxisTitle.Text().empty() ||
+                        !chart_.Plot.Axis(MSChartPlot::kAxisY2).AxisTitle.Text().empty();
+  const double title = isTitled ? 1.8 : 0.6;
   field_.Place.adjust(0, title * metrics.height() + field_.Depth, -field_.Depth, -periods);
   const double steps = field_.Place.height() / (kStepLines * metrics.height());
   field_.Axis = ChartAxis::For(least, most, std::clamp(static_cast<int>(steps), 2, 10));
+  field_.Place.setLeft(field_.Place.left() + WidestValue() + kMargin * field_.Unit);
+  painter_.setFont(FontOf(MSChartPlot::kAxisY2));
+  field_.Place.setRight(field_.Place.right() - WidestValue() - kMargin / 2 * field_.Unit);
+}
+
+double ChartPainter::WidestValue() const {
   double widest = 0;
   for (int step = 0; step <= field_.Axis.Steps(); ++step)
-    widest = std::max(widest, metrics.horizontalAdvance(field_.Axis.Label(step)));
-  field_.Place.setLeft(field_.Place.left() + widest + kMargin * field_.Unit);
+    widest = std::max(widest, Metrics().horizontalAdvance(field_.Axis.Label(step)));
+  return widest;
 }
 
 void ChartPainter::PaintValues() {
@@ -169,6 +188,24 @@ void ChartPainter::PaintValues() {
     painter_.setPen(Theme::Text());
     painter_.drawText(QRectF(0, y - metrics.height() / 2, left - kMargin / 2 * field_.Unit, metrics.height()),
                       Qt::AlignRight | Qt::AlignVCenter, field_.Axis.Label(step));
+  }
+}
+
+/// The same values again beside the last period, so that a wide chart is read without going back.
+void ChartPainter::PaintRightValues() {
+  painter_.setFont(FontOf(MSChartPlot::kAxisY2));
+  const QFontMetricsF metrics = Metrics();
+  const double right = field_.Place.right() + field_.Depth;
+  const QString title = QString::fromStdString(chart_.Plot.Axis(MSChartPlot::kAxisY2).AxisTitle.Text());
+  painter_.setPen(Theme::Muted());
+  painter_.drawText(QRectF(0, field_.Place.top() - field_.Depth - 1.8 * metrics.height(),
+                           right + WidestValue() + kMargin / 2 * field_.Unit, metrics.height()),
+                    Qt::AlignRight | Qt::AlignVCenter, title);
+  for (int step = 0; step <= field_.Axis.Steps(); ++step) {
+    const double y = field_.Y(field_.Axis.At(step)) - field_.Depth;
+    painter_.drawText(QRectF(right + kMargin / 2 * field_.Unit, y - metrics.height() / 2, WidestValue() + 1,
+                             metrics.height()),
+                      Qt::AlignLeft | Qt::AlignVCenter, field_.Axis.Label(step));
   }
 }
 

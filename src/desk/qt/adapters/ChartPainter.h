@@ -20,10 +20,13 @@ class ChartPainter {
 
  private:
   void PaintTitle();
+  void PaintFootnote();
   void PaintLegend();
   void PaintLegendLine(int series, const QRectF& line);
   void PlanAxis();
   void PaintValues();
+  void PaintRightValues();
+  double WidestValue() const;
   void PaintPeriods();
   void PaintZero();
   QFont FontOf(int axis) const;
