@@ -42,6 +42,7 @@ TEST_F(Voucher, ShowsAllItsLinesAndEscReturnsToTheEntry) {
   EXPECT_EQ(grid.Title(), "Voucher No. 9   Date 20-Apr-2024   Book BNK");
   EXPECT_EQ(grid.Footer.TextMatrix(0, 4), "1,500.25");
   EXPECT_EQ(grid.Footer.TextMatrix(0, 5), "1,500.25");
+  EXPECT_EQ(At<CMStrip>(voucher, "MStrip1").Code(), 101) << "of the first line";
   EXPECT_EQ(At<Label>(voucher, "lblDocument").Caption(), "   No document");
   EXPECT_EQ(At<Label>(voucher, "lblLeaf").Caption(), "   No cheque leaf");
   Key(*voucher, keys::kEscape);

@@ -40,7 +40,11 @@ frmVoucher::frmVoucher()
   Member("VoucherID", VoucherID);
   Member("StartYear", StartYear);
   Member("AccountCode", AccountCode);
-  Grid.RowChange = [this](int row) { MStrip1.Code = ValInteger(Grid.Cell(row, col::kCode)); };
+  Grid.RowChange = [this](int row) { ShowParty(row); };
+}
+
+void frmVoucher::ShowParty(int row) {
+  if (row < Grid.Rows) MStrip1.Code = ValInteger(Grid.Cell(row, col::kCode));
 }
 
 void frmVoucher::SetColumns() {
@@ -66,6 +70,7 @@ void frmVoucher::LoadScreen() {
   year->OpenYear(StartYear, ok);
   if (!ok) throw HostError("The firm has no financial year " + std::to_string(StartYear));
   FillLines(year->Db());
+  ShowParty(1);
   ShowDocuments(year->Db());
   ShowLeaves(year->Db());
 }

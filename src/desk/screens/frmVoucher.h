@@ -31,6 +31,7 @@ class frmVoucher : public ScreenForm {
  private:
   void DesignControls();
   void SetColumns();
+  void ShowParty(int row);
   void FillLines(CDbLink& db);
   void ShowDocuments(CDbLink& db);
   void ShowLeaves(CDbLink& db);
