@@ -19,6 +19,7 @@ constexpr ScreenSpec kScreen = {
     .iconKey = "AcStatement",
     .firstKey = keys::kF3,
     .lastKey = keys::kF9,
+    .helpContext = 2,
 };
 
 constexpr int kMassMark = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "books/SqlText.h"
+#include "books/StoreEntry.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
 #include "reconciliation/ChequeSearch.h"
@@ -20,6 +21,7 @@ constexpr ScreenSpec kScreen = {
     .iconKey = "Modify",
     .firstKey = keys::kF3,
     .lastKey = keys::kF9,
+    .helpContext = 3,
 };
 
 namespace col {
@@ -253,11 +255,12 @@ void frmAcReconciliationMark::MarkEntry(const CDataSet& entry, int row) {
     gRuntime->Beep();
     return;
   }
-  FYear->Db().Execute(
+  const std::int64_t voucher = entry.Field("VOUCHERID").ToInteger();
+  books::StoreEntry(
+      FYear->Db(), voucher,
       "UPDATE FADATA SET DBANKDATE=" + gStd->SqlDate(Date::Parse(Grid.TextMatrix(row, col::kClearDate))) +
-      " WHERE DCD=" + books::SqlNumber(AccountCode) +
-      " AND VOUCHERID=" + books::SqlNumber(entry.Field("VOUCHERID").ToInteger()) +
-      " AND DVCHSUBNO=" + books::SqlNumber(entry.Field("DVCHSUBNO").ToInteger()));
+          " WHERE DCD=" + books::SqlNumber(AccountCode) + " AND VOUCHERID=" + books::SqlNumber(voucher) +
+          " AND DVCHSUBNO=" + books::SqlNumber(entry.Field("DVCHSUBNO").ToInteger()));
 }
 
 void frmAcReconciliationMark::FillRow(const CDataSet& entry, int row) {
@@ -297,8 +300,9 @@ void frmAcReconciliationMark::RemoveMark() {
   const int row = Grid.Row;
   if (row < 1 || !IsMatched(row)) return;
   if (!gStd->AskYesNo("Do you want to remove mark date of this entry?")) return;
-  FYear->Db().Execute("UPDATE FADATA SET DBANKDATE=NULL WHERE VOUCHERID=" +
-                      books::SqlNumber(Grid.Cell(row, col::kVoucherId)));
+  const std::int64_t voucher = ValInteger(Grid.Cell(row, col::kVoucherId));
+  books::StoreEntry(FYear->Db(), voucher,
+                    "UPDATE FADATA SET DBANKDATE=NULL WHERE VOUCHERID=" + books::SqlNumber(voucher));
   Grid.CancelEdit();
   Grid.RemoveItem(row);
   if (Grid.Rows < 2) Grid.Rows = 2;  // there is always a row to key in

@@ -1,6 +1,8 @@
 #include <QCloseEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <algorithm>
 
 #include "desk/qt/dialogs/DateDialog.h"
 #include "desk/qt/dialogs/MessageDialog.h"
@@ -49,7 +51,8 @@ class frmPicker : public ScreenForm {
                                     .titleSuffix = "",
                                     .rightKey = "",
                                     .registerTitle = "Picker",
-                                    .iconKey = "List"};
+                                    .iconKey = "List",
+                                    .helpContext = 3};
 };
 
 /// A window that is not modal.
@@ -118,12 +121,15 @@ TEST_F(DeskTest, AModalScreenLiesInTheAreaAndKeepsTheMenusAway) {
     EXPECT_EQ(note->txtNote.Text(), "") << "the windows beside it wait";
     Soon([&] {
       if (QWidget* help = QApplication::activeModalWidget()) {
-        ++helps;
+        const QList<QLabel*> words = help->findChildren<QLabel*>();
+        helps += static_cast<int>(std::count_if(words.begin(), words.end(), [](const QLabel* each) {
+          return each->text().contains(QStringLiteral("the bank's own statement"));
+        }));
         QTest::keyClick(help, Qt::Key_Escape);
       }
     });
     Press(Qt::Key_F1);
-    EXPECT_EQ(helps, 1) << "the keys of the screen";
+    EXPECT_EQ(helps, 1) << "what stands under its context";
     picker->AnswersHelp = true;
     Press(Qt::Key_F1);
     EXPECT_EQ(picker->lblTitle.Caption(), "Answered");

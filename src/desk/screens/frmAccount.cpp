@@ -32,6 +32,7 @@ constexpr ScreenSpec kScreen = {
     .firstKey = keys::kF2,
     .lastKey = keys::kF9,
     .initForm = true,
+    .helpContext = 1,
 };
 
 namespace col = account_col;

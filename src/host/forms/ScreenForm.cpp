@@ -33,6 +33,7 @@ ScreenForm::ScreenForm(const ScreenSpec& spec, Origin origin)
       spec_(spec) {
   lblTitle.Caption = spec.caption;
   Caption = spec.registerTitle;
+  HelpContext = spec.helpContext;
   BtnBar1.ButtonPressed = [this](int index) {
     if (BtnBar1.Buttons(index).Enabled()) PressKey(BtnBar1.Buttons(index).Key());
   };

@@ -27,6 +27,7 @@ struct ScreenSpec {
   int lastKey = 0;   ///< the last function key that presses a button
   bool initForm = false;
   bool rightEachTime = false;  ///< the right is asked for at every activation
+  int helpContext = 0;         ///< what F1 tells beside the keys
 };
 
 /// A full-size screen: its area, title, bar of F keys, rights and registration, Enter as Tab, Esc as Exit and

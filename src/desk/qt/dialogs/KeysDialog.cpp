@@ -1,5 +1,6 @@
 #include "desk/qt/dialogs/KeysDialog.h"
 
+#include <QFile>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -9,6 +10,9 @@
 #include "host/controls/CButton.h"
 #include "host/controls/CButtonBar.h"
 #include "host/forms/Form.h"
+
+/// A resource inside a static library has to be asked for, outside every namespace.
+static void InitHelp() { Q_INIT_RESOURCE(help); }
 
 namespace quillon {
 
@@ -37,11 +41,12 @@ constexpr KeyLine kEverywhere[] = {
 
 }  // namespace
 
-KeysDialog::KeysDialog(const Form* form, QWidget* parent)
+KeysDialog::KeysDialog(const Form* form, int context, QWidget* parent)
     : DeskDialog(QStringLiteral("Keys"), parent), table_(new QGridLayout) {
   table_->setVerticalSpacing(Scale::Px(kRowGap));
   table_->setColumnMinimumWidth(0, Scale::Px(kKeyWidth));
   table_->setColumnMinimumWidth(1, Scale::Px(kWordsWidth));
+  AddText(context);
   if (form != nullptr) AddKeysOf(*form);
   AddHeading(QStringLiteral("Everywhere"));
   for (const KeyLine& line : kEverywhere)
@@ -50,6 +55,18 @@ KeysDialog::KeysDialog(const Form* form, QWidget* parent)
   PushButton& close = AddButton(QStringLiteral("Esc: Close"), [this] { reject(); });
   close.setDefault(true);
   close.setFocus();
+}
+
+/// The file of that number in the folder of help.
+void KeysDialog::AddText(int context) {
+  InitHelp();
+  QFile file(QStringLiteral(":/help/%1.txt").arg(context));
+  if (!file.open(QIODevice::ReadOnly)) return;
+  auto* const text = new QLabel(QString::fromUtf8(file.readAll()).trimmed(), this);
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  text->setFixedWidth(Scale::Px(kKeyWidth + kWordsWidth));
+  Content().addWidget(text);
 }
 
 void KeysDialog::AddHeading(const QString& text) {

@@ -8,13 +8,15 @@ namespace quillon {
 
 class Form;
 
-/// Tells the keys of a screen, and those that hold everywhere.
+/// Tells what stands under a help context, the keys of a screen, and those that hold everywhere.
 class KeysDialog : public DeskDialog {
  public:
-  /// Without a form only the keys that hold everywhere.
-  KeysDialog(const Form* form, QWidget* parent);
+  /// Without a form only the keys that hold everywhere. A context under which nothing stands, as 0, tells the
+  /// keys alone.
+  KeysDialog(const Form* form, int context, QWidget* parent);
 
  private:
+  void AddText(int context);
   void AddHeading(const QString& text);
   void AddKey(const QString& key, const QString& what, bool enabled = true);
   void AddKeysOf(const Form& form);

@@ -133,7 +133,10 @@ void DeskWindow::BuildHelpMenu() {
   AddAct(menu, QStringLiteral("&About Quillon"), {}, &DeskWindow::ShowAbout);
 }
 
-void DeskWindow::ShowKeys() { KeysDialog(runtime_.ActiveForm().get(), runtime_.TopWindow()).exec(); }
+void DeskWindow::ShowKeys() {
+  const FormPtr form = runtime_.ActiveForm();
+  KeysDialog(form.get(), form ? form->HelpContext : 0, runtime_.TopWindow()).exec();
+}
 
 void DeskWindow::ShowAbout() {
   Tell(QStringLiteral("Quillon %1\n\nBank reconciliation and the accountant's side tools.\n"

@@ -106,9 +106,9 @@ bool QtRuntime::AskPrint(PrintSetup& setup) {
   return true;
 }
 
-void QtRuntime::ShowHelp(Form& form, int /*context*/) {
+void QtRuntime::ShowHelp(Form& form, int context) {
   const PointerRest rest(*this);
-  KeysDialog(&form, TopWindow()).exec();
+  KeysDialog(&form, context, TopWindow()).exec();
 }
 
 int QtRuntime::AskPopup(Form& form, Menu& menu, long left, long top) {
