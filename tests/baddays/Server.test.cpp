@@ -77,6 +77,7 @@ TEST_F(OnAServer, ALockOfAnotherDeskIsToldAndTheDateStaysInTheEditor) {
   theirs.BeginTrans();
   theirs.Execute("Update FAData set dBankDate='2024-04-20' where VoucherID=4 and dVchSubNo=1");
   EXPECT_FALSE(EditCell(Grid(), 3, 27, "13"));
+  EXPECT_EQ(Events("waiting").size(), 2U) << "a sign that it waits, and its end";
   const std::vector<std::string> errors = Errors();
   ASSERT_EQ(errors.size(), 1U);
   EXPECT_EQ(

@@ -2,8 +2,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <algorithm>
 
+#include "desk/firm/Firm.h"
 #include "desk/qt/dialogs/DateDialog.h"
 #include "desk/qt/dialogs/MessageDialog.h"
 #include "desk/qt/windows/PageView.h"
@@ -184,6 +186,37 @@ TEST_F(DeskTest, EntriesAreMarkedByKeysAlone) {
   EXPECT_EQ(Top().Name(), "frmAccount");
   Press(Qt::Key_Escape);
   EXPECT_EQ(runtime_.ActiveForm(), nullptr);
+}
+
+TEST_F(DeskTest, AStoreThatWaitsForAnotherProgramSaysSo) {
+  CGridPlus& grid = OpenWorkbench();
+  int row = grid.FixedRows;
+  while (Val(grid.Cell(row, 0)) == 0) ++row;
+  const auto other = Firm::Open(folder_.Path() / "firm");
+  CDbLink& theirs = *other->OpenYear(2024).Db;
+  theirs.BeginTrans();
+  theirs.Execute("update FAData set dSrNo=dSrNo where VoucherID=" + grid.TextMatrix(row, 0));
+  const auto words = [this] {
+    QStringList all;
+    for (const QLabel* label : window_.statusBar()->findChildren<QLabel*>()) all << label->text();
+    return all.join(QLatin1Char('|'));
+  };
+  const QString before = words();
+  QString waiting;
+  bool isBusy = false;
+  grid.UserMoveTo(row, kCleared);
+  Type("5");
+  Soon([&] {
+    waiting = words();
+    isBusy = QApplication::overrideCursor() != nullptr;
+    theirs.CommitTrans();
+  });
+  Press(Qt::Key_Return);
+  EXPECT_TRUE(waiting.contains(QStringLiteral("Waiting for another program"))) << waiting.toStdString();
+  EXPECT_TRUE(isBusy);
+  EXPECT_EQ(words(), before);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(grid.TextMatrix(row, kCleared).substr(0, 3), "05-") << "it went on when the other was done";
 }
 
 TEST_F(DeskTest, TheStatementIsAskedForADateAndShownOnPages) {

@@ -40,6 +40,8 @@ std::string DriverRuntime::InOutput(const std::string& file) const {
   return (std::filesystem::path(outputFolder_) / file).string();
 }
 
+void DriverRuntime::ShowWaiting(bool on) { log_.Write({{"event", "waiting"}, {"on", on}}); }
+
 void DriverRuntime::ShowBusy(bool on, const std::string& text) {
   log_.Write({{"event", "busy"}, {"on", on}, {"text", text}});
 }

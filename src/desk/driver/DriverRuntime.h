@@ -40,6 +40,7 @@ class DriverRuntime : public Runtime {
   long ScreenHeight() const override { return 768 * kTwipsPerPixel; }
   void Beep() override { log_.Write({{"event", "beep"}}); }
   void ShowBusy(bool on, const std::string& text) override;
+  void ShowWaiting(bool on) override;
   long TextWidth(const Font& font, const std::string& text) const override;
   std::string ClipboardText() const override { return clipboard_; }
   void SetClipboardText(const std::string& text) override { clipboard_ = text; }

@@ -9,6 +9,7 @@
 #include "desk/firebird/LiftedSql.h"
 #include "desk/firebird/QueryText.h"
 #include "desk/firebird/SortedJoin.h"
+#include "host/forms/Runtime.h"
 #include "host/values/Errors.h"
 
 namespace quillon {
@@ -18,10 +19,30 @@ namespace {
 constexpr std::size_t kPreparedKept = 32;
 constexpr std::chrono::seconds kTriedAgainFor(2);
 constexpr std::chrono::milliseconds kPause(50);
+constexpr std::chrono::milliseconds kUnseen(500);  // so long nobody minds
 
 constexpr const char* kKeyQuery =
     "select trim(s.rdb$field_name) from rdb$relation_constraints c join rdb$index_segments s on "
     "s.rdb$index_name=c.rdb$index_name where c.rdb$constraint_type='PRIMARY KEY' and c.rdb$relation_name='";
+
+/// Shows that a statement waits, from the first time that it says so to its end.
+class WaitingSign {
+ public:
+  explicit WaitingSign(bool& isPatient) : isPatient_(isPatient) {}
+  WaitingSign(const WaitingSign&) = delete;
+  WaitingSign& operator=(const WaitingSign&) = delete;
+  ~WaitingSign() {
+    if (isPatient_ && gRuntime != nullptr) gRuntime->ShowWaiting(false);
+    isPatient_ = false;
+  }
+  void Show() {
+    if (!isPatient_ && gRuntime != nullptr) gRuntime->ShowWaiting(true);
+    isPatient_ = true;
+  }
+
+ private:
+  bool& isPatient_;
+};
 
 /// What tells a file from another one of its name; nothing for one on a server.
 std::optional<FilePlace> PlaceOf(const FirebirdAddress& address) {
@@ -74,6 +95,7 @@ void FirebirdLink::Drop() {
   prepared_.clear();
   read_.reset();
   auto_.reset();
+  patient_.reset();
   work_.reset();
   attachment_.reset();
   sortsWholeRows_.reset();
@@ -91,6 +113,7 @@ void FirebirdLink::NoteFailure(const std::string& sql, const DbError& error) {
 template <class Action>
 void FirebirdLink::Repeat(Action action) {
   const auto first = std::chrono::steady_clock::now();
+  WaitingSign sign(isPatient_);
   for (;;) {
     try {
       action();
@@ -98,6 +121,8 @@ void FirebirdLink::Repeat(Action action) {
     } catch (const DbError& error) {
       if (!MayTryAgain(error, first)) throw;
     }
+    // From now on the engine waits, which also notices a program that died over the record.
+    if (std::chrono::steady_clock::now() - first > kUnseen) sign.Show();
   }
 }
 
@@ -132,9 +157,11 @@ const std::shared_ptr<FirebirdTransaction>& FirebirdLink::Reading() {
 
 FirebirdTransaction& FirebirdLink::Writing() {
   if (work_) return *work_;
-  if (!auto_)
-    auto_ = std::make_shared<FirebirdTransaction>(attachment_, FirebirdTransaction::Kind::kAutoCommit);
-  return *auto_;
+  using Kind = FirebirdTransaction::Kind;
+  std::shared_ptr<FirebirdTransaction>& own = isPatient_ ? patient_ : auto_;
+  const Kind kind = isPatient_ ? Kind::kPatient : Kind::kAutoCommit;
+  if (!own) own = std::make_shared<FirebirdTransaction>(attachment_, kind);
+  return *own;
 }
 
 FirebirdStatement& FirebirdLink::Prepared(const std::string& statement) {

@@ -31,7 +31,8 @@ struct FilePlace {
 /// sees what is committed, so that open sets stay readable while statements commit. When the connection is
 /// lost the statement at hand fails and the next one attaches again; inside BeginTrans all statements fail
 /// until RollbackTrans. A single statement that commits by itself is tried again for two seconds when it
-/// meets a conflict. Where the file was replaced or deleted since it was opened every statement fails.
+/// meets a conflict; after half a second the runtime shows that it waits. Where the file was replaced or
+/// deleted since it was opened every statement fails.
 class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<FirebirdLink> {
  public:
   /// `label` is what the observer is told: "common" or a year. Throws DbError.
@@ -105,8 +106,10 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   std::optional<FilePlace> place_;
   std::shared_ptr<FirebirdTransaction> read_;
   std::shared_ptr<FirebirdTransaction> auto_;
+  std::shared_ptr<FirebirdTransaction> patient_;
   std::shared_ptr<FirebirdTransaction> work_;
   bool inTransaction_ = false;
+  bool isPatient_ = false;
   std::unordered_map<std::string, std::unique_ptr<FirebirdStatement>> prepared_;
   std::map<std::string, std::vector<std::string>> keys_;
   std::optional<bool> sortsWholeRows_;

@@ -32,7 +32,7 @@ struct Meaning {
 };
 
 constexpr const char* kTaken = "Another user is changing the same record just now.";
-constexpr const char* kLost = "The database cannot be reached.";
+constexpr const char* kLost = "The database cannot be reached. Try again in a while.";
 constexpr const char* kTwice = "There is a record with this key already.";
 constexpr const char* kDamaged = "The database is damaged.";
 constexpr const char* kUnreadable = "The file of the database cannot be read or written.";

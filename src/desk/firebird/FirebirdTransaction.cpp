@@ -16,8 +16,13 @@ std::vector<unsigned char> Parameters(FirebirdTransaction::Kind kind) {
     tpb.insert(tpb.end(), {isc_tpb_read, isc_tpb_nowait});
     return tpb;
   }
-  tpb.insert(tpb.end(), {isc_tpb_write, isc_tpb_wait, isc_tpb_lock_timeout, 4, kLockSeconds, 0, 0, 0});
-  if (kind == FirebirdTransaction::Kind::kAutoCommit) tpb.push_back(isc_tpb_autocommit);
+  tpb.push_back(isc_tpb_write);
+  if (kind == FirebirdTransaction::Kind::kAutoCommit) {
+    tpb.push_back(isc_tpb_nowait);
+  } else {
+    tpb.insert(tpb.end(), {isc_tpb_wait, isc_tpb_lock_timeout, 4, kLockSeconds, 0, 0, 0});
+  }
+  if (kind != FirebirdTransaction::Kind::kWork) tpb.push_back(isc_tpb_autocommit);
   return tpb;
 }
 

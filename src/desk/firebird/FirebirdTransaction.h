@@ -10,14 +10,15 @@ class ITransaction;
 
 namespace quillon {
 
-/// A transaction; what is not committed when it ends is rolled back. It sees what others have committed and
-/// waits two seconds for a record that another one is changing.
+/// A transaction; what is not committed when it ends is rolled back. It sees what others have committed.
 class FirebirdTransaction {
  public:
   enum class Kind {
     kRead,        ///< Reads only; costs nothing while it stays open.
-    kAutoCommit,  ///< The engine commits each statement.
-    kWork,        ///< Holds until Commit.
+    kAutoCommit,  ///< The engine commits each statement; a record that another one is changing fails it at
+                  ///< once.
+    kPatient,     ///< The same, but it waits two seconds for the record.
+    kWork,        ///< Holds until Commit, and waits like that.
   };
 
   /// Throws DbError.

@@ -185,6 +185,10 @@ class Runtime {
   virtual void ShowProgress(const std::string& /*text*/, std::int64_t /*done*/, std::int64_t /*whole*/) {}
   virtual void HideProgress() {}
 
+  /// A statement waits for what another program is changing, or no longer. It may be called on another thread
+  /// than the forms'.
+  virtual void ShowWaiting(bool /*on*/) {}
+
   /// The width of a text in twips; both runtimes and the printer measure alike.
   virtual long TextWidth(const Font& font, const std::string& text) const = 0;
   virtual std::string ClipboardText() const = 0;

@@ -59,6 +59,7 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   runtime_.SetArea(area_);
   runtime_.OnBusy = [this](bool on, const std::string& text) { ShowBusy(on, text); };
   runtime_.OnProgress = [this](const std::string& text) { busy_->setText(QString::fromStdString(text)); };
+  runtime_.OnWaiting = [this](bool on) { ShowWaiting(on); };
   start_->OnOpen = [this] { AskFirm(); };
   start_->OnSample = [this] { OpenSample(); };
   start_->OnStatement = [this] { OpenStatement(); };
@@ -81,6 +82,7 @@ DeskWindow::~DeskWindow() {
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   runtime_.OnBusy = {};
   runtime_.OnProgress = {};
+  runtime_.OnWaiting = {};
   runtime_.OnTopChanged = {};
   runtime_.SetArea(nullptr);
 }
@@ -260,6 +262,11 @@ void DeskWindow::ShowBusy(bool on, const std::string& text) {
   busy_->setText(!on            ? QString()
                  : text.empty() ? QStringLiteral("Working …")
                                 : QString::fromStdString(text) + QStringLiteral(" …"));
+}
+
+void DeskWindow::ShowWaiting(bool on) {
+  if (on) beforeWaiting_ = busy_->text();
+  busy_->setText(on ? QStringLiteral("Waiting for another program …") : beforeWaiting_);
 }
 
 void DeskWindow::ShowState() {

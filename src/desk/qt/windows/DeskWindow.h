@@ -74,6 +74,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   void ShowKeys();
   void ShowAbout();
   void ShowBusy(bool on, const std::string& text);
+  void ShowWaiting(bool on);
   void ShowState();
   void ShowPage();
   void TakeArea();
@@ -86,6 +87,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   StartPage* start_;
   QLabel* firm_;
   QLabel* busy_;
+  QString beforeWaiting_;  // what busy_ told
   QString folder_;
   QList<QAction*> firmActs_;
   QList<QAction*> lineActs_;

@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QLocale>
 #include <QScreen>
+#include <QThread>
 #include <cmath>
 
 #include "desk/firebird/EngineThread.h"
@@ -86,6 +87,21 @@ void QtRuntime::ShowProgress(const std::string& text, std::int64_t done, std::in
 
 void QtRuntime::HideProgress() {
   if (OnProgress) OnProgress("");
+}
+
+void QtRuntime::ShowWaiting(bool on) {
+  if (QThread::currentThread() != qApp->thread()) {
+    QMetaObject::invokeMethod(
+        qApp, [on] { gRuntime->ShowWaiting(on); }, Qt::QueuedConnection);
+    return;
+  }
+  if (on) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+  if (OnWaiting) OnWaiting(on);
+  Acts::LetPaint();
 }
 
 long QtRuntime::TextWidth(const Font& font, const std::string& text) const {

@@ -32,6 +32,9 @@ class QtRuntime : public Runtime, private PrintObserver {
   std::function<void(bool on, const std::string& text)> OnBusy;
   std::function<void()> OnTopChanged;
 
+  /// Called when a statement begins or ends to wait for another program.
+  std::function<void(bool on)> OnWaiting;
+
   /// Called with the words for how far a job has come, and with none at its end.
   std::function<void(const std::string& text)> OnProgress;
 
@@ -54,6 +57,7 @@ class QtRuntime : public Runtime, private PrintObserver {
   void ShowBusy(bool on, const std::string& text) override;
   void ShowProgress(const std::string& text, std::int64_t done, std::int64_t whole) override;
   void HideProgress() override;
+  void ShowWaiting(bool on) override;
   long TextWidth(const Font& font, const std::string& text) const override;
   std::string ClipboardText() const override;
   void SetClipboardText(const std::string& text) override;
