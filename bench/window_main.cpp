@@ -20,8 +20,8 @@ using namespace quillon::bench;
 
 constexpr const char* kUsage =
     "quillon_window_bench [OPTIONS]     the windows' benchmarks; options of Google Benchmark\n"
-    "quillon_window_bench --loop FIRM ACCOUNT   how long the event loop stands still in each act on the "
-    "account\n"
+    "quillon_window_bench --loop FIRM ACCOUNT   how long the event loop stands still "
+    "in each act on the account\n"
     "quillon_window_bench --make FOLDER ENTRIES   makes a firm whose bank has these entries\n";
 
 /// A person's way from the bank's statement to the saved pages. FILE is where they go.

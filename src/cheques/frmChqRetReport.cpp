@@ -46,17 +46,16 @@ constexpr int kCount = 12;
 /// The lines that the account's vouchers with a returned cheque have on every other account.
 std::string LinesQuery(const std::string& account, const std::string& period) {
   const std::string vouchers =
-      "SELECT DISTINCT A.VOUCHERID FROM FADATA A INNER JOIN FADOCS D ON A.VOUCHERID=D.VOUCHERID WHERE "
-      "A.DCD=" +
+      "SELECT DISTINCT A.VOUCHERID FROM FADATA A "
+      "INNER JOIN FADOCS D ON A.VOUCHERID=D.VOUCHERID WHERE A.DCD=" +
       account + " AND D.CHQRETURN='Y'";
-  return "SELECT A.VOUCHERID,A.DCD,A.DVCHDATE,M.MHD,M.MST,N.NARRATION,A.DAMT,AG.MHD AS AGENTNAME FROM "
-         "((((FADATA A "
-         "INNER JOIN FAMASTER M ON A.DCD=M.MCD) INNER JOIN FANAR N ON A.NARRATIONID=N.NARRATIONID) INNER "
-         "JOIN FADOCS D "
-         "ON A.VOUCHERID=D.VOUCHERID) INNER JOIN (" +
+  return "SELECT A.VOUCHERID,A.DCD,A.DVCHDATE,M.MHD,M.MST,N.NARRATION,A.DAMT,AG.MHD AS AGENTNAME "
+         "FROM ((((FADATA A INNER JOIN FAMASTER M ON A.DCD=M.MCD) "
+         "INNER JOIN FANAR N ON A.NARRATIONID=N.NARRATIONID) "
+         "INNER JOIN FADOCS D ON A.VOUCHERID=D.VOUCHERID) INNER JOIN (" +
          vouchers +
-         ") Q1 ON A.VOUCHERID=Q1.VOUCHERID) LEFT JOIN FAMASTER AG ON M.MAGENTCODE=AG.MCD WHERE A.DBOOK NOT "
-         "IN (" +
+         ") Q1 ON A.VOUCHERID=Q1.VOUCHERID) LEFT JOIN FAMASTER AG ON M.MAGENTCODE=AG.MCD "
+         "WHERE A.DBOOK NOT IN (" +
          books::SqlString(books::kOpeningBook) + "," + books::SqlString(books::kMemorandumBook) +
          ") AND D.CHQRETURN='Y' AND A.DCD<>" + account + " AND A.DVCHDATE BETWEEN " + period +
          " ORDER BY A.DVCHDATE,A.DSRNO,A.DVCHSUBNO";

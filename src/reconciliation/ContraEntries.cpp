@@ -29,8 +29,8 @@ void ContraEntries::Close() {
 bool ContraEntries::Check() {
   CDataSet entries;
   entries.Open(
-      "Select a.dVchDate,a.dBook,n.Narration,a.dAmt,a.VoucherID from FAData a Left Join FANar n on "
-      "a.NarrationID=n.NarrationID where a.dcd=" +
+      "Select a.dVchDate,a.dBook,n.Narration,a.dAmt,a.VoucherID from FAData a "
+      "Left Join FANar n on a.NarrationID=n.NarrationID where a.dcd=" +
           books::SqlNumber(account_.Code()) + " and a.dVchDate between " +
           gStd->SqlDate(account_.First(), account_.Last()) + " and a.dTrnNature in (" +
           books::SqlNumbers(books::kContraNatures) + ") order by dVchDate",

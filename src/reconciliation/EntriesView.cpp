@@ -59,7 +59,6 @@ void EntriesView::LetGo() {
 }
 
 // --- The rows
-// -----------------------------------------------------------------------------------------------------
 
 void EntriesView::Update() {
   try {
@@ -155,7 +154,6 @@ std::string EntriesView::ReturnedAt(int source) const {
 }
 
 // --- The totals
-// ---------------------------------------------------------------------------------------------------
 
 void EntriesView::ShowTotals() {
   const CGridPlus* const statement = account_.Statement();
@@ -183,7 +181,6 @@ void EntriesView::ShowMarkedTotals() {
 }
 
 // --- On the screen
-// ------------------------------------------------------------------------------------------------
 
 void EntriesView::Show() {
   grid_.Visible = true;

@@ -16,16 +16,15 @@ using namespace account_col;
 namespace {
 
 constexpr const char* kAskMark =
-    "All entries where Cleared on date is not entered shall be filled with the date of transaction for the "
-    "given period.\nAre you sure to Mark / Fill cleared on date? ";
+    "All entries where Cleared on date is not entered shall be filled with the date of transaction "
+    "for the given period.\nAre you sure to Mark / Fill cleared on date? ";
 constexpr const char* kAskUnmark =
-    "Be careful! This will remove cleared on date as entered by you for the given period.\nAre you sure to "
-    "Un-Mark / Remove cleared on date? ";
+    "Be careful! This will remove cleared on date as entered by you for the given period.\n"
+    "Are you sure to Un-Mark / Remove cleared on date? ";
 
 }  // namespace
 
 // --- One date
-// -----------------------------------------------------------------------------------------------------
 
 void EntriesView::BeforeEdit(int row, int col, bool& cancel, std::string& action) const {
   cancel = true;
@@ -71,7 +70,6 @@ void EntriesView::AfterEdit(int row) {
 }
 
 // --- Many dates
-// ---------------------------------------------------------------------------------------------------
 
 void EntriesView::MassMark(bool unmark) {
   try {
@@ -106,7 +104,6 @@ void EntriesView::MassMarkRow(int row, Date date) {
 }
 
 // --- The returned cheque
-// ------------------------------------------------------------------------------------------
 
 void EntriesView::StoreReturned() {
   const std::int64_t voucher = ValInteger(grid_.Cell(grid_.Row, kVoucherId));

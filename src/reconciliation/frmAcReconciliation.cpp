@@ -119,7 +119,6 @@ void frmAcReconciliation::UnloadScreen() {
 }
 
 // --- The views
-// ----------------------------------------------------------------------------------------------------
 
 void frmAcReconciliation::UpdateGrid() {
   entries_.Update();
@@ -204,7 +203,6 @@ void frmAcReconciliation::ShowEntries() {
 }
 
 // --- The buttons
-// --------------------------------------------------------------------------------------------------
 
 void frmAcReconciliation::Pressed(const std::string& key) {
   if (key == "MassMarking") {

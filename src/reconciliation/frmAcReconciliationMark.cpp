@@ -136,7 +136,6 @@ bool frmAcReconciliationMark::IsMatched(int row) const {
 }
 
 // --- The cells
-// ----------------------------------------------------------------------------------------------------
 
 void frmAcReconciliationMark::Grid_BeforeEdit(int row, int column, bool& cancel, std::string& action) {
   cancel = true;
@@ -195,7 +194,6 @@ void frmAcReconciliationMark::txpDays_KeyDown(KeyEvent& key) {
 }
 
 // --- The search
-// ---------------------------------------------------------------------------------------------------
 
 void frmAcReconciliationMark::FindChequeNo(const std::string& chequeNo, int row, bool& ok) {
   ok = false;
@@ -277,8 +275,7 @@ void frmAcReconciliationMark::FindParty(int row) {
   const std::string account = books::SqlNumber(AccountCode);
   CDataSet party;
   party.Open(
-      "SELECT FIRST 1 A.DCD,B.MHD FROM FADATA A INNER JOIN FAMASTER B ON A.DCD=B.MCD WHERE "
-      "A.VOUCHERID=" +
+      "SELECT FIRST 1 A.DCD,B.MHD FROM FADATA A INNER JOIN FAMASTER B ON A.DCD=B.MCD WHERE A.VOUCHERID=" +
           books::SqlNumber(Grid.Cell(row, col::kVoucherId)) + " AND A.DCD<>" + account +
           " ORDER BY ABS(DAMT) DESC",
       FYear->Db());
@@ -288,7 +285,6 @@ void frmAcReconciliationMark::FindParty(int row) {
 }
 
 // --- The buttons
-// --------------------------------------------------------------------------------------------------
 
 void frmAcReconciliationMark::Pressed(const std::string& key) {
   if (key == "RemoveMark") RemoveMark();

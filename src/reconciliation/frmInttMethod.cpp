@@ -51,8 +51,7 @@ void frmInttMethod::cmbInttMethod_Click() {
     return;
   gStd->MsgBox(
       "Savings Bank method is available only for backward compatibility. Product method may be used for "
-      "calculating "
-      "interest on Savings A/c from F.Y. 2011-12 onwards.");
+      "calculating interest on Savings A/c from F.Y. 2011-12 onwards.");
 }
 
 bool frmInttMethod::Confirm() {

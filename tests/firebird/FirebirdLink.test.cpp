@@ -123,9 +123,8 @@ TEST_F(LinkTest, LeavesOtherQueriesAsTheyStand) {
 TEST_F(LinkTest, ValuesOfAllTypesComeBackAsTheyWereStored) {
   link_->Execute(
       "create table kinds (id int not null primary key, small smallint, big bigint, money numeric(18,4), "
-      "rate "
-      "numeric(9,6), ratio double precision, flag boolean, vdate date, stamp timestamp, fixed char(8), name "
-      "varchar(40), letter blob sub_type text)");
+      "rate numeric(9,6), ratio double precision, flag boolean, vdate date, stamp timestamp, fixed char(8), "
+      "name varchar(40), letter blob sub_type text)");
   const std::string longText(100000, 'x');
   {
     CDataSet set;

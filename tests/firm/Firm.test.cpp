@@ -70,22 +70,19 @@ TEST_F(FirmTest, RowsThatNameTheKnownColumnsGoIntoEveryTable) {
   const auto firm = Firm::Open(Folder());
   FirebirdLink& db = *firm->OpenYear(2024).Db;
   for (const char* sql :
-       {"insert into FAData "
-        "(VoucherID,dVchSubNo,dSrNo,dVchNo,dVchDate,dcd,dcd2,dAmt,dBook,dTrnType,dTrnNature,"
-        "dBankDate,dLocked,NarrationID) values "
-        "(1,1,1,'BR-1','2024-04-05',101,201,-1500.25,'BR1','BR1',5002,null,0,1)",
+       {"insert into FAData (VoucherID,dVchSubNo,dSrNo,dVchNo,dVchDate,dcd,dcd2,dAmt,dBook,dTrnType,"
+        "dTrnNature,dBankDate,dLocked,NarrationID) "
+        "values (1,1,1,'BR-1','2024-04-05',101,201,-1500.25,'BR1','BR1',5002,null,0,1)",
         "insert into FANar (NarrationID,Narration) values (1,'By cash')",
-        "insert into FAMaster "
-        "(mcd,mhd,mst,mhda1,malias1,mName,mbshno,mgrpno,mPhoneOff,mCellNo,mAadharNo,mBankName,"
-        "mBankBranch,mBankStn,mIFSCCode,mBankAcNo,mDeactiveDate,mTransportCode,mAgentCode) values (201,'श्री "
-        "ट्रेडर्स',"
-        "'Pune','1 "
-        "Road','SHRI','Ganesh',130,1,'1','2','3','SBI','Camp','Pune','SBIN0001','123',null,301,401)",
+        "insert into FAMaster (mcd,mhd,mst,mhda1,malias1,mName,mbshno,mgrpno,mPhoneOff,mCellNo,mAadharNo,"
+        "mBankName,mBankBranch,mBankStn,mIFSCCode,mBankAcNo,mDeactiveDate,mTransportCode,mAgentCode) "
+        "values (201,'श्री ट्रेडर्स','Pune','1 Road','SHRI','Ganesh',130,1,'1','2','3','SBI','Camp','Pune',"
+        "'SBIN0001','123',null,301,401)",
         "insert into FAMaster (mcd,mhd) values (202,'Second')",
         "insert into FAHeads (Code,SubCode,Head,PressHead) values (201,0,'Shri','SHRI')",
         "insert into CtgMaster (CtgNo,CtgName,CtgType) values (47,'Bank Accounts','A')",
-        "insert into FADocs (VoucherID,ChqReturn,PartyCode,TransportCode,AgentCode) values "
-        "(1,'Y',201,301,401)",
+        "insert into FADocs (VoucherID,ChqReturn,PartyCode,TransportCode,AgentCode) "
+        "values (1,'Y',201,301,401)",
         "insert into FADocs (VoucherID,ChqReturn) values (1,'N')",
         "insert into DocMain "
         "(DocumentID,DocVoucherID,DocSeries,dLocked,PartyCode,DebitCode,TransportCode,AgentCode,"
@@ -99,9 +96,8 @@ TEST_F(FirmTest, RowsThatNameTheKnownColumnsGoIntoEveryTable) {
         "insert into ChqLeaves (ID,BankCode,ChqNo,RctDate) values (1,101,470001,'2024-04-01')",
         "insert into EntryForms (FormName,FormTitle,BookCode) values ('BR1','Receipts','BR1')",
         "insert into EntryFormDetails (FormName,ColName,ColTitle,ColNumeric,ColDrCr,ColPosition,ColWidthChar,"
-        "ColDecimals,ColTotalRqr,ColPostingCode,ColAutoIncrement) values "
-        "('BR1','AMOUNT','Amount',-1,'D',1,12,2,-1,"
-        "0,0)"}) {
+        "ColDecimals,ColTotalRqr,ColPostingCode,ColAutoIncrement) "
+        "values ('BR1','AMOUNT','Amount',-1,'D',1,12,2,-1,0,0)"}) {
     EXPECT_NO_THROW(db.Execute(sql)) << sql;
   }
   for (const char* table :
@@ -339,10 +335,9 @@ TEST_F(FirmTest, TheEngineFindsALineOfAVoucherByItsVoucher) {
   {
     const auto db = Firm::Open(Folder())->OpenYear(2024).Db;
     db->Execute(
-        "execute block as declare i int = 0; begin while (i < 3000) do begin insert into FAData "
-        "(VoucherID,dVchSubNo,dcd,dcd2,dVchDate,dBook) values (:i,1,101,mod(:i,40),'2024-04-01','J'); i = i "
-        "+ 1; "
-        "end end");
+        "execute block as declare i int = 0; begin while (i < 3000) do "
+        "begin insert into FAData (VoucherID,dVchSubNo,dcd,dcd2,dVchDate,dBook) "
+        "values (:i,1,101,mod(:i,40),'2024-04-01','J'); i = i + 1; end end");
   }
   const auto firm = Firm::Open(Folder());
   FirebirdLink& db = *firm->OpenYear(2024).Db;

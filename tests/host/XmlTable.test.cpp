@@ -27,9 +27,8 @@ class XmlTable : public testing::Test {
 constexpr const char* kLayout =
     "<?xml version=\"1.0\" ?>\n<DataRoot>\n<ChqSettings>\n<Data>\n<FontName>Arial</FontName>\n"
     "<Remarks>A &amp; B <![CDATA[<Sons>]]></Remarks>\n<Blank> </Blank>\n<None/>\n</Data>\n</ChqSettings>\n"
-    "<ChqObjects>\n<Data>\n<ObjID>राम</ObjID>\n<PosX>120</PosX>\n</Data>\n<Other/>\n<Data>\n<ObjID>Date</"
-    "ObjID>\n"
-    "</Data>\n</ChqObjects>\n</DataRoot>\n";
+    "<ChqObjects>\n<Data>\n<ObjID>राम</ObjID>\n<PosX>120</PosX>\n</Data>\n<Other/>\n<Data>\n"
+    "<ObjID>Date</ObjID>\n</Data>\n</ChqObjects>\n</DataRoot>\n";
 
 TEST_F(XmlTable, ReadsTheRowsOfTheSelectedElement) {
   CXmlTable table;

@@ -301,9 +301,10 @@ class LetterTest : public ReportTest {
   }
 
   static constexpr const char* kParagraph =
-      "   We request you to confirm the balance of your account in our books as on 31st March, which stands "
-      "at Rs. 12,34,567.00 to our debit. Kindly return the enclosed copy of this letter duly signed within "
-      "fifteen days of receiving it; failing this we shall take the balance as confirmed by you.";
+      "   We request you to confirm the balance of your account in our books as on 31st March, "
+      "which stands at Rs. 12,34,567.00 to our debit. "
+      "Kindly return the enclosed copy of this letter duly signed within fifteen days of receiving it; "
+      "failing this we shall take the balance as confirmed by you.";
 };
 
 TEST_F(LetterTest, EachPartyGetsAPageWithJustifiedLinesUnderTheLetterHead) {

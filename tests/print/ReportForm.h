@@ -59,8 +59,8 @@ class ReportForm : public Form {
     std::string narration = "By cheque " + std::to_string(400000 + number) + " Harbour Mills Limited";
     if (number % 5 == 0)
       narration +=
-          ", being payment against their bills 1123/24 to 1187/24 of the month for yarn and packing "
-          "material received at the Kandla godown";
+          ", being payment against their bills 1123/24 to 1187/24 of the month for yarn "
+          "and packing material received at the Kandla godown";
     const bool debit = number % 3 != 0;
     return {(number % 28 < 9 ? "0" : "") + std::to_string(number % 28 + 1) + "-Apr-2024",
             "B1",

@@ -334,9 +334,10 @@ TEST_F(Interest, ImproperContraEntriesStopIt) {
   EXPECT_EQ(messages[0]["icon"], "E");
   const std::string sent = Statements().at(0);
   EXPECT_EQ(sent,
-            "Select a.dVchDate,a.dBook,n.Narration,a.dAmt,a.VoucherID from FAData a Left Join FANar n on "
-            "a.NarrationID=n.NarrationID where a.dcd=101 and a.dVchDate between '2024-04-01' and "
-            "'2025-03-31' and a.dTrnNature in (5002,5012,5024,5031,5041,5051) order by dVchDate");
+            "Select a.dVchDate,a.dBook,n.Narration,a.dAmt,a.VoucherID from FAData a "
+            "Left Join FANar n on a.NarrationID=n.NarrationID "
+            "where a.dcd=101 and a.dVchDate between '2024-04-01' and '2025-03-31' "
+            "and a.dTrnNature in (5002,5012,5024,5031,5041,5051) order by dVchDate");
   EXPECT_TRUE(PassBook().Visible) << "no dialog, no table";
   EXPECT_FALSE(View().Visible);
   AnswerMessage();

@@ -126,14 +126,15 @@ TEST_F(Marking, ARunOfChequesOfOneDateIsTypedByNumbersAlone) {
   const Texts sent = Statements();
   ASSERT_GE(sent.size(), 3U);
   EXPECT_EQ(sent[0],
-            "SELECT A.VOUCHERID,A.DVCHSUBNO,A.DVCHDATE,N.NARRATION,A.DAMT,A.DBANKDATE FROM FADATA A INNER "
-            "JOIN FANAR N ON A.NARRATIONID=N.NARRATIONID WHERE A.DCD=101 AND N.NARRATION LIKE '%470251%' AND "
-            "A.DVCHDATE BETWEEN '2024-04-05' and '2024-04-08' ORDER BY A.DBANKDATE");
+            "SELECT A.VOUCHERID,A.DVCHSUBNO,A.DVCHDATE,N.NARRATION,A.DAMT,A.DBANKDATE FROM FADATA A "
+            "INNER JOIN FANAR N ON A.NARRATIONID=N.NARRATIONID "
+            "WHERE A.DCD=101 AND N.NARRATION LIKE '%470251%' "
+            "AND A.DVCHDATE BETWEEN '2024-04-05' and '2024-04-08' ORDER BY A.DBANKDATE");
   EXPECT_EQ(sent[1],
             "UPDATE FADATA SET DBANKDATE='2024-04-08' WHERE DCD=101 AND VOUCHERID=2 AND DVCHSUBNO=1");
   EXPECT_EQ(sent[2],
-            "SELECT FIRST 1 A.DCD,B.MHD FROM FADATA A INNER JOIN FAMASTER B ON A.DCD=B.MCD WHERE "
-            "A.VOUCHERID=2 AND A.DCD<>101 ORDER BY ABS(DAMT) DESC");
+            "SELECT FIRST 1 A.DCD,B.MHD FROM FADATA A INNER JOIN FAMASTER B ON A.DCD=B.MCD "
+            "WHERE A.VOUCHERID=2 AND A.DCD<>101 ORDER BY ABS(DAMT) DESC");
   EXPECT_EQ(Row(1), "2|201|08-Apr-2024|470251|05-Apr-2024|Chq.No. 470251 received|1500.50|||Asha Traders");
   EXPECT_EQ(Stored(2), "08-Apr-2024");
   EXPECT_EQ(Stored(2, 2), "");
@@ -331,8 +332,8 @@ TEST_F(Marking, ElevenMatchesAreTooMany) {
 
 TEST_F(Marking, OfTwoLinesOfOneVoucherTheFirstIsTaken) {
   Db().Execute(
-      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook,NarrationID) values "
-      "(2,7,'2024-04-05',101,9,'BNK',2)");
+      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook,NarrationID) "
+      "values (2,7,'2024-04-05',101,9,'BNK',2)");
   Db().Execute("update FAData set dBankDate='2024-04-01' where VoucherID=2 and dVchSubNo=7");
   Open();
   EXPECT_TRUE(Date(1, "8/4/2024"));
@@ -348,11 +349,11 @@ TEST_F(Marking, OfTwoLinesOfOneVoucherTheFirstIsTaken) {
 TEST_F(Marking, TheLargestOtherLineNamesTheParty) {
   Db().Execute("update FAData set dAmt=-500 where VoucherID=2 and dcd=201");
   Db().Execute(
-      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook,NarrationID) values "
-      "(2,3,'2024-04-05',202,-1000.5,'BNK',2)");
+      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook,NarrationID) "
+      "values (2,3,'2024-04-05',202,-1000.5,'BNK',2)");
   Db().Execute(
-      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook,NarrationID) values "
-      "(6,1,'2024-04-05',101,30,'BNK',6)");
+      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook,NarrationID) "
+      "values (6,1,'2024-04-05',101,30,'BNK',6)");
   Db().Execute("insert into FANar values (6,'Alone 470666')");
   Open();
   EXPECT_TRUE(Date(1, "8/4/2024"));
@@ -458,8 +459,8 @@ TEST_F(Marking, ANumberThatBreaksTheQueryIsReported) {
 
 TEST_F(Marking, AFailedStoreLeavesTheRowUnmatched) {
   Db().Execute(
-      "create trigger Keeps for FAData before update as declare x integer; begin if (old.VoucherID=2) then "
-      "x=1/0; end");
+      "create trigger Keeps for FAData before update as declare x integer; "
+      "begin if (old.VoucherID=2) then x=1/0; end");
   Open();
   EXPECT_TRUE(Date(1, "8/4/2024"));
   EXPECT_FALSE(Number(1, "470251"));
@@ -475,8 +476,8 @@ TEST_F(Marking, OtherYearsAreMarkedInTheirOwnBooks) {
   ASSERT_TRUE(ok);
   last->Db().Execute("insert into FANar values (2,'Chq.No. 470251')");
   last->Db().Execute(
-      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook,NarrationID) values "
-      "(2,1,'2024-03-30',101,9,'BNK',2)");
+      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook,NarrationID) "
+      "values (2,1,'2024-03-30',101,9,'BNK',2)");
   form_ = desk_.Module().GetForm("acreconciliationmark");
   form_->Set("FYear", std::static_pointer_cast<Object>(last));
   form_->Set("AccountCode", 101);

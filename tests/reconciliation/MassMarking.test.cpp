@@ -217,8 +217,8 @@ TEST_F(MassMarking, ADateThatIsBeingTypedIsStoredFirst) {
 
 TEST_F(MassMarking, AFailureIsReportedAndWhatWasStoredStays) {
   Db().Execute(
-      "create trigger Keeps for FAData before update as declare x integer; begin if (old.VoucherID=4) then "
-      "x=1/0; end");
+      "create trigger Keeps for FAData before update as declare x integer; "
+      "begin if (old.VoucherID=4) then x=1/0; end");
   Run(kMark, "01-Apr-2024", "31-May-2024");
   const std::vector<Json> errors = Events("error");
   ASSERT_EQ(errors.size(), 1U);

@@ -106,9 +106,9 @@ TEST_F(PassBook, ItsStatementsAreTheseTexts) {
       sent[0].ends_with("FADATA where dcd=101 and (dBankDate<'2024-04-01' or dBook='0B') and dBook<>'MEM'"))
       << sent[0];
   EXPECT_EQ(sent[1],
-            "Select a.*,n.Narration from FAData a Left Join FANar n on a.NarrationID=n.NarrationID where "
-            "a.dcd=101 and a.dBankDate between '2024-04-01' and '2024-06-30' and a.dBook<>'MEM' and "
-            "a.dBook<>'0B' order by a.dBankDate,a.dVchNo,a.dSrNo");
+            "Select a.*,n.Narration from FAData a Left Join FANar n on a.NarrationID=n.NarrationID "
+            "where a.dcd=101 and a.dBankDate between '2024-04-01' and '2024-06-30' and a.dBook<>'MEM' "
+            "and a.dBook<>'0B' order by a.dBankDate,a.dVchNo,a.dSrNo");
 }
 
 TEST_F(PassBook, NothingClearedAndNothingOpen) {
@@ -162,8 +162,8 @@ TEST_F(PassBook, ARowLeadsToItsOtherSideAndItsVoucher) {
   AddVoucher({.id = 3, .date = "2024-04-11", .amount = "0.25", .cleared = "2024-04-13", .other = 202});
   // A second credit, larger than the other side: the sign of the row decides which side is looked for.
   Db().Execute(
-      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook) values "
-      "(2,3,'2024-04-10',202,-9999,'BNK')");
+      "insert into FAData (VoucherID,dVchSubNo,dVchDate,dcd,dAmt,dBook) "
+      "values (2,3,'2024-04-10',202,-9999,'BNK')");
   Open();
   CMStrip& strip = At<CMStrip>(bench_, "MStrip2");
   EXPECT_EQ(strip.Code(), 0) << "the opening balance has no voucher";

@@ -94,8 +94,8 @@ TEST_F(Statement, ItsStatementsAreTheseTexts) {
   AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5"});
   Open("30-Apr-2024");
   const std::string lines =
-      "Select a.*,n.Narration from FAData a,FANar n where a.NarrationID=n.NarrationID and a.dcd=101 and "
-      "a.dBook<>'MEM' and a.dBook<>'0B' and ";
+      "Select a.*,n.Narration from FAData a,FANar n "
+      "where a.NarrationID=n.NarrationID and a.dcd=101 and a.dBook<>'MEM' and a.dBook<>'0B' and ";
   Texts sent;
   for (const std::string& sql : Statements()) {
     if (sql.find("FADATA") != std::string::npos || sql.starts_with("Select a.*")) sent.push_back(sql);
@@ -105,8 +105,8 @@ TEST_F(Statement, ItsStatementsAreTheseTexts) {
   EXPECT_TRUE(sent[0].ends_with("FADATA where dcd=101 and dvchdate<='2024-04-30' and dBook<>'MEM'"))
       << sent[0];
   EXPECT_EQ(sent[1], lines +
-                         "a.dvchdate<='2024-04-30' and (a.dBankDate is null OR a.dBankDate>'2024-04-30') "
-                         "order by a.dvchdate,a.dbook");
+                         "a.dvchdate<='2024-04-30' "
+                         "and (a.dBankDate is null OR a.dBankDate>'2024-04-30') order by a.dvchdate,a.dbook");
   EXPECT_EQ(sent[2],
             lines + "a.dvchdate>'2024-04-30' and a.dBankDate<='2024-04-30' order by a.dvchdate,a.dbook");
 }
@@ -179,8 +179,7 @@ TEST_F(Statement, AgreesWithTheBooksHoweverTheyAre) {
   }
   // The other way round: what the bank has seen by the day is its balance.
   const Amount atBank =
-      sum(" and ((dBook='0B' and dVchDate<='2024-04-30') or (dBook<>'0B' and "
-          "dBankDate<='2024-04-30'))");
+      sum(" and ((dBook='0B' and dVchDate<='2024-04-30') or (dBook<>'0B' and dBankDate<='2024-04-30'))");
   EXPECT_EQ(View().TextMatrix(View().Rows - 1, 5),
             gStd->FormatAmount(atBank.Abs(), "C2") + (atBank < Amount() ? " Cr." : " Dr."));
   EXPECT_EQ(View().Footer.TextMatrix(0, 5), gStd->FormatAmount(-atBank, "c2"));

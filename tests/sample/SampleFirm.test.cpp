@@ -125,8 +125,9 @@ TEST(SampleFirm, TheBooksHaveEverySituationThatTheScreensTreat) {
         "FADocs group by VoucherID having count(*)>1",
         "FADocs where TransportCode>0 and AgentCode>0",
         "FANar where Narration like '%Chq.No. 47%'",
-        "(select a.dcd,substring(n.Narration from 1 for 14) as Cheque from FAData a join FANar n on "
-        "a.NarrationID=n.NarrationID where a.dcd in (101,102,103) and n.Narration starting with 'Chq.No. ' "
+        "(select a.dcd,substring(n.Narration from 1 for 14) as Cheque from FAData a "
+        "join FANar n on a.NarrationID=n.NarrationID "
+        "where a.dcd in (101,102,103) and n.Narration starting with 'Chq.No. ' "
         "and extract(day from a.dVchDate) between 20 and 23) group by dcd,Cheque having count(*)=2",
         "DocMain m join DocData d on d.DocumentID=m.DocumentID where DocSeries='FAS'",
         "DocMain where DocSeries<>'FAS' and dLocked=1",

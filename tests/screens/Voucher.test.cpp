@@ -19,8 +19,7 @@ class Voucher : public DeskTest {
     Db().Execute("update FAData set dAmt=1490 where VoucherID=9 and dVchSubNo=2");
     Db().Execute(
         "insert into FAData (VoucherID,dVchSubNo,dSrNo,dVchNo,dVchDate,dcd,dcd2,dAmt,dBook,NarrationID) "
-        "values "
-        "(9,3,9,'9','2024-04-20',202,101,10.25,'BNK',9)");
+        "values (9,3,9,'9','2024-04-20',202,101,10.25,'BNK',9)");
   }
 
   FormPtr OpenFrom(const FormPtr& statement) {
@@ -56,8 +55,8 @@ TEST_F(Voucher, TellsItsDocumentsAndCheques) {
   Db().Execute("insert into DocMain (DocumentID,DocVoucherID) values (42,9)");
   Db().Execute("update FADocs set ChqReturn='Y' where VoucherID=9");
   Db().Execute(
-      "insert into ChqLeaves (ID,BankCode,ChqNo,IsuDate,VoucherID,Amount) values "
-      "(1,101,670151,'2024-04-20',9,1500.25)");
+      "insert into ChqLeaves (ID,BankCode,ChqNo,IsuDate,VoucherID,Amount) "
+      "values (1,101,670151,'2024-04-20',9,1500.25)");
   const FormPtr voucher = OpenFrom(ShowStatement());
   EXPECT_EQ(At<Label>(voucher, "lblDocument").Caption(),
             "   Document 41 Series A   Document 42   Chq. Returned");

@@ -15,9 +15,8 @@ class EngineWatch {
  public:
   static constexpr int kSeconds = 10;
   static constexpr const char* kStuck =
-      "The database engine does not answer: a program that had this firm open was killed. What was stored is "
-      "safe. "
-      "Close all Quillon programs on the firm and open it again.";
+      "The database engine does not answer: a program that had this firm open was killed. "
+      "What was stored is safe. Close all Quillon programs on the firm and open it again.";
 
   /// Lasts as long as a call; calls inside it belong to it.
   class Call {

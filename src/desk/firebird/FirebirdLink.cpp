@@ -22,8 +22,9 @@ constexpr std::chrono::milliseconds kPause(50);
 constexpr std::chrono::milliseconds kUnseen(500);  // so long nobody minds
 
 constexpr const char* kKeyQuery =
-    "select trim(s.rdb$field_name) from rdb$relation_constraints c join rdb$index_segments s on "
-    "s.rdb$index_name=c.rdb$index_name where c.rdb$constraint_type='PRIMARY KEY' and c.rdb$relation_name='";
+    "select trim(s.rdb$field_name) from rdb$relation_constraints c "
+    "join rdb$index_segments s on s.rdb$index_name=c.rdb$index_name "
+    "where c.rdb$constraint_type='PRIMARY KEY' and c.rdb$relation_name='";
 
 /// Shows that a statement waits, from the first time that it says so to its end.
 class WaitingSign {

@@ -119,8 +119,8 @@ void Firm::BringUp() {
   common_.reset();
   if (lock_ && !lock_->KeepAlone()) {
     throw HostError(
-        "The firm was made by an older version of this program and has to be brought up. Close the other "
-        "programs that have it open first");
+        "The firm was made by an older version of this program and has to be brought up. "
+        "Close the other programs that have it open first");
   }
   SchemaUpgrade(folder_, file_, steps_).Run();
   if (lock_) lock_->Share();

@@ -106,8 +106,7 @@ void FirmLock::Begin(const fs::path& folder, const std::string& database, const 
   if (!last.IsEmpty() && last.Machine != LockHolder::Own("", "").Machine && last.Host != takeOver) {
     throw OtherMachineError(
         "The firm in " + folder.string() + " is open on the machine " + last.Host +
-            ", or was when that machine stopped. Two machines that write the same files damage the "
-            "books",
+            ", or was when that machine stopped. Two machines that write the same files damage the books",
         last.Host);
   }
   const bool isFresh = !FirebirdEngine::Locks();

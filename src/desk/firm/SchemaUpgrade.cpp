@@ -117,8 +117,8 @@ void SchemaUpgrade::Run() const {
   } catch (const fs::filesystem_error& error) {
     Recover();
     throw HostError(
-        "The firm was made by an older version of this program and cannot be brought up, because its files "
-        "cannot be copied: " +
+        "The firm was made by an older version of this program and cannot be brought up, "
+        "because its files cannot be copied: " +
         std::string(error.what()));
   } catch (const HostError&) {
     Recover();

@@ -79,8 +79,8 @@ void frmVoucher::FillLines(CDbLink& db) {
   CDataSet lines;
   lines.Open(
       "Select a.dcd,a.dVchNo,a.dVchDate,a.dBook,a.dAmt,a.dBankDate,b.mhd,b.mst,n.Narration from (FAData a "
-      "left join FAMaster b on a.dcd=b.mcd) left join FANar n on a.NarrationID=n.NarrationID where "
-      "a.VoucherID=" +
+      "left join FAMaster b on a.dcd=b.mcd) "
+      "left join FANar n on a.NarrationID=n.NarrationID where a.VoucherID=" +
           std::to_string(VoucherID) + " order by a.dVchSubNo",
       db);
   Grid.Rows = static_cast<int>(lines.RecordCount()) + 1;

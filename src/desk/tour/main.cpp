@@ -18,8 +18,8 @@ namespace {
 
 constexpr const char* kUsage =
     "quillon-tour SCRIPT FIRM OUT [ZOOM]\n"
-    "Walks the desk on the firm in the folder FIRM by the acts of SCRIPT, a file or a folder of them, and "
-    "leaves its pictures in OUT; ZOOM in per cent.\n";
+    "Walks the desk on the firm in the folder FIRM by the acts of SCRIPT, a file or a folder of them, "
+    "and leaves its pictures in OUT; ZOOM in per cent.\n";
 
 constexpr int kScreenWidth = 1366;
 constexpr int kScreenHeight = 768;

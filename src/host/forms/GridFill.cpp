@@ -17,11 +17,10 @@ void GridFill::Done() {
 
 bool RequireComplete(const CGridPlus& grid) {
   if (grid.Complete) return true;
-  gStd->MsgBox(
-      grid.Title() +
-          "\nNot all of its entries could be read, so it is neither printed nor reckoned with. Open it "
-          "again.",
-      "", "W");
+  gStd->MsgBox(grid.Title() +
+                   "\nNot all of its entries could be read, so it is neither printed nor reckoned with. "
+                   "Open it again.",
+               "", "W");
   return false;
 }
 

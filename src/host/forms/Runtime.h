@@ -84,7 +84,6 @@ class Runtime {
   virtual ~Runtime();
 
   // --- Forms
-  // -------------------------------------------------------------------------------------------------
 
   /// Runs the form's Load once.
   void Load(const FormPtr& form);
@@ -134,7 +133,6 @@ class Runtime {
   void WaitWhileVisible(Form& form);
 
   // --- Events
-  // ------------------------------------------------------------------------------------------------
 
   /// Runs what a person did: an error that no handler caught is reported, the event abandoned. Refused
   /// passes.
@@ -168,7 +166,6 @@ class Runtime {
   void DeliverKeys();
 
   // --- Screen
-  // ------------------------------------------------------------------------------------------------
 
   static constexpr long kTwipsPerPixel = 15;
 
@@ -195,7 +192,6 @@ class Runtime {
   virtual void SetClipboardText(const std::string& text) = 0;
 
   // --- Printer
-  // -----------------------------------------------------------------------------------------------
 
   virtual IPrinter& Printer() = 0;
 
@@ -213,7 +209,6 @@ class Runtime {
   void RequireFont(const std::string& name);
 
   // --- Asking
-  // ------------------------------------------------------------------------------------------------
 
   /// The number of the button taken.
   virtual int AskMessage(const MessageRequest& request) = 0;

@@ -31,8 +31,8 @@ struct Arguments {
 
 constexpr const char* kUsage =
     "quillon-desk [FOLDER] [--user NAME] [--year N] [--module FILE]\n"
-    "Opens the desk, on the firm in FOLDER if one is given; N is the calendar year in which the financial "
-    "year starts.\n";
+    "Opens the desk, on the firm in FOLDER if one is given; "
+    "N is the calendar year in which the financial year starts.\n";
 
 /// False when the words make no sense.
 bool Read(const QStringList& words, Arguments& arguments) {
