@@ -16,7 +16,6 @@ class StatementView : public DatedView {
   /// A cleared date was stored from here.
   std::function<void(const books::EntryKey&, const std::string&)> DateStored;
 
-  Date AsOn() const { return asOn_; }
   void SetAsOn(Date date) { asOn_ = date; }
 
   /// Asks for the date; false when the user went back.

@@ -276,10 +276,10 @@ TEST_F(FirmTest, AnOlderFirmIsBroughtUpInAllItsDatabasesOrNone) {
   using Kind = SchemaStep::Database;
   CreateFirm(Folder(), kDetails, {2023, 2024});
   Firm::Open(Folder())->OpenYear(2024).Db->Execute("insert into FANar values (1,'kept')");
-  std::vector<SchemaStep> steps{{Kind::kYear, 1, {"create table Letters (Code integer)"}},
-                                {Kind::kCommon, 1, {"create table Styles (Code integer)"}},
-                                {Kind::kYear, 2, {"insert into Letters values (7)"}},
-                                {Kind::kCommon, 2, {"create table Styles (Twice integer)"}}};
+  std::vector<SchemaStep> steps{{1, Kind::kYear, 1, {"create table Letters (Code integer)"}},
+                                {1, Kind::kCommon, 1, {"create table Styles (Code integer)"}},
+                                {1, Kind::kYear, 2, {"insert into Letters values (7)"}},
+                                {1, Kind::kCommon, 2, {"create table Styles (Twice integer)"}}};
   const auto open = [&] { return Firm::Open(Folder(), {.TakeOver = "", .Steps = &steps}); };
   try {
     open();
@@ -300,9 +300,9 @@ TEST_F(FirmTest, AnUpgradeThatSucceedsKeepsTheRows) {
   using Kind = SchemaStep::Database;
   CreateFirm(Folder(), kDetails, {2023, 2024});
   Firm::Open(Folder())->OpenYear(2024).Db->Execute("insert into FANar values (1,'kept')");
-  const std::vector<SchemaStep> steps{{Kind::kYear, 1, {"create table Letters (Code integer)"}},
-                                      {Kind::kYear, 2, {"insert into Letters values (7)"}},
-                                      {Kind::kCommon, 2, {"create table Styles (Code integer)"}}};
+  const std::vector<SchemaStep> steps{{1, Kind::kYear, 1, {"create table Letters (Code integer)"}},
+                                      {1, Kind::kYear, 2, {"insert into Letters values (7)"}},
+                                      {1, Kind::kCommon, 2, {"create table Styles (Code integer)"}}};
   const auto firm = Firm::Open(Folder(), {.TakeOver = "", .Steps = &steps});
   for (const int year : {2023, 2024}) {
     EXPECT_EQ(firm->OpenYear(year).Db->Lookup("Letters", "Code", "").ToInteger(), 7) << year;
@@ -319,8 +319,8 @@ TEST_F(FirmTest, AFirmOnAServerIsBroughtUpInAllItsDatabasesOrNone) {
   FirebirdServer server;
   std::filesystem::create_directory(server.Folder() / "books");
   CreateFirm(Folder(), kDetails, {2023, 2024}, server.Address("books"));
-  std::vector<SchemaStep> steps{{Kind::kYear, 1, {"create table Letters (Code integer)"}},
-                                {Kind::kCommon, 1, {"create table Styles (Code nothing)"}}};
+  std::vector<SchemaStep> steps{{1, Kind::kYear, 1, {"create table Letters (Code integer)"}},
+                                {1, Kind::kCommon, 1, {"create table Styles (Code nothing)"}}};
   const auto open = [&] { return Firm::Open(Folder(), {.TakeOver = "", .Steps = &steps}); };
   EXPECT_THROW(open(), DbError);
   EXPECT_FALSE(Firm::Open(Folder())->OpenYear(2023).Db->TableExists("LETTERS"));

@@ -495,17 +495,12 @@ TEST_F(ReportTest, ARowOfTheWholeReportGoesIntoASpreadsheetFileExactly) {
   form->Statement.SetTextMatrix(2, 2, "a \"quoted\", word");
   form->Statement.SetTextMatrix(3, 2, "two\r\nlines");
   form->Statement.SetColWidth(5, 0);
-  const std::string file = folder.File("report.csv");
-  CsvFile::Write(form->Statement, file);
-  std::ostringstream text;
-  text << std::ifstream(file, std::ios::binary).rdbuf();
-  EXPECT_EQ(text.str(),
+  EXPECT_EQ(CsvFile::TextOf(form->Statement),
             "Date,Book,Narration,Dr.(Withdrawls),Cr.(Deposits)\r\n"
             "01-Apr-2024,,Amounts Debited by us only:-,,\r\n"
             "02-Apr-2024,B1,\"a \"\"quoted\"\", word\",101.50,\r\n"
             "03-Apr-2024,B1,\"two\r\nlines\",102.50,\r\n"
             ",,Totals,\"9,87,65,432.10\",\"12,345.67\"\r\n");
-  EXPECT_THROW(CsvFile::Write(form->Statement, folder.File("none/x.csv")), HostError);
 }
 
 TEST_F(ReportTest, AFolderThatTakesNoFilesIsToldAndAnEmptyGridStillPrints) {

@@ -2,7 +2,6 @@
 #include <filesystem>
 #include <sys/resource.h>
 
-#include "desk/print/CsvFile.h"
 #include "desk/print/PdfPrinter.h"
 #include "desk/qt/windows/FormPicture.h"
 #include "host/controls/host_controls.h"
@@ -100,9 +99,6 @@ TEST_F(PrintFormTest, WhatADiskCannotHoldIsToldAndLeavesNothing) {
     const FullDisk full(200);
     EXPECT_THROW(FormPicture::Save(form, (folder / "form.png").string()), HostError);
     EXPECT_THROW(FormPicture::Print(form, printer), HostError);
-    form->Letter.Rows = 20;
-    for (int row = 1; row < 20; ++row) form->Letter.SetTextMatrix(row, 0, "a long narration");
-    EXPECT_THROW(CsvFile::Write(form->Letter, (folder / "report.csv").string()), HostError);
   }
   for (const auto& left : std::filesystem::directory_iterator(folder)) ADD_FAILURE() << left.path();
 }

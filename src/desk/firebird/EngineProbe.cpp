@@ -37,6 +37,7 @@ EngineProbe::Answer EngineProbe::Ask(const FirebirdAddress& address) {
       (std::filesystem::read_symlink("/proc/self/exe").parent_path() / "quillon-probe").string();
   std::vector<std::string> surroundings{"ISC_USER=" + address.User, "ISC_PASSWORD=" + address.Password};
   std::vector<char*> environment;
+  environment.reserve(surroundings.size());
   for (std::string& line : surroundings) environment.push_back(line.data());
   for (char** line = environ; *line != nullptr; ++line) environment.push_back(*line);
   environment.push_back(nullptr);

@@ -1,9 +1,6 @@
 #include "desk/print/CsvFile.h"
 
-#include <QSaveFile>
-
 #include "desk/print/ReportTable.h"
-#include "host/values/Errors.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -36,17 +33,6 @@ std::string CsvFile::TextOf(const GridModel& grid) {
   for (const ReportTable::FooterRow& row : table.Footer())
     AddRecord(out, table.Columns().size(), [&](std::size_t i) { return std::string_view(row.Cells[i]); });
   return out;
-}
-
-void CsvFile::Write(const GridModel& grid, const std::string& file) {
-  const std::string text = TextOf(grid);
-  QSaveFile out(QString::fromStdString(file));
-  const bool written =
-      out.open(QIODevice::WriteOnly) &&
-      out.write(text.data(), static_cast<qint64>(text.size())) == static_cast<qint64>(text.size()) &&
-      out.flush() && out.commit();
-  if (!written)
-    throw HostError("The file " + file + " cannot be written: " + out.errorString().toStdString());
 }
 
 }  // namespace quillon

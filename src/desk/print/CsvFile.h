@@ -11,9 +11,6 @@ class CsvFile {
  public:
   /// The shown columns and rows with their titles, and the totals; without the commands of the last column.
   static std::string TextOf(const GridModel& grid);
-
-  /// Throws HostError when the file cannot be written.
-  static void Write(const GridModel& grid, const std::string& file);
 };
 
 }  // namespace quillon

@@ -98,10 +98,6 @@ std::string Trim(std::string_view text) {
 
 bool EqualNoCase(std::string_view a, std::string_view b) { return Lower(a) == Lower(b); }
 
-bool ContainsNoCase(std::string_view text, std::string_view part) {
-  return Lower(text).find(Lower(part)) != std::string::npos;
-}
-
 std::vector<std::string> Split(std::string_view text, std::string_view separator) {
   std::vector<std::string> parts;
   std::size_t start = 0;

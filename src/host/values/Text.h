@@ -24,7 +24,6 @@ std::string Lower(std::string_view text);
 std::string Trim(std::string_view text);
 
 bool EqualNoCase(std::string_view a, std::string_view b);
-bool ContainsNoCase(std::string_view text, std::string_view part);
 
 std::vector<std::string> Split(std::string_view text, std::string_view separator);
 std::string Join(const std::vector<std::string>& parts, std::string_view separator);
