@@ -4,8 +4,6 @@
 namespace quillon {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 /// The report of the cheques that came back, opened by its key on the bank's statement.
 class ReturnedCheques : public DeskTest {
  protected:
@@ -35,7 +33,7 @@ class ReturnedCheques : public DeskTest {
 
   FormPtr OpenReport(int account = 101) {
     const FormPtr statement = ShowStatement(account);
-    runtime_.Laid.Add({{"to", "date"}, {"date1", "1/4/2024"}, {"date2", "30/6/2024"}});
+    AnswerPeriod("1/4/2024", "30/6/2024");
     Key(*statement, keys::kF3);
     runtime_.NextCommand = [this] {
       runtime_.PickFromMenu("ChqReturned");

@@ -82,7 +82,7 @@ TEST_F(FormLife, AModalFormInsideAModalForm) {
     gRuntime->Show(inner, true, outer);
     outer->Told.push_back("inner ended");
   };
-  std::vector<std::function<void()>> acts = {
+  const Acts acts = {
       [&] { Key(*outer, keys::kF2); },
       [&] {
         EXPECT_TRUE(gRuntime->IsCovered(*outer));
@@ -90,14 +90,7 @@ TEST_F(FormLife, AModalFormInsideAModalForm) {
         Refuses([&] { owner->txtFirst.UserType("x"); }, "The form Dialog is covered by another one");
       },
       [&] { Key(*inner, keys::kEscape); }, [&] { outer->btnOKCancel(0).UserClick(); }};
-  std::size_t next = 0;
-  runtime_.NextCommand = [&] {
-    if (next == acts.size()) return false;
-    Do(acts[next++]);
-    return true;
-  };
-  Do([&] { gRuntime->Show(outer, true, owner); });
-  EXPECT_EQ(next, acts.size());
+  During([&] { gRuntime->Show(outer, true, owner); }, acts);
   EXPECT_EQ(outer->Told, (Texts{"load", "activate, seen", "activate, seen", "inner ended"}));
   EXPECT_FALSE(outer->IsShownToUser());
   EXPECT_TRUE(outer->IsLoaded()) << "hidden, it keeps its results for the caller";

@@ -42,13 +42,7 @@ class BankBalances : public DeskTest, public testing::WithParamInterface<unsigne
     return cases;
   }
 
-  void Open(const Case& at) {
-    statement_ = gApp->GetForm("Account");
-    statement_->Set("AccountCode", at.Bank);
-    statement_->Set("Date1", at.First);
-    statement_->Set("Date2", at.Last);
-    Do([&] { gApp->ShowForm(statement_); });
-  }
+  void Open(const Case& at) { statement_ = ShowStatement(at.Bank, at.First.Text(), at.Last.Text()); }
   void Close() {
     for (const FormPtr& form : runtime_.AllForms()) runtime_.Unload(*form);
     Events("sql");

@@ -1,23 +1,18 @@
 #include "host/values/Text.h"
-#include "tests/support/DeskFixture.h"
+#include "tests/support/BankTest.h"
 
 namespace quillon {
 namespace {
-
-using Texts = std::vector<std::string>;
-using Acts = std::vector<std::function<void()>>;
 
 constexpr int kInterestButton = 2;
 constexpr long kPayColor = 0xE7D8FC;
 constexpr long kChargeColor = 0xF0FFE6;
 
 /// The interest of bank 101, asked for in the pass book or straight from the statement of account.
-class Interest : public DeskTest {
+class Interest : public BankTest {
  protected:
   void SetUp() override {
-    OpenNewFirm();
-    AddAccount(101, "Sahyadri Bank", 47, "Pune");
-    AddAccount(201, "Asha Traders");
+    BankTest::SetUp();
     Db().Execute("insert into RatesPA (mcd,Rate1) values (101,9.5)");
     AddVoucher({.id = 1, .date = "2024-04-01", .amount = "10000", .book = "0B"});
   }
@@ -31,33 +26,19 @@ class Interest : public DeskTest {
                  " where VoucherID=" + std::to_string(id));
   }
 
-  /// Starts something that waits for a person; the acts are what he does in the windows that come up.
-  void During(const std::function<void()>& start, Acts acts) {
-    std::size_t next = 0;
-    runtime_.NextCommand = [&] {
-      if (next == acts.size()) return false;
-      Do(acts[next++]);
-      return true;
-    };
-    Do(start);
-    EXPECT_EQ(next, acts.size()) << "nobody waited for the rest";
-    runtime_.NextCommand = nullptr;
-  }
-
   void OpenPassBook() {
-    statement_ = ShowStatement();
-    bench_ = ShowWorkbench(statement_);
+    OpenBench();
     Key(*bench_, keys::kF7);
     Statements();
   }
-  void PressInterest(Acts acts) {
-    During([&] { bench_->UserKey(keys::kF5, 0, 0); }, std::move(acts));
+  void PressInterest(const Acts& acts) {
+    During([&] { bench_->UserKey(keys::kF5, 0, 0); }, acts);
   }
 
   /// F5 in the statement of account.
-  void OpenInterest(Acts acts) {
+  void OpenInterest(const Acts& acts) {
     if (!statement_) statement_ = ShowStatement();
-    During([&] { At<CButtonBar>(statement_, "BtnBar1").UserPress("Interest"); }, std::move(acts));
+    During([&] { At<CButtonBar>(statement_, "BtnBar1").UserPress("Interest"); }, acts);
     bench_ = runtime_.ActiveForm();
   }
 
@@ -72,9 +53,7 @@ class Interest : public DeskTest {
     return [this, method] { At<ComboBox>(Top(), "cmbInttMethod").UserChoose(method); };
   }
 
-  CGridPlus& View() { return At<CGridPlus>(bench_, "GridIntt"); }
-  CGridPlus& PassBook() { return At<CGridPlus>(bench_, "GridPBook"); }
-  CButtonBar& Bar() { return At<CButtonBar>(bench_, "BtnBar1"); }
+  CGridPlus& View() { return InterestRows(); }
 
   Texts Rows() { return RowTexts(View(), {0, 1, 2, 3, 4, 5, 6, 7, 8}); }
   Texts Footer() {
@@ -86,9 +65,6 @@ class Interest : public DeskTest {
     }
     return rows;
   }
-
-  FormPtr statement_;
-  FormPtr bench_;
 };
 
 TEST_F(Interest, OfThePassBookByTheDaysOfTheBank) {
@@ -115,17 +91,18 @@ TEST_F(Interest, OfThePassBookByTheDaysOfTheBank) {
   EXPECT_EQ(View().Footer.Height(), 900);
   EXPECT_EQ(View().Footer.BackColor(2), kChargeColor);
   EXPECT_EQ(View().Title(), "Pass Book Interest Calculations @ 9.50 p.a. ( Method : Product Method )");
-  const std::vector<std::pair<std::string, int>> columns = {
-      {"Date", 13}, {"O.Balance", 16}, {"Debits", 14},      {"Credits", 14},       {"C.Balance", 16},
-      {"Days", 6},  {"Product", 18},   {"Intt. (Pay)", 13}, {"Intt. (Charge)", 13}};
   ASSERT_EQ(View().Cols(), 10);
-  const long unit = gRuntime->TextWidth(View().Font, "9");
-  for (int col = 0; col < 9; ++col) {
-    const auto& [title, chars] = columns[static_cast<std::size_t>(col)];
-    EXPECT_EQ(View().TextMatrix(0, col), title);
-    EXPECT_EQ(View().ColWidth(col), chars * unit) << title;
-    EXPECT_EQ(View().ColAlignment(col), col == 0 ? kAlignCentre : kAlignRight) << title;
-  }
+  ExpectColumns(View(), {{0, {"Date", 13}},
+                         {1, {"O.Balance", 16}},
+                         {2, {"Debits", 14}},
+                         {3, {"Credits", 14}},
+                         {4, {"C.Balance", 16}},
+                         {5, {"Days", 6}},
+                         {6, {"Product", 18}},
+                         {7, {"Intt. (Pay)", 13}},
+                         {8, {"Intt. (Charge)", 13}}});
+  for (int col = 0; col < 9; ++col)
+    EXPECT_EQ(View().ColAlignment(col), col == 0 ? kAlignCentre : kAlignRight) << col;
   for (int row = 1; row < View().Rows; ++row) {
     std::map<int, long> colors;
     for (const GridModel::Paint& paint : View().Paints(row)) {
@@ -134,10 +111,10 @@ TEST_F(Interest, OfThePassBookByTheDaysOfTheBank) {
     }
     EXPECT_EQ(colors, (std::map<int, long>{{7, kPayColor}, {8, kChargeColor}})) << row;
   }
-  EXPECT_EQ(View().BackColor(), PassBook().BackColor());
+  EXPECT_EQ(View().BackColor(), PassBookRows().BackColor());
   EXPECT_EQ(View().Row(), 1);
   EXPECT_TRUE(View().HasFocus());
-  EXPECT_FALSE(PassBook().Visible);
+  EXPECT_FALSE(PassBookRows().Visible);
   EXPECT_FALSE(Bar().Buttons(kInterestButton).Enabled());
   EXPECT_EQ(Bar().Buttons(1).Caption(), "") << "there are no references here";
   EXPECT_EQ(gRuntime->MousePointer(), kPointerDefault);
@@ -162,11 +139,8 @@ TEST_F(Interest, OfTheBooksStraightFromTheStatementOfAccount) {
                   EXPECT_FALSE(At<CGridPlus>(runtime_.Forms(Form::Origin::Module).at(0), "Grid").Visible);
                 },
                 Leave(), Confirm()});
-  const std::vector<Json> messages = Events("message");
-  ASSERT_EQ(messages.size(), 1U);
-  EXPECT_EQ(messages[0]["text"],
-            "Contra entries found. These entries will be ignored for Interest Calculations");
-  EXPECT_EQ(messages[0]["icon"], "W");
+  EXPECT_EQ(Told(),
+            Texts{"W: Contra entries found. These entries will be ignored for Interest Calculations"});
   ASSERT_EQ(bench_->Name(), "frmAcReconciliation");
   EXPECT_EQ(Rows(), (Texts{
                         "01-Apr-2024|10,000.00|||10,000.00|10|1,00,000.00||26.03",
@@ -179,9 +153,9 @@ TEST_F(Interest, OfTheBooksStraightFromTheStatementOfAccount) {
                              "Net Cr|365|70,02,000.00|1,822.44|"}));
   EXPECT_EQ(View().Footer.BackColor(2), kPayColor);
   EXPECT_EQ(View().Title(), "Interest Calculations @ 9.5 p.a. ( Method : Product Method )");
-  EXPECT_EQ(View().BackColor(), At<CGridPlus>(statement_, "Grid").BackColor());
+  EXPECT_EQ(View().BackColor(), Source().BackColor());
   EXPECT_TRUE(View().HasFocus());
-  EXPECT_FALSE(At<CGridPlus>(bench_, "Grid").Visible);
+  EXPECT_FALSE(Entries().Visible);
   EXPECT_FALSE(At<ComboBox>(bench_, "cmbFilter").Visible);
   EXPECT_EQ(desk_.App().Windows().back().Title, "Reconciliation");
   Key(*bench_, keys::kEscape);
@@ -196,7 +170,7 @@ TEST_F(Interest, ACancelledDialogChangesNothing) {
   EXPECT_EQ(desk_.App().Windows().size(), 1U);
   OpenPassBook();
   PressInterest({Leave()});
-  EXPECT_TRUE(PassBook().Visible);
+  EXPECT_TRUE(PassBookRows().Visible);
   EXPECT_FALSE(View().Visible);
   EXPECT_EQ(View().Rows(), 2) << "as it never was filled";
   EXPECT_TRUE(Bar().Buttons(kInterestButton).Enabled());
@@ -208,11 +182,8 @@ TEST_F(Interest, OnlyThePassBookGivesTheBanksInterest) {
   const auto told = [&] {
     AnswerMessage();
     Key(*bench_, keys::kF5);
-    const std::vector<Json> messages = Events("message");
-    ASSERT_EQ(messages.size(), 1U);
-    EXPECT_EQ(messages[0]["text"],
-              "Click on 'F7: Pass Book' option to calculate interest as charged / paid by bank.");
-    EXPECT_EQ(messages[0]["icon"], "W");
+    EXPECT_EQ(Told(), Texts{"W: Click on 'F7: Pass Book' option to calculate interest "
+                            "as charged / paid by bank."});
   };
   Key(*bench_, keys::kEscape);
   told();
@@ -229,7 +200,7 @@ TEST_F(Interest, OnlyThePassBookGivesTheBanksInterest) {
   Key(*bench_, keys::kF5);
   EXPECT_TRUE(View().Visible);
   Key(*bench_, keys::kEscape);
-  EXPECT_TRUE(At<CGridPlus>(bench_, "Grid").HasFocus());
+  EXPECT_TRUE(Entries().HasFocus());
   for (int button = 0; button <= 5; ++button) EXPECT_TRUE(Bar().Buttons(button).Enabled()) << button;
   told();
 }
@@ -327,18 +298,15 @@ TEST_F(Interest, ImproperContraEntriesStopIt) {
                    EXPECT_EQ(At<CGridPlus>(Top(), "Grid").Rows(), 3);
                  },
                  Leave()});
-  const std::vector<Json> messages = Events("message");
-  ASSERT_EQ(messages.size(), 1U);
-  EXPECT_EQ(messages[0]["text"],
-            "Improper contra entries found. Total of Contra entries is not 0 Can't calculate Interest.");
-  EXPECT_EQ(messages[0]["icon"], "E");
+  EXPECT_EQ(Told(), Texts{"E: Improper contra entries found. Total of Contra entries is not 0 "
+                          "Can't calculate Interest."});
   const std::string sent = Statements().at(0);
   EXPECT_EQ(sent,
             "Select a.dVchDate,a.dBook,n.Narration,a.dAmt,a.VoucherID from FAData a "
             "Left Join FANar n on a.NarrationID=n.NarrationID "
             "where a.dcd=101 and a.dVchDate between '2024-04-01' and '2025-03-31' "
             "and a.dTrnNature in (5002,5012,5024,5031,5041,5051) order by dVchDate");
-  EXPECT_TRUE(PassBook().Visible) << "no dialog, no table";
+  EXPECT_TRUE(PassBookRows().Visible) << "no dialog, no table";
   EXPECT_FALSE(View().Visible);
   AnswerMessage();
   OpenInterest({Leave()});
@@ -353,7 +321,7 @@ TEST_F(Interest, WhoLeavesWhileTheAlertIsUpHasLeft) {
   OpenPassBook();
   AnswerMessage();
   PressInterest({[&] { Key(*bench_, keys::kEscape); }, Leave()});
-  EXPECT_TRUE(At<CGridPlus>(bench_, "Grid").Visible) << "back among the entries no dialog comes up";
+  EXPECT_TRUE(Entries().Visible) << "back among the entries no dialog comes up";
   Key(*bench_, keys::kF7);
   AnswerMessage();
   PressInterest({[&] {
@@ -378,7 +346,7 @@ TEST_F(Interest, WhatLeavesTheRangeIsReportedAndTheTableStaysAsFarAsItGot) {
   EXPECT_EQ(View().TextMatrix(1, 6), "-1,00,000.00");
   EXPECT_EQ(gRuntime->MousePointer(), kPointerDefault);
   Key(*bench_, keys::kEscape);
-  EXPECT_TRUE(At<CGridPlus>(bench_, "Grid").Visible);
+  EXPECT_TRUE(Entries().Visible);
 }
 
 }  // namespace

@@ -3,8 +3,6 @@
 namespace quillon {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 class InttMethod : public DeskTest {
  protected:
   void SetUp() override {
@@ -16,15 +14,8 @@ class InttMethod : public DeskTest {
   ComboBox& Method() { return At<ComboBox>(dialog_, "cmbInttMethod"); }
 
   /// Shows the dialog; the acts are a person's in it, who leaves it at last.
-  void Show(std::vector<std::function<void()>> acts) {
-    std::size_t next = 0;
-    runtime_.NextCommand = [&] {
-      if (next == acts.size()) return false;
-      Do(acts[next++]);
-      return true;
-    };
-    Do([&] { gRuntime->Show(dialog_, true); });
-    EXPECT_EQ(next, acts.size());
+  void Show(const Acts& acts) {
+    During([&] { gRuntime->Show(dialog_, true); }, acts);
     EXPECT_FALSE(dialog_->IsLoaded());
   }
   void Press(int button) { At<CButton>(dialog_, "btnOKCancel", button).UserClick(); }

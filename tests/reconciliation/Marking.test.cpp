@@ -1,11 +1,8 @@
-#include "desk/services/Users.h"
 #include "reconciliation/ChequeSearch.h"
-#include "tests/support/DeskFixture.h"
+#include "tests/support/BankTest.h"
 
 namespace quillon {
 namespace {
-
-using Texts = std::vector<std::string>;
 
 constexpr int kClearDate = 2;
 constexpr int kChequeNo = 3;
@@ -14,14 +11,11 @@ constexpr int kPreMarked = 8;
 constexpr const char* kPickTitle = "Multiple matching records found ... Select one";
 
 /// The marking form on bank 101 with the cheques of a week in April.
-class Marking : public DeskTest {
+class Marking : public BankTest {
  protected:
   void SetUp() override {
-    OpenNewFirm();
-    AddAccount(101, "Sahyadri Bank", 47, "Pune");
+    BankTest::SetUp();
     AddAccount(102, "Konkan Bank", 47, "Pune");
-    AddAccount(201, "Asha Traders");
-    AddAccount(202, "Bharat Mills");
     AddVoucher({.id = 2, .date = "2024-04-05", .amount = "1500.5", .narration = "Chq.No. 470251 received"});
     AddVoucher({.id = 3,
                 .date = "2024-04-08",
@@ -59,11 +53,6 @@ class Marking : public DeskTest {
   bool Number(int row, const std::string& text) { return EditCell(Grid(), row, kChequeNo, text); }
 
   std::string Row(int row) { return RowText(Grid(), row, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}); }
-  Texts Updates() {
-    Texts updates = Statements();
-    std::erase_if(updates, [](const std::string& sql) { return !sql.starts_with("UPDATE"); });
-    return updates;
-  }
   void AnswerPick(int item) { runtime_.Laid.Add({{"to", "pick"}, {"item", item}}); }
 
   /// Vouchers from 20 on with "Chq. 5550NN", a day apart from 1 June on.
@@ -208,10 +197,7 @@ TEST_F(Marking, AWrongDateKeepsTheCell) {
   for (const char* wrong : {"31/2", "abc", "470251"}) {
     AnswerMessage();
     EXPECT_FALSE(Date(1, wrong)) << wrong;
-    const std::vector<Json> asked = Events("message");
-    ASSERT_EQ(asked.size(), 1U);
-    EXPECT_EQ(asked[0]["text"], "Invalid date");
-    EXPECT_EQ(asked[0]["icon"], "W");
+    EXPECT_EQ(Told(), Texts{"W: Invalid date"});
     EXPECT_TRUE(Grid().EditMode());
     EXPECT_EQ(Grid().EditBox.Text(), wrong);
   }
@@ -249,10 +235,7 @@ TEST_F(Marking, TheSearchKeepsToItsDays) {
   EXPECT_TRUE(Date(1, "9/4/2024"));
   AnswerMessage();
   EXPECT_FALSE(Number(1, "470251"));
-  const std::vector<Json> asked = Events("message");
-  ASSERT_EQ(asked.size(), 1U);
-  EXPECT_EQ(asked[0]["text"], "Cheque no. not found: 470251") << "dated four days before";
-  EXPECT_EQ(asked[0]["icon"], "W");
+  EXPECT_EQ(Told(), Texts{"W: Cheque no. not found: 470251"}) << "dated four days before";
   EXPECT_TRUE(Grid().EditMode());
   EXPECT_EQ(Grid().TextMatrix(1, 0), "");
   Do([&] { Grid().CancelEdit(); });
@@ -322,10 +305,7 @@ TEST_F(Marking, ElevenMatchesAreTooMany) {
   EXPECT_TRUE(Date(1, "15/6/2024"));
   AnswerMessage();
   EXPECT_FALSE(Number(1, "555"));
-  const std::vector<Json> asked = Events("message");
-  ASSERT_EQ(asked.size(), 1U);
-  EXPECT_EQ(asked[0]["text"], "11 records found, can't continue.");
-  EXPECT_EQ(asked[0]["icon"], "W");
+  EXPECT_EQ(Told(), Texts{"W: 11 records found, can't continue."});
   EXPECT_EQ(Events("pick").size(), 0U);
   EXPECT_EQ(Updates(), Texts());
 }
@@ -508,25 +488,6 @@ TEST_F(Marking, FromTheStatementAndBackTheDatesAreThere) {
   EXPECT_EQ(rows.TextMatrix(1, 4), "08-Apr-2024");
   const FormPtr bench = ShowWorkbench(statement);
   EXPECT_EQ(At<CGridPlus>(bench, "Grid").TextMatrix(1, 27), "08-Apr-2024");
-}
-
-TEST_F(Marking, AUserWithoutTheRightIsTurnedAway) {
-  CDbLink& common = gSession->CommonDb();
-  common.Execute("insert into Users (UserName,UserLevel) values ('Clerk',3)");
-  common.Execute("insert into Users (UserName,UserLevel) values ('Owner',9)");
-  desk_.OpenFirm(desk_.Session().Books().Folder().string(), "Clerk");
-  AnswerMessage();
-  Open();
-  EXPECT_FALSE(form_->IsLoaded());
-  EXPECT_EQ(desk_.App().Windows().size(), 0U);
-  EXPECT_EQ(Messages().size(), 1U);
-  Grant(gSession->CommonDb(), "Clerk", "acst.reconciliation", "N");
-  Open();
-  EXPECT_TRUE(form_->IsLoaded());
-  AnswerMessage();
-  Key(*form_, keys::kF9);
-  EXPECT_EQ(Messages().size(), 1U);
-  EXPECT_EQ(Events("report").size(), 0U);
 }
 
 }  // namespace

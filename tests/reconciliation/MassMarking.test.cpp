@@ -1,9 +1,7 @@
-#include "tests/support/DeskFixture.h"
+#include "tests/support/BankTest.h"
 
 namespace quillon {
 namespace {
-
-using Texts = std::vector<std::string>;
 
 constexpr int kCleared = 27;
 constexpr int kMark = 0;
@@ -11,32 +9,20 @@ constexpr int kUnmark = 1;
 
 /// The workbench on bank 101 with entries on the 5th, 8th, 12th and 30th of April and the 2nd of May; that of
 /// the 8th was cleared on the 10th.
-class MassMarking : public DeskTest {
+class MassMarking : public BankTest {
  protected:
   void SetUp() override {
-    OpenNewFirm();
-    AddAccount(101, "Sahyadri Bank", 47, "Pune");
-    AddAccount(201, "Asha Traders");
+    BankTest::SetUp();
     AddVoucher({.id = 1, .date = "2024-04-01", .amount = "10000", .book = "0B"});
     AddVoucher({.id = 2, .date = "2024-04-05", .amount = "1500"});
     AddVoucher({.id = 3, .date = "2024-04-08", .amount = "-2500.5", .cleared = "2024-04-10"});
     AddVoucher({.id = 4, .date = "2024-04-12", .amount = "1234567.89"});
     AddVoucher({.id = 5, .date = "2024-04-30", .amount = "-700", .line = 3});
     AddVoucher({.id = 6, .date = "2024-05-02", .amount = "80"});
-    statement_ = ShowStatement();
-    bench_ = ShowWorkbench(statement_);
-    Statements();
+    OpenBench();
   }
 
-  CGridPlus& Grid() { return At<CGridPlus>(bench_, "Grid"); }
-  CGridPlus& Source() { return At<CGridPlus>(statement_, "Grid"); }
-  void Choose(int filter) {
-    Do([&] { At<ComboBox>(bench_, "cmbFilter").UserChoose(filter); });
-  }
-
-  void AnswerPeriod(const std::string& first, const std::string& last) {
-    runtime_.Laid.Add({{"to", "date"}, {"date1", first}, {"date2", last}});
-  }
+  CGridPlus& Grid() { return Entries(); }
 
   /// F3 and an item of the menu that pops up; below 0 the menu is left.
   void Pick(int item) {
@@ -73,14 +59,6 @@ class MassMarking : public DeskTest {
       texts.push_back(Date::Parse(grid.TextMatrix(row, col)).Format("dd/MM"));
     return texts;
   }
-  Texts Updates() {
-    Texts updates = Statements();
-    std::erase_if(updates, [](const std::string& sql) { return !sql.starts_with("Update"); });
-    return updates;
-  }
-
-  FormPtr statement_;
-  FormPtr bench_;
 };
 
 TEST_F(MassMarking, FillsEmptyDatesOfAPeriodWithBothItsEnds) {

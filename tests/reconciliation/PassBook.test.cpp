@@ -1,36 +1,19 @@
-#include "tests/support/DeskFixture.h"
+#include "tests/support/BankTest.h"
 
 namespace quillon {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 constexpr int kPassBookButton = 4;
 
 /// The pass book of bank 101, reached by F7 from the workbench.
-class PassBook : public DeskTest {
+class PassBook : public BankTest {
  protected:
-  void SetUp() override {
-    OpenNewFirm();
-    AddAccount(101, "Sahyadri Bank", 47, "Pune");
-    AddAccount(201, "Asha Traders");
-    AddAccount(202, "Bharat Mills");
-  }
-
   void Open(const std::string& from = "01-Apr-2024", const std::string& to = "31-Mar-2025") {
-    statement_ = gApp->GetForm("Account");
-    statement_->Set("AccountCode", 101);
-    statement_->Set("Date1", from);
-    statement_->Set("Date2", to);
-    Do([&] { gApp->ShowForm(statement_); });
-    bench_ = ShowWorkbench(statement_);
-    Statements();
+    OpenBench(from, to);
     Key(*bench_, keys::kF7);
   }
 
-  CGridPlus& Entries() { return At<CGridPlus>(bench_, "Grid"); }
-  CGridPlus& View() { return At<CGridPlus>(bench_, "GridPBook"); }
-  CButtonBar& Bar() { return At<CButtonBar>(bench_, "BtnBar1"); }
+  CGridPlus& View() { return PassBookRows(); }
 
   /// Voucher, date, book, narration, withdrawal, deposit and balance of each row.
   Texts Rows() { return RowTexts(View(), {0, 8, 9, 11, 24, 25, 26}); }
@@ -39,9 +22,6 @@ class PassBook : public DeskTest {
     for (const int col : {11, 24, 25, 26}) text += (col == 11 ? "" : "|") + View().Footer.TextMatrix(0, col);
     return text;
   }
-
-  FormPtr statement_;
-  FormPtr bench_;
 };
 
 TEST_F(PassBook, ShowsWhatTheBankHasClearedByItsDatesWithSidesSwapped) {
@@ -72,16 +52,12 @@ TEST_F(PassBook, ShowsWhatTheBankHasClearedByItsDatesWithSidesSwapped) {
   EXPECT_EQ(View().Footer.Rows(), 1);
   EXPECT_EQ(View().Title(), "Pass Book");
   EXPECT_EQ(View().Cols(), At<CGridPlus>(statement_, "Grid").Cols() + 1);
-  const std::map<int, std::pair<std::string, int>> shown = {
-      {8, {"Date", 12}},           {9, {"Book", 4}},
-      {11, {"Narration", 25}},     {24, {"Dr.(Withdrawls)", 11}},
-      {25, {"Cr.(Deposits)", 11}}, {26, {"Balance", 14}}};
-  const long unit = gRuntime->TextWidth(Entries().Font, "9");
-  for (int col = 0; col < View().Cols; ++col) {
-    const auto known = shown.find(col);
-    EXPECT_EQ(View().ColWidth(col), known == shown.end() ? 0 : known->second.second * unit) << col;
-    EXPECT_EQ(View().TextMatrix(0, col), known == shown.end() ? "" : known->second.first) << col;
-  }
+  ExpectColumns(View(), {{8, {"Date", 12}},
+                         {9, {"Book", 4}},
+                         {11, {"Narration", 25}},
+                         {24, {"Dr.(Withdrawls)", 11}},
+                         {25, {"Cr.(Deposits)", 11}},
+                         {26, {"Balance", 14}}});
   for (int row = 1; row < View().Rows; ++row) {
     EXPECT_EQ(View().RowHeight(row), 350);
     EXPECT_EQ(View().TextMatrix(row, 3), "") << "no nature: the interest counts every row";

@@ -1,11 +1,9 @@
 #include "desk/services/DeskApp.h"
 #include "host/data/CDataSet.h"
-#include "tests/support/DeskFixture.h"
+#include "tests/support/BankTest.h"
 
 namespace quillon {
 namespace {
-
-using Texts = std::vector<std::string>;
 
 constexpr int kClearedOn = 4;    // of the account's own statement
 constexpr int kReturned = 28;    // of it, and of the entries
@@ -13,35 +11,26 @@ constexpr int kCleared = 27;     // of the entries
 constexpr int kViewCleared = 6;  // of the reconciliation statement
 
 /// Screens that stand on the statement of bank 101, with another bank beside it.
-class StandingScreens : public DeskTest {
+class StandingScreens : public BankTest {
  protected:
   void SetUp() override {
-    OpenNewFirm();
-    AddAccount(101, "Sahyadri Bank", 47, "Pune");
+    BankTest::SetUp();
     AddAccount(102, "Deccan Bank", 47);
-    AddAccount(201, "Asha Traders");
     AddVoucher({.id = 1, .date = "2024-04-01", .amount = "10000", .book = "0B"});
     AddVoucher({.id = 2, .date = "2024-04-05", .amount = "1500", .narration = "Cheque 777101"});
     AddVoucher({.id = 3, .date = "2024-04-08", .amount = "-2500.5", .cleared = "2024-04-10"});
     AddVoucher({.id = 4, .date = "2024-04-12", .amount = "700"});
     AddVoucher({.id = 50, .date = "2024-07-01", .amount = "50", .account = 102});
-    statement_ = ShowStatement();
-    bench_ = ShowWorkbench(statement_);
+    OpenBench();
   }
 
-  CGridPlus& Entries() { return At<CGridPlus>(bench_, "Grid"); }
-  CGridPlus& View() { return At<CGridPlus>(bench_, "GridStatement"); }
-  CGridPlus& Source() { return At<CGridPlus>(statement_, "Grid"); }
-  CheckBox& Returned() { return At<CheckBox>(bench_, "chkReturned"); }
+  CGridPlus& View() { return StatementRows(); }
   void Front(const FormPtr& form) {
     Do([&] { runtime_.BringToFront(*form); });
   }
-  void Filter(int filter) {
-    Do([&] { At<ComboBox>(bench_, "cmbFilter").UserChoose(filter); });
-  }
   void OpenView(const std::string& asOn) {
     AnswerDate(asOn);
-    Do([&] { At<CButtonBar>(bench_, "BtnBar1").UserPress("Statement"); });
+    Do([&] { Bar().UserPress("Statement"); });
     ASSERT_TRUE(View().Visible);
   }
   static int RowOf(const CGridPlus& grid, int col, const std::string& text) {
@@ -51,9 +40,6 @@ class StandingScreens : public DeskTest {
     ADD_FAILURE() << text;
     return 1;
   }
-
-  FormPtr statement_;
-  FormPtr bench_;
 };
 
 TEST_F(StandingScreens, TheStatementKeepsItsAccountAndPeriodWhileTheyAreOpen) {
@@ -73,7 +59,7 @@ TEST_F(StandingScreens, TheStatementKeepsItsAccountAndPeriodWhileTheyAreOpen) {
   EXPECT_EQ(Messages(), Texts{"Close the reconciliation of this statement first."});
 
   Front(bench_);
-  Filter(2);
+  Choose(2);
   EXPECT_EQ(RowTexts(Entries(), {0}), (Texts{"", "2", "4"})) << "still the rows of the first bank";
   OpenView("30-Apr-2024");
   EXPECT_EQ(View().Footer.TextMatrix(0, 3), "Bal. per Sahyadri Bank");
@@ -81,7 +67,7 @@ TEST_F(StandingScreens, TheStatementKeepsItsAccountAndPeriodWhileTheyAreOpen) {
   Key(*bench_, keys::kEscape);
   Do([&] { runtime_.Unload(*bench_); });
   Front(statement_);
-  runtime_.Laid.Add({{"to", "date"}, {"date1", "1/4/2024"}, {"date2", "9/4/2024"}});
+  AnswerPeriod("1/4/2024", "9/4/2024");
   Key(*statement_, keys::kF3);
   EXPECT_EQ(Source().Rows(), 4) << "with nothing standing on it the period is free again";
 }
@@ -164,17 +150,17 @@ TEST_F(StandingScreens, FillDownOverAHeadingDatesTheEntriesAlone) {
 }
 
 TEST_F(StandingScreens, ADateOfAnEntryThatTheFilterHidesIsNotLost) {
-  Filter(1);
+  Choose(1);
   ASSERT_EQ(RowTexts(Entries(), {0}), (Texts{"3"}));
   OpenView("30-Apr-2024");
   EXPECT_TRUE(EditCell(View(), RowOf(View(), 10, "4"), kViewCleared, "20"));
   EXPECT_EQ(Source().TextMatrix(4, kClearedOn), "20-Apr-2024");
   Key(*bench_, keys::kEscape);
-  Filter(0);
+  Choose(0);
   EXPECT_EQ(RowTexts(Entries(), {0, kCleared}), (Texts{"|", "2|", "3|10-Apr-2024", "4|20-Apr-2024"}));
   Do([&] { Entries().UserMoveTo(2, kCleared); });
   Do([&] { Returned().UserClick(); });
-  Filter(2);
+  Choose(2);
   EXPECT_EQ(RowTexts(Entries(), {0, kReturned}), (Texts{"|", "2|Y"}))
       << "nor is the mark of a returned cheque";
   EXPECT_EQ(Entries().Paints(2).at(0).backColor, 0x5EAEFF);
@@ -286,13 +272,13 @@ TEST_F(StandingScreens, InterestAloneShowsNoOtherView) {
   };
   Do([&] { At<CButtonBar>(statement_, "BtnBar1").UserPress("Interest"); });
   bench_ = runtime_.ActiveForm();
-  ASSERT_TRUE(At<CGridPlus>(bench_, "GridIntt").Visible);
+  ASSERT_TRUE(InterestRows().Visible);
   CButtonBar& bar = At<CButtonBar>(bench_, "BtnBar1");
   for (const char* key : {"MassMarking", "Statement", "PassBook"})
     EXPECT_FALSE(bar.Buttons(key).Enabled()) << key;
   for (const int key : {keys::kF3, keys::kF6, keys::kF7}) Key(*bench_, key);
   EXPECT_THROW(bench_->Call("UpdateGridPassBook", {}), HostError);
-  EXPECT_TRUE(At<CGridPlus>(bench_, "GridIntt").Visible);
+  EXPECT_TRUE(InterestRows().Visible);
   EXPECT_EQ(Events("date").size(), 0U);
   Key(*bench_, keys::kEscape);
   EXPECT_FALSE(bench_->IsLoaded());

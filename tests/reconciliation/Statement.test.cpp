@@ -1,45 +1,26 @@
-#include <random>
-
-#include "host/data/CDataSet.h"
-#include "host/values/Text.h"
-#include "tests/support/DeskFixture.h"
+#include "tests/support/BankTest.h"
 
 namespace quillon {
 namespace {
-
-using Texts = std::vector<std::string>;
 
 constexpr int kClearedOn = 6;
 constexpr int kCleared = 27;
 
 /// The reconciliation statement of bank 101, reached by F6 from the workbench.
-class Statement : public DeskTest {
+class Statement : public BankTest {
  protected:
-  void SetUp() override {
-    OpenNewFirm();
-    AddAccount(101, "Sahyadri Bank", 47, "Pune");
-    AddAccount(201, "Asha Traders");
-    AddAccount(202, "Bharat Mills");
-  }
-
   void Open(const std::string& asOn) {
-    statement_ = ShowStatement();
-    bench_ = ShowWorkbench(statement_);
-    Statements();
+    OpenBench();
     AnswerDate(asOn);
-    Do([&] { At<CButtonBar>(bench_, "BtnBar1").UserPress("Statement"); });
+    Do([&] { Bar().UserPress("Statement"); });
     ASSERT_TRUE(View().Visible);
   }
 
-  CGridPlus& Entries() { return At<CGridPlus>(bench_, "Grid"); }
-  CGridPlus& View() { return At<CGridPlus>(bench_, "GridStatement"); }
+  CGridPlus& View() { return StatementRows(); }
 
   /// The visible columns and the hidden sign.
   std::string Row(int row) { return RowText(View(), row, {0, 1, 3, 4, 5, 6, 7}); }
   Texts Rows() { return RowTexts(View(), {0, 1, 3, 4, 5, 6, 7}); }
-
-  FormPtr statement_;
-  FormPtr bench_;
 };
 
 TEST_F(Statement, EachEntryStandsWhereBooksAndBankDisagree) {
@@ -131,60 +112,6 @@ TEST_F(Statement, NothingOutstandingAndNothingAtAll) {
   EXPECT_TRUE(Entries().Visible) << "a cancelled date changes nothing";
 }
 
-TEST_F(Statement, AgreesWithTheBooksHoweverTheyAre) {
-  std::mt19937 random(3);
-  const auto pick = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
-  const char* dates[] = {"2024-04-28", "2024-04-29", "2024-04-30", "2024-05-01", "2024-05-02"};
-  const char* cleared[] = {"", "2024-04-29", "2024-04-30", "2024-05-01", ""};
-  const char* amounts[] = {"100.25", "-77.5", "0", "1234567.01", "-0.0001"};
-  const char* books[] = {"BNK", "C", "MEM", "0B", "JV"};
-  Db().BeginTrans();
-  for (int id = 1; id <= 150; ++id) {
-    AddVoucher({.id = id,
-                .date = dates[pick(5)],
-                .amount = amounts[pick(5)],
-                .book = books[pick(5)],
-                .cleared = cleared[pick(5)]});
-  }
-  Db().CommitTrans();
-  Open("30-Apr-2024");
-  const auto sum = [&](const std::string& where) {
-    return Db().Lookup("FADATA", "Sum(dAmt)", "dcd=101 and dBook<>'MEM'" + where).ToAmount();
-  };
-  const std::string setA =
-      " and dBook<>'0B' and dVchDate<='2024-04-30' and coalesce(dBankDate,date '2999-01-01')>'2024-04-30'";
-  const std::string setB = " and dBook<>'0B' and dVchDate>'2024-04-30' and dBankDate<='2024-04-30'";
-  const std::map<std::string, std::pair<std::string, std::string>> sections = {
-      {"Amounts Debited by us only:-", {setA + " and dAmt>0", " Cr."}},
-      {"Amounts Credited by us only:-", {setA + " and dAmt<0", " Dr."}},
-      {"Amounts Not Debited by us:-", {setB + " and dAmt>0", " Dr."}},
-      {"Amounts Not Credited by us:-", {setB + " and dAmt<0", " Cr."}}};
-  std::string heading;
-  std::map<std::string, int> lines;
-  for (int row = 2; row < View().Rows - 1; ++row) {
-    if (View().TextMatrix(row, 0).empty()) {
-      heading = View().TextMatrix(row, 3);
-      continue;
-    }
-    ++lines[heading];
-    const bool last = View().TextMatrix(row, 11) == "*hline1*";
-    const auto& [where, side] = sections.at(heading);
-    EXPECT_EQ(View().TextMatrix(row, 5), last ? gStd->FormatAmount(sum(where).Abs(), "c2") + side : "")
-        << row;
-  }
-  for (const auto& [name, section] : sections) {
-    EXPECT_EQ(lines[name],
-              Db().Lookup("FADATA", "count(*)", "dcd=101 and dBook<>'MEM'" + section.first).ToInteger())
-        << name;
-  }
-  // The other way round: what the bank has seen by the day is its balance.
-  const Amount atBank =
-      sum(" and ((dBook='0B' and dVchDate<='2024-04-30') or (dBook<>'0B' and dBankDate<='2024-04-30'))");
-  EXPECT_EQ(View().TextMatrix(View().Rows - 1, 5),
-            gStd->FormatAmount(atBank.Abs(), "C2") + (atBank < Amount() ? " Cr." : " Dr."));
-  EXPECT_EQ(View().Footer.TextMatrix(0, 5), gStd->FormatAmount(-atBank, "c2"));
-}
-
 TEST_F(Statement, ReferencesComeAndGo) {
   AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5", .narration = "Deposit"});
   AddVoucher({.id = 3, .date = "2024-04-11", .amount = "10", .other = 202});
@@ -193,7 +120,7 @@ TEST_F(Statement, ReferencesComeAndGo) {
   Key(*bench_, keys::kF4);
   EXPECT_EQ(View().TextMatrix(3, 3), "Deposit");
   EXPECT_EQ(View().TextMatrix(4, 3), "");
-  EXPECT_EQ(At<CButtonBar>(bench_, "BtnBar1").Buttons(1).Caption(), "F4: Show Ref.");
+  EXPECT_EQ(Bar().Buttons(1).Caption(), "F4: Show Ref.");
   EXPECT_TRUE(View().Visible);
   Key(*bench_, keys::kF4);
   EXPECT_EQ(View().TextMatrix(4, 3), " : Bharat Mills");
@@ -212,7 +139,7 @@ TEST_F(Statement, AnEditedDateReachesTheBooksTheEntriesAndTheStatementOfAccount)
             "Update FAData set dBankDate='2024-04-25' where VoucherID=3 and dVchSubNo=7");
   EXPECT_EQ(View().TextMatrix(5, kClearedOn), "25-Apr-2024");
   EXPECT_EQ(Entries().TextMatrix(2, kCleared), "25-Apr-2024");
-  EXPECT_EQ(At<CGridPlus>(statement_, "Grid").TextMatrix(2, 4), "25-Apr-2024");
+  EXPECT_EQ(Source().TextMatrix(2, 4), "25-Apr-2024");
   EXPECT_EQ(Row(1), "30-Apr-2024||Balance as per Our Books||1,119.50 Dr.||") << "nothing is built anew";
   EXPECT_EQ(View().TextMatrix(6, 5), "81.00 Dr.");
   // No lower bound, and no warning about the year.
@@ -269,7 +196,7 @@ TEST_F(Statement, PrintsWithItsFooterAsTheLastRow) {
   AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5", .narration = "Deposit"});
   Open("30-Apr-2024");
   const int rows = View().Rows;
-  Do([&] { At<CButtonBar>(bench_, "BtnBar1").UserPress("Print"); });
+  Do([&] { Bar().UserPress("Print"); });
   EXPECT_EQ(View().Rows(), rows);
   EXPECT_TRUE(View().Redraw());
   const std::vector<Json> reports = Events("report");
@@ -281,7 +208,7 @@ TEST_F(Statement, PrintsWithItsFooterAsTheLastRow) {
   EXPECT_EQ(static_cast<int>(reports[0]["grid"].size()), rows + 1);
   EXPECT_TRUE(std::filesystem::exists(reports[0]["file"].get<std::string>())) << Line(reports[0]["file"]);
   Key(*bench_, keys::kEscape);
-  Do([&] { At<CButtonBar>(bench_, "BtnBar1").UserPress("Preview"); });
+  Do([&] { Bar().UserPress("Preview"); });
   const std::vector<Json> entries = Events("report");
   EXPECT_EQ(entries.at(0)["title"], "Reconciliation Workings");
   EXPECT_EQ(entries.at(0)["print"], false);

@@ -3,7 +3,7 @@
 #include "desk/services/DeskApp.h"
 #include "desk/services/Users.h"
 #include "host/values/Text.h"
-#include "tests/support/DeskFixture.h"
+#include "tests/support/BankTest.h"
 
 namespace quillon {
 namespace {
@@ -12,13 +12,10 @@ constexpr int kCleared = 27;
 
 /// The workbench on the statement of bank 101: an opening balance of 10,000 and the vouchers 2 to 5 of
 /// 2024-25.
-class Workbench : public DeskTest {
+class Workbench : public BankTest {
  protected:
   void SetUp() override {
-    OpenNewFirm();
-    AddAccount(101, "Sahyadri Bank", 47, "Pune");
-    AddAccount(201, "Asha Traders");
-    AddAccount(202, "Bharat Mills");
+    BankTest::SetUp();
     AddVoucher({.id = 1, .date = "2024-04-01", .amount = "10000", .book = "0B"});
     AddVoucher({.id = 2, .date = "2024-04-05", .amount = "1500", .narration = "Cheque 101"});
     AddVoucher({.id = 3, .date = "2024-04-08", .amount = "-2500.5", .cleared = "2024-04-10", .other = 202});
@@ -28,20 +25,11 @@ class Workbench : public DeskTest {
   }
 
   void Open() {
-    statement_ = ShowStatement();
-    bench_ = ShowWorkbench(statement_);
+    OpenBench();
     ASSERT_EQ(bench_->Name(), "frmAcReconciliation");
-    Statements();
   }
 
-  CGridPlus& Grid() { return At<CGridPlus>(bench_, "Grid"); }
-  CGridPlus& Source() { return At<CGridPlus>(statement_, "Grid"); }
-  CGridPlus& View() { return At<CGridPlus>(bench_, "GridStatement"); }
-  CButtonBar& Bar() { return At<CButtonBar>(bench_, "BtnBar1"); }
-  CheckBox& Returned() { return At<CheckBox>(bench_, "chkReturned"); }
-  void Choose(int filter) {
-    Do([&] { At<ComboBox>(bench_, "cmbFilter").UserChoose(filter); });
-  }
+  CGridPlus& Grid() { return Entries(); }
 
   /// What the footer must say, counted anew over all rows.
   void ExpectTotals(const std::string& when) {
@@ -61,28 +49,22 @@ class Workbench : public DeskTest {
               gStd->FormatAmount(difference, "C2") + (credit ? " Cr." : " Dr."))
         << when;
   }
-
-  FormPtr statement_;
-  FormPtr bench_;
 };
-
-using Texts = std::vector<std::string>;
 
 TEST_F(Workbench, ADamagedDateClosesNothingAndIsSetRight) {
   Db().Execute("update FAData set dBankDate='0024-04-10' where VoucherID=3");
   Db().Execute("update FAData set dVchDate='0001-01-01' where VoucherID=4");
   Open();
-  EXPECT_EQ(
-      RowTexts(Grid(), {8, kCleared}),
-      (std::vector<std::string>{"01-Apr-2024|", "05-Apr-2024|", "08-Apr-2024|10-Apr-0024", "02-May-2024|"}));
+  EXPECT_EQ(RowTexts(Grid(), {8, kCleared}),
+            (Texts{"01-Apr-2024|", "05-Apr-2024|", "08-Apr-2024|10-Apr-0024", "02-May-2024|"}));
   AnswerDate("30-Apr-2024");
   Do([&] { Bar().UserPress("Statement"); });
-  const Texts dates = RowTexts(View(), {0});
+  const Texts dates = RowTexts(StatementRows(), {0});
   EXPECT_NE(std::find(dates.begin(), dates.end(), "01-Jan-0001"), dates.end());
   Key(*bench_, keys::kEscape);
   AnswerMessage();
   EXPECT_FALSE(EditCell(Grid(), 3, kCleared, "10/4/0024")) << "nobody types such a date";
-  EXPECT_EQ(Messages(), std::vector<std::string>{"Invalid Date"});
+  EXPECT_EQ(Messages(), Texts{"Invalid Date"});
   EXPECT_TRUE(EditCell(Grid(), 3, kCleared, "10"));
   EXPECT_EQ(Stored(3), "10-Apr-2024");
 }
@@ -103,15 +85,13 @@ TEST_F(Workbench, OpensOnTheStatementWithItsRowsTitlesAndTotals) {
   EXPECT_EQ(Grid().Rows(), 6) << "the opening balance and four entries; the memorandum is none";
   EXPECT_EQ(Grid().Cols(), Source().Cols() + 1);
   EXPECT_EQ(Grid().BackColor(), 0xC0FFFF);
-  const std::map<int, std::pair<std::string, int>> shown = {
-      {8, {"Date", 12}},    {9, {"Book", 4}},      {11, {"Narration", 25}}, {24, {"Debit", 11}},
-      {25, {"Credit", 11}}, {26, {"Balance", 14}}, {27, {"Cleared On", 12}}};
-  const long unit = gRuntime->TextWidth(Grid().Font, "9");
-  for (int col = 0; col < Grid().Cols; ++col) {
-    const auto known = shown.find(col);
-    EXPECT_EQ(Grid().ColWidth(col), known == shown.end() ? 0 : known->second.second * unit) << col;
-    EXPECT_EQ(Grid().TextMatrix(0, col), known == shown.end() ? "" : known->second.first) << col;
-  }
+  ExpectColumns(Grid(), {{8, {"Date", 12}},
+                         {9, {"Book", 4}},
+                         {11, {"Narration", 25}},
+                         {24, {"Debit", 11}},
+                         {25, {"Credit", 11}},
+                         {26, {"Balance", 14}},
+                         {27, {"Cleared On", 12}}});
   for (int row = 0; row < Grid().Rows; ++row) EXPECT_EQ(Grid().RowHeight(row), 350) << row;
   EXPECT_EQ(Grid().TextMatrix(3, kCleared), "10-Apr-2024");
   EXPECT_EQ(Grid().TextMatrix(3, 29), "3");
@@ -192,10 +172,7 @@ TEST_F(Workbench, DatesAreTakenFromAYearBeforeTheYearOn) {
   EXPECT_EQ(Stored(2), "");
   AnswerMessage();
   EXPECT_TRUE(EditCell(Grid(), 2, kCleared, "1/4/2023"));
-  const std::vector<Json> asked = Events("message");
-  ASSERT_EQ(asked.size(), 1U);
-  EXPECT_EQ(asked[0]["text"], "Be careful, Date does not fall in current F.Year");
-  EXPECT_EQ(asked[0]["icon"], "I");
+  EXPECT_EQ(Told(), Texts{"I: Be careful, Date does not fall in current F.Year"});
   EXPECT_EQ(Stored(2), "01-Apr-2023");
   EXPECT_TRUE(EditCell(Grid(), 2, kCleared, "1/4/2024"));
   EXPECT_TRUE(EditCell(Grid(), 2, kCleared, "31/3/2025"));
@@ -206,7 +183,7 @@ TEST_F(Workbench, DatesAreTakenFromAYearBeforeTheYearOn) {
   for (const char* nonsense : {"31/2", "abc", "*"}) {
     AnswerMessage();
     EXPECT_FALSE(EditCell(Grid(), 2, kCleared, nonsense)) << nonsense;
-    EXPECT_EQ(Events("message").back()["icon"], "E");
+    EXPECT_EQ(Told(), Texts{"E: Invalid Date"});
   }
   EXPECT_EQ(Stored(2), "01-Apr-2025");
   EXPECT_TRUE(EditCell(Grid(), 2, kCleared, "20/4/2024"));
@@ -407,7 +384,7 @@ TEST_F(Workbench, EscGoesBackStepByStep) {
   Open();
   AnswerDate("30-Apr-2024");
   Key(*bench_, keys::kF6);
-  ASSERT_TRUE(View().Visible);
+  ASSERT_TRUE(StatementRows().Visible);
   EXPECT_FALSE(Grid().Visible);
   EXPECT_FALSE(At<ComboBox>(bench_, "cmbFilter").Visible);
   EXPECT_EQ(Bar().Buttons(1).Key(), "ShowRef");
@@ -416,20 +393,20 @@ TEST_F(Workbench, EscGoesBackStepByStep) {
   EXPECT_FALSE(Bar().Buttons(3).Enabled());
   Key(*bench_, keys::kF6);
   EXPECT_EQ(Events("date").size(), 1U) << "a disabled button does not answer its key";
-  Do([&] { View().UserMoveTo(3, 6); });
+  Do([&] { StatementRows().UserMoveTo(3, 6); });
   Key(*bench_, keys::kEnter);
-  ASSERT_TRUE(View().EditMode());
+  ASSERT_TRUE(StatementRows().EditMode());
   Key(*bench_, keys::kEscape);
-  EXPECT_FALSE(View().EditMode());
-  EXPECT_TRUE(View().Visible);
-  EXPECT_TRUE(View().HasFocus());
+  EXPECT_FALSE(StatementRows().EditMode());
+  EXPECT_TRUE(StatementRows().Visible);
+  EXPECT_TRUE(StatementRows().HasFocus());
   Key(*bench_, keys::kEscape);
   EXPECT_TRUE(Grid().Visible);
   EXPECT_TRUE(Grid().HasFocus());
   EXPECT_TRUE(Bar().Buttons(3).Enabled());
   EXPECT_EQ(Bar().Buttons(1).Key(), "");
   Key(*bench_, keys::kF4);
-  EXPECT_FALSE(View().Visible) << "F4 has no work among the entries";
+  EXPECT_FALSE(StatementRows().Visible) << "F4 has no work among the entries";
   Key(*bench_, keys::kEscape);
   EXPECT_FALSE(bench_->IsLoaded());
   EXPECT_EQ(runtime_.ActiveForm(), statement_);

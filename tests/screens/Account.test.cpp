@@ -4,8 +4,6 @@
 namespace quillon {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 /// The statement of account and the picker that it asks for an account.
 class Account : public DeskTest {
  protected:
@@ -46,7 +44,7 @@ TEST_F(Account, RowsBalanceAndFooter) {
 
 TEST_F(Account, APeriodBeginsWithAllThatLiesBeforeIt) {
   const FormPtr form = ShowStatement();
-  runtime_.Laid.Add({{"to", "date"}, {"date1", "1/5/2024"}, {"date2", "31/5/2024"}});
+  AnswerPeriod("1/5/2024", "31/5/2024");
   Key(*form, keys::kF3);
   EXPECT_EQ(Rows(form), (Texts{"|0B|||1|01-May-2024|0B|Opening Balance|500.25||500.25 Dr.|",
                                "3|BNK||1|2|03-May-2024|BNK|Out||200.00|300.25 Dr.|Y"}));
@@ -142,14 +140,7 @@ TEST_F(Account, WithoutAnAccountItAsksForOne) {
 }
 
 TEST_F(Account, EnterInThePickerTakesOnlyWhatWasTypedOrMovedTo) {
-  std::vector<std::function<void()>> acts;
   const auto picker = [&] { return runtime_.ActiveForm(); };
-  std::size_t next = 0;
-  runtime_.NextCommand = [&] {
-    if (next == acts.size()) return false;
-    Do(acts[next++]);
-    return true;
-  };
   const auto type = [&](const std::string& text) {
     At<CTextPlus>(picker(), "txpAccount").UserType("");
     TypeKeys(*picker(), text);
@@ -160,21 +151,21 @@ TEST_F(Account, EnterInThePickerTakesOnlyWhatWasTypedOrMovedTo) {
     EXPECT_EQ(Messages(), Texts{told});
     EXPECT_EQ(picker()->Name(), "frmSelectAc");
   };
-  acts = {[&] { enter(keys::kEnter, "Type the beginning of the account's head, or move to its line."); },
-          [&] {
-            type("asha");
-            type("zzz");
-            enter(keys::kEnter, "No account begins with \"zzz\".");
-            enter(keys::kF7, "No account begins with \"zzz\".");
-          },
-          [&] {
-            Key(*picker(), keys::kDown);
-            Key(*picker(), keys::kEnter);
-          }};
-  const FormPtr form = ShowStatement(0);
-  EXPECT_EQ(next, acts.size());
-  EXPECT_EQ(form->Get("AccountCode").ToInteger(), 101) << "the line below the one that was found last";
-  runtime_.NextCommand = nullptr;
+  const Acts acts = {
+      [&] { enter(keys::kEnter, "Type the beginning of the account's head, or move to its line."); },
+      [&] {
+        type("asha");
+        type("zzz");
+        enter(keys::kEnter, "No account begins with \"zzz\".");
+        enter(keys::kF7, "No account begins with \"zzz\".");
+      },
+      [&] {
+        Key(*picker(), keys::kDown);
+        Key(*picker(), keys::kEnter);
+      }};
+  During([&] { ShowStatement(0); }, acts);
+  EXPECT_EQ(runtime_.ActiveForm()->Get("AccountCode").ToInteger(), 101)
+      << "the line below the one that was found last";
 }
 
 TEST_F(Account, AnAccountThatThereIsNotIsToldInPlainWords) {

@@ -3,8 +3,6 @@
 namespace quillon {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 /// The voucher behind a line of a statement.
 class Voucher : public DeskTest {
  protected:

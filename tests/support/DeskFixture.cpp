@@ -122,9 +122,23 @@ void DeskTest::Refuses(const std::function<void()>& act, const std::string& why)
   }
 }
 
-FormPtr DeskTest::ShowStatement(int account) {
+void DeskTest::During(const std::function<void()>& start, const Acts& acts) {
+  std::size_t next = 0;
+  runtime_.NextCommand = [&] {
+    if (next == acts.size()) return false;
+    Do(acts[next++]);
+    return true;
+  };
+  Do(start);
+  EXPECT_EQ(next, acts.size()) << "nobody waited for the rest";
+  runtime_.NextCommand = nullptr;
+}
+
+FormPtr DeskTest::ShowStatement(int account, const std::string& from, const std::string& to) {
   const FormPtr statement = gApp->GetForm("Account");
   statement->Set("AccountCode", account);
+  if (!from.empty()) statement->Set("Date1", from);
+  if (!to.empty()) statement->Set("Date2", to);
   Do([&] { gApp->ShowForm(statement); });
   return statement;
 }
@@ -148,6 +162,19 @@ std::vector<Json> DeskTest::Events(const std::string& kind) {
   }
   std::erase_if(events_, [&](const Json& event) { return event.value("event", "") == kind; });
   return taken;
+}
+
+DeskTest::Texts DeskTest::Updates() {
+  Texts updates = Statements();
+  std::erase_if(updates, [](const std::string& sql) { return text::Upper(sql.substr(0, 6)) != "UPDATE"; });
+  return updates;
+}
+
+DeskTest::Texts DeskTest::Told() {
+  Texts told;
+  for (const Json& event : Events("message"))
+    told.push_back(event.at("icon").get<std::string>() + ": " + event.at("text").get<std::string>());
+  return told;
 }
 
 std::vector<std::string> DeskTest::Take(const std::string& kind, const char* member) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -18,6 +19,9 @@ namespace quillon {
 /// test.
 class DeskTest : public testing::Test {
  protected:
+  using Texts = std::vector<std::string>;
+  using Acts = std::vector<std::function<void()>>;
+
   DeskTest();
   ~DeskTest() override;
 
@@ -54,16 +58,29 @@ class DeskTest : public testing::Test {
   void TypeKeys(Form& form, const std::string& text);
   void Refuses(const std::function<void()>& act, const std::string& why);
 
-  FormPtr ShowStatement(int account = 101);
+  /// Starts something that waits for a person; the acts are what he does in the windows that come up.
+  void During(const std::function<void()>& start, const Acts& acts);
+
+  FormPtr ShowStatement(int account = 101, const std::string& from = "", const std::string& to = "");
   FormPtr ShowWorkbench(const FormPtr& statement);
 
   void AnswerMessage(int button = 1) { runtime_.Laid.Add({{"to", "message"}, {"button", button}}); }
   void AnswerDate(const std::string& date) { runtime_.Laid.Add({{"to", "date"}, {"date1", date}}); }
+  void AnswerPeriod(const std::string& first, const std::string& last) {
+    runtime_.Laid.Add({{"to", "date"}, {"date1", first}, {"date2", last}});
+  }
 
   /// The texts of the messages, the errors, the statements sent since the last time they were asked for.
-  std::vector<std::string> Messages() { return Take("message", "text"); }
-  std::vector<std::string> Errors() { return Take("error", "text"); }
-  std::vector<std::string> Statements() { return Take("sql", "text"); }
+  Texts Messages() { return Take("message", "text"); }
+  Texts Errors() { return Take("error", "text"); }
+  Texts Statements() { return Take("sql", "text"); }
+
+  /// Of the statements those that change rows.
+  Texts Updates();
+
+  /// The messages with their icons: "W: Invalid date".
+  Texts Told();
+
   std::vector<Json> Events(const std::string& kind);
 
   TempFolder folder_;
