@@ -68,18 +68,6 @@ frmChqRetReport::frmChqRetReport() : ListScreen(kScreen, Origin::Module), lblTit
   Routine("FillGrid", &frmChqRetReport::FillGrid);
 }
 
-void frmChqRetReport::BuildBar() {
-  BtnBar1.AddButtons(
-      {"", "", "", "Preview,F8: Preview,Preview", "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
-}
-
-void frmChqRetReport::LoadScreen() {
-  MStrip1.Width = Width / 2;
-  lblTitle2.Move(Width / 2, MStrip1.Top, Width - Width / 2, MStrip1.Height);
-  PlaceGrid(ContentTop());
-  Grid.Visible = false;
-}
-
 void frmChqRetReport::FirstShow() {
   lblTitle2.Caption = PeriodText();
   Grid.Visible = true;

@@ -16,6 +16,7 @@
 #include "host/services/AccountColumns.h"
 #include "host/services/BalanceText.h"
 #include "host/services/host_services.h"
+#include "host/values/FlagHold.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -36,18 +37,6 @@ constexpr ScreenSpec kScreen = {
 };
 
 namespace col = account_col;
-
-/// For the length of a block: the flag is set.
-class FlagHold {
- public:
-  explicit FlagHold(bool& flag) : flag_(flag) { flag_ = true; }
-  FlagHold(const FlagHold&) = delete;
-  FlagHold& operator=(const FlagHold&) = delete;
-  ~FlagHold() { flag_ = false; }
-
- private:
-  bool& flag_;
-};
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/forms/Form.h"
+#include "host/values/FlagHold.h"
 
 namespace quillon {
 
@@ -83,15 +84,13 @@ bool EditableGrid::EndEdit() {
   const std::string typed = EditBox.Text;
   std::string text = typed;
   bool cancel = false;
-  validating_ = true;
   try {
+    const FlagHold validating(validating_);
     ValidateCell.Raise(editRow_, editCol_, text, cancel);
   } catch (...) {
-    validating_ = false;
     if (!editing_) Close();
     throw;
   }
-  validating_ = false;
   if (editing_ && cancel) return false;
   // A handler that ended the edit itself has dealt with the text; the leaving is still told.
   if (!editing_) {

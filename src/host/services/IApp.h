@@ -11,24 +11,9 @@
 #include "host/services/CPartyInfo.h"
 #include "host/services/HostApp.h"
 #include "host/services/IModule.h"
+#include "host/services/IPosting.h"
 
 namespace quillon {
-
-/// Posts lines of vouchers.
-class IPosting {
- public:
-  IPosting() = default;
-  IPosting(const IPosting&) = delete;
-  IPosting& operator=(const IPosting&) = delete;
-  virtual ~IPosting() = default;
-
-  /// Posts one line of a voucher, `entries` being an open set on the FAData of the year. The first line of a
-  /// voucher fills `voucher`, and the next ones read it. The voucher is stored, whole, when its lines come to
-  /// zero. Throws HostError and DbError.
-  virtual void PostBalanceEntry(CDataSet& entries, std::string& voucher, const std::string& book,
-                                const std::string& type, int line, Date date, std::int64_t account,
-                                const std::string& narration, Amount amount, bool first, bool second) = 0;
-};
 
 /// Application services.
 class IApp : public IPosting {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/services/IFiles.h"
 #include "host/values/Amount.h"
 #include "host/values/Date.h"
 #include "host/values/Variant.h"
@@ -16,20 +17,6 @@ class GridModel;
 
 /// What Modal dialogs ask with: the style argument of a message about a field's value.
 inline constexpr int kFieldMessage = 4;
-
-/// The file service behind IStd::Files. Failures throw HostError.
-class IFiles {
- public:
-  IFiles() = default;
-  IFiles(const IFiles&) = delete;
-  IFiles& operator=(const IFiles&) = delete;
-  virtual ~IFiles() = default;
-
-  virtual std::string Combine(const std::string& folder, const std::string& name) = 0;
-  virtual bool FolderExists(const std::string& path) = 0;
-  virtual void CreateFolder(const std::string& path) = 0;
-  virtual void CopyFile(const std::string& from, const std::string& to, int reserved) = 0;
-};
 
 /// Standard routines.
 class IStd {
