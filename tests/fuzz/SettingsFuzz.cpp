@@ -94,17 +94,20 @@ TEST(Fuzz, XmlTable) {
        "\xFF",
        "राम"});
   CXmlTable table;
-  Fuzz(layouts, [&](const std::string& input) {
-    std::ofstream(file, std::ios::binary) << input;
-    const bool loaded = table.Load(file);
-    EXPECT_EQ(table.RowCount(), 0U) << "the rows of the file before are left";
-    table.SelectTable("Chq");
-    EXPECT_TRUE(loaded || table.RowCount() == 0);
-    for (std::size_t row = 0; row <= table.RowCount(); ++row) {
-      const std::string value = table.Field(row, "ObjID");
-      EXPECT_EQ(text::Repaired(value), value) << "what is read is text";
-    }
-  });
+  Fuzz(
+      layouts,
+      [&](const std::string& input) {
+        std::ofstream(file, std::ios::binary) << input;
+        const bool loaded = table.Load(file);
+        EXPECT_EQ(table.RowCount(), 0U) << "the rows of the file before are left";
+        table.SelectTable("Chq");
+        EXPECT_TRUE(loaded || table.RowCount() == 0);
+        for (std::size_t row = 0; row <= table.RowCount(); ++row) {
+          const std::string value = table.Field(row, "ObjID");
+          EXPECT_EQ(text::Repaired(value), value) << "what is read is text";
+        }
+      },
+      1000);
   std::filesystem::remove_all(folder);
 }
 
