@@ -1,3 +1,4 @@
+#include "host/forms/CPartyFilter.h"
 #include "host/forms/ScreenForm.h"
 #include "host/services/IStd.h"
 #include "tests/support/DeskFixture.h"
@@ -265,6 +266,14 @@ TEST_F(Fields, HelpIsTheFormsOwnAffair) {
   for (int i = 0; i < CStdButtons::kCount; ++i) screen->QuillonStdButtons1.Buttons(i).Click();
   EXPECT_EQ(contexts(), std::vector<int>{}) << "Cancel holds for every button";
   EXPECT_TRUE(screen->IsLoaded());
+}
+
+TEST_F(Fields, PartiesAreFoundUnderTheNameThatTheQueryGivesTheirTable) {
+  CPartyFilter filter;
+  filter.SetAlias("party");
+  runtime_.Laid.Add({{"to", "parties"}, {"cancel", true}});
+  EXPECT_FALSE(filter.Show());
+  EXPECT_EQ(Events("parties").at(0).at("alias"), "party");
 }
 
 TEST_F(Fields, TheDriverHearsWhatStandsBehindDetails) {

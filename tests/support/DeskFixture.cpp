@@ -125,7 +125,10 @@ void DeskTest::Refuses(const std::function<void()>& act, const std::string& why)
 void DeskTest::During(const std::function<void()>& start, const Acts& acts) {
   std::size_t next = 0;
   runtime_.NextCommand = [&] {
-    if (next == acts.size()) return false;
+    if (next == acts.size()) {
+      ADD_FAILURE() << "something still waits for a person";
+      return false;
+    }
     Do(acts[next++]);
     return true;
   };
