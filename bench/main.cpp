@@ -24,7 +24,7 @@ class Grounds {
   Grounds(const TempFolder& folder, RatioTable& table) : folder_(folder), table_(table) {}
 
   std::filesystem::path Firm(int entries) {
-    const std::filesystem::path folder = folder_.Path() / std::to_string(entries);
+    std::filesystem::path folder = folder_.Path() / std::to_string(entries);
     if (!std::filesystem::exists(folder)) MakeBenchFirm(folder, entries);
     return folder;
   }

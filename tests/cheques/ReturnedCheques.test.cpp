@@ -40,7 +40,7 @@ class ReturnedCheques : public DeskTest {
       return true;
     };
     Key(*statement, keys::kF7);
-    const FormPtr report = runtime_.ActiveForm();
+    FormPtr report = runtime_.ActiveForm();
     EXPECT_EQ(report->Name(), "frmChqRetReport");
     return report;
   }

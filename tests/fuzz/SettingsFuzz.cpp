@@ -66,7 +66,8 @@ TEST(Fuzz, XmlTable) {
   const Mutator layouts(
       {"<?xml version=\"1.0\" ?>\n<DataRoot>\n<Chq>\n"
        "<Data>\n<ObjID>Pay &amp; to</ObjID>\n<PosX>1</PosX>\n</Data>\n<Data/>\n</Chq>\n</DataRoot>\n",
-       "<R><Chq><Data><ObjID><![CDATA[a]]>b</ObjID></Data></Chq></R>", "\xFF\xFE<\0R\0/\0>\0"},
+       "<R><Chq><Data><ObjID><![CDATA[a]]>b</ObjID></Data></Chq></R>",
+       std::string("\xFF\xFE<\0R\0/\0>\0", 10)},
       {"<",
        ">",
        "</",

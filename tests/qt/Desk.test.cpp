@@ -23,7 +23,7 @@ namespace {
 QString AnswerMessage(Qt::Key key) {
   auto* const box = dynamic_cast<MessageDialog*>(QApplication::activeModalWidget());
   if (box == nullptr) return QStringLiteral("no message");
-  const QString text = box->accessibleDescription();
+  QString text = box->accessibleDescription();
   QTest::keyClick(box->focusWidget(), key);
   return text;
 }

@@ -60,6 +60,7 @@ void FreshProcess::Begin(const std::vector<std::string>& words, const Handed& ha
   all.insert(all.end(), words.begin(), words.end());
   all.insert(all.end(), {"--resume", std::to_string(file)});
   std::vector<char*> pointers;
+  pointers.reserve(all.size() + 1);
   for (std::string& word : all) pointers.push_back(word.data());
   pointers.push_back(nullptr);
   FirebirdEngine::ForgetLocks();

@@ -161,9 +161,8 @@ void Firm::RefreshStatistics(FirebirdLink& year) const {
     note = FirmLock::Folder().Path() / (year.Label() + ".size");
     std::ifstream(note) >> noted;
   }
-  if (noted > 0 && size > noted + noted / 4) {
-    Schema::RefreshStatistics(year);
-  } else if (Schema::LacksStatistics(year)) {
+  const bool hasGrown = noted > 0 && size > noted + noted / 4;
+  if (hasGrown || Schema::LacksStatistics(year)) {
     Schema::RefreshStatistics(year);
   } else if (noted > 0) {
     return;

@@ -17,7 +17,7 @@ OpeningNote::~OpeningNote() {
 
 std::string OpeningNote::Take(const fs::path& folder) {
   std::ifstream in(folder / "opening");
-  const std::string database(std::istreambuf_iterator<char>(in), {});
+  std::string database(std::istreambuf_iterator<char>(in), {});
   std::error_code ignored;
   fs::remove(folder / "opening", ignored);
   return database;

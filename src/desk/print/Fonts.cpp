@@ -69,7 +69,7 @@ bool LoadSubstitutes() {
 
 QString FindFamily(const std::string& name, bool bold) {
   static const bool ownTahoma = LoadSubstitutes();
-  const QString wanted = QString::fromStdString(name);
+  QString wanted = QString::fromStdString(name);
   // The free Tahoma has bold widths on regular outlines; this one is as wide and really bold.
   if (bold && !ownTahoma && wanted.compare(QLatin1String("Tahoma"), Qt::CaseInsensitive) == 0)
     return QStringLiteral("DejaVu Sans Condensed");

@@ -16,6 +16,7 @@ class PropertyBase {
  public:
   PropertyBase(Control& owner, const char* name);
   PropertyBase(const PropertyBase&) = delete;
+  PropertyBase& operator=(const PropertyBase&) = delete;
   virtual ~PropertyBase() = default;
 
   const char* Name() const { return name_; }
@@ -23,7 +24,6 @@ class PropertyBase {
   virtual void Assign(const Variant& value) = 0;
 
  protected:
-  PropertyBase& operator=(const PropertyBase&) = default;
   void Notify();
 
  private:

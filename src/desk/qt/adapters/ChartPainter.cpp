@@ -102,8 +102,9 @@ void ChartPainter::PaintLegend() {
   const int shown = std::min(chart_.SeriesCount(), columns * perColumn);
   const double left = field_.Place.right() - columns * width;
   for (int series = 1; series <= shown; ++series) {
-    const QRectF place(left + (series - 1) / perColumn * width,
-                       field_.Place.top() + (series - 1) % perColumn * line, width, line);
+    const int column = (series - 1) / perColumn;
+    const int row = (series - 1) % perColumn;
+    const QRectF place(left + column * width, field_.Place.top() + row * line, width, line);
     if (series == shown && shown < chart_.SeriesCount()) {
       painter_.setPen(Theme::Muted());
       painter_.drawText(place, Qt::AlignVCenter,

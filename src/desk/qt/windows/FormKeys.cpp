@@ -64,8 +64,8 @@ void FormKeys::Listen() {
   listening = true;
 }
 
-FormKey FormKeys::Of(const QKeyEvent& key) {
-  FormKey pressed;
+PressedKey FormKeys::Of(const QKeyEvent& key) {
+  PressedKey pressed;
   pressed.Shift = ShiftOf(key);
   if (const auto named = kNamed.find(key.key()); named != kNamed.end()) {
     pressed.KeyCode = named->second;

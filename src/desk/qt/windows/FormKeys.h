@@ -7,7 +7,7 @@ class QKeyEvent;
 namespace quillon {
 
 /// A key as the forms see it.
-struct FormKey {
+struct PressedKey {
   int KeyCode = 0;
   int Shift = 0;
   int Character = 0;  ///< 0 when it makes none
@@ -21,7 +21,7 @@ class FormKeys : public QObject {
   static void Listen();
 
   /// Both members 0 for a key that the forms do not know.
-  static FormKey Of(const QKeyEvent& key);
+  static PressedKey Of(const QKeyEvent& key);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -119,7 +119,7 @@ bool FormView::TakeKey(const QKeyEvent& key) {
     Acts::Run([&] { form->UserPaste(gRuntime->ClipboardText()); });
     return true;
   }
-  const FormKey pressed = FormKeys::Of(key);
+  const PressedKey pressed = FormKeys::Of(key);
   if (pressed.KeyCode == 0 && pressed.Character == 0) return false;
   const FormPtr form = form_;
   Acts::Run([&] { form->UserKey(pressed.KeyCode, pressed.Shift, pressed.Character); });
