@@ -1,7 +1,7 @@
 # Installs what is missing of the Debian packages that the project is built and run with. Sourced by ./run and ./test.
 
 quillon_packages=(
-  g++ cmake ninja-build ccache pkg-config git python3 clang-format
+  g++ cmake ninja-build ccache pkg-config git python3 clang-format clang-tidy
   qt6-base-dev qt6-svg-dev libgl-dev libicu-dev libpugixml-dev nlohmann-json3-dev
   firebird-dev firebird3.0-server firebird3.0-server-core firebird3.0-utils
   libgtest-dev libbenchmark-dev poppler-utils binutils xvfb xdotool xclip
