@@ -13,7 +13,7 @@ class PrintDialog : public DeskTest {
   std::shared_ptr<PrintSetup> Ask(const std::string& name, Json answer) {
     answer["to"] = "printdialog";
     runtime_.Laid.Add(answer);
-    const std::shared_ptr<PrintSetup> setup = gReports->Print("Print");
+    std::shared_ptr<PrintSetup> setup = gReports->Print("Print");
     setup->PrinterNameSetting = name;
     gStd->ShowDialog(setup, nullptr);
     return setup;

@@ -23,7 +23,7 @@ class Voucher : public DeskTest {
   FormPtr OpenFrom(const FormPtr& statement) {
     Do([&] { At<CGridPlus>(statement, "Grid").UserMoveTo(2, 9); });
     Key(*statement, keys::kEnter);
-    const FormPtr voucher = runtime_.ActiveForm();
+    FormPtr voucher = runtime_.ActiveForm();
     EXPECT_EQ(voucher->Name(), "frmVoucher");
     return voucher;
   }
