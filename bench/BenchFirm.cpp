@@ -70,7 +70,7 @@ void MakeBenchFirm(const std::filesystem::path& folder, int entries) {
   FirmDetails details;
   details.FirmName = "Bench Trading Co.";
   CreateFirm(folder, details, {kYear});
-  const std::unique_ptr<Firm> firm = Firm::Open(folder);
+  const std::unique_ptr<Firm> firm = Firm::Open(folder, {.WaitsForDisk = false});
   const FirmYear& year = firm->OpenYear(kYear);
   BankBook book(year);
   year.Db->BeginTrans();

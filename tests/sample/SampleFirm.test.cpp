@@ -55,6 +55,20 @@ const std::string kBalanceAccounts = "(dcd<200 and dcd<>20 or dcd>1000)";
 
 std::string Before(Date start) { return "dVchDate<'" + start.Format("yyyy-MM-dd") + "'"; }
 
+TEST(SampleFirm, IsOnTheDiskWhenItIsMade) {
+  const TempFolder folder;
+  const std::filesystem::path place = folder.Path() / "firm";
+  MakeSampleFirm(place, {.Years = {2024}, .Vouchers = 40});
+  const auto forced = [&place](bool waits) {
+    const auto firm = Firm::Open(place, {.WaitsForDisk = waits});
+    return firm->OpenYear(2024).Db->Lookup("mon$database", "mon$forced_writes", "").ToInteger() +
+           firm->Common()->Lookup("mon$database", "mon$forced_writes", "").ToInteger();
+  };
+  EXPECT_EQ(forced(true), 2);
+  EXPECT_EQ(forced(false), 0) << "as while it is made";
+  EXPECT_EQ(forced(true), 2) << "whoever opens it after a making that was killed waits for the disk again";
+}
+
 TEST(SampleFirm, TheSameSeedGivesTheSameRows) {
   TempFolder folder;
   SampleOptions options;

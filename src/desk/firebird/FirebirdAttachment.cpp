@@ -1,7 +1,9 @@
 #include "desk/firebird/FirebirdAttachment.h"
 
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
+#include <optional>
 #include <unistd.h>
 
 #include "desk/firebird/EngineNames.h"
@@ -52,8 +54,27 @@ class OwnSignals {
   struct sigaction own_[kCount] = {};
 };
 
+/// Whether the engine waits for the disk with each page that it writes to this file.
+bool IsForced(Firebird::IAttachment& attachment) {
+  constexpr unsigned char kAsked[] = {isc_info_forced_writes, isc_info_end};
+  unsigned char answer[16] = {};
+  Firebird::CheckStatusWrapper status = SilentStatus();
+  attachment.getInfo(&status, sizeof kAsked, kAsked, sizeof answer, answer);
+  constexpr std::size_t kValue = 3;  // behind the item and the two bytes of its length
+  return status.hasData() || answer[0] != isc_info_forced_writes || answer[kValue] != 0;
+}
+
+/// What the system still holds of the file.
+void Flush(const std::string& path) {
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return;
+  fsync(file);
+  close(file);
+}
+
 template <class Open>
-std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool create, Open open) {
+std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool create,
+                                           std::optional<bool> force, Open open) {
   const std::string none;
   FirebirdStatus status(none);
   Firebird::IUtil* util = FirebirdEngine::Master().getUtilInterface();
@@ -69,6 +90,7 @@ std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool 
     dpb->insertString(&status, isc_dpb_password, address.Password.c_str());
     dpb->insertInt(&status, isc_dpb_connect_timeout, kConnectSeconds);
   }
+  if (force) dpb->insertInt(&status, isc_dpb_force_write, *force ? 1 : 0);
   if (create) {
     dpb->insertString(&status, isc_dpb_set_db_charset, "UTF8");
     dpb->insertInt(&status, isc_dpb_page_size, kPageSize);
@@ -86,26 +108,39 @@ std::shared_ptr<FirebirdAttachment> Opened(const FirebirdAddress& address, bool 
 }  // namespace
 
 std::shared_ptr<FirebirdAttachment> FirebirdAttachment::Attach(const FirebirdAddress& address) {
-  return Opened(address, false, [&](auto& provider, auto& status, unsigned length, const unsigned char* dpb) {
-    const std::string name = address.IsServer() ? address.Database : EngineNames::Of(address.Database);
-    return provider.attachDatabase(&status, name.c_str(), length, dpb);
-  });
+  const auto attach = [&address](std::optional<bool> force) {
+    return Opened(
+        address, false, force, [&](auto& provider, auto& status, unsigned length, const unsigned char* dpb) {
+          const std::string name = address.IsServer() ? address.Database : EngineNames::Of(address.Database);
+          return provider.attachDatabase(&status, name.c_str(), length, dpb);
+        });
+  };
+  if (address.IsServer()) return attach({});
+  if (!address.WaitsForDisk) return attach(false);
+  std::shared_ptr<FirebirdAttachment> attachment = attach({});
+  if (IsForced(*attachment->Handle())) return attachment;
+  attachment.reset();
+  attachment = attach(true);
+  Flush(address.Database);
+  return attachment;
 }
 
 std::shared_ptr<FirebirdAttachment> FirebirdAttachment::Create(const FirebirdAddress& address) {
   if (!address.IsServer() && !EngineNames::IsPlain(address.Database)) {
     // Under a short name the engine opens what there is, and no more.
     const fs::path made = FirebirdEngine::Names() / (std::to_string(getpid()) + ".fdb");
-    Create({made.string(), address.User, address.Password}).reset();
+    Create({made.string(), address.User, address.Password, address.WaitsForDisk}).reset();
     std::error_code failed;
     fs::copy_file(made, address.Database, failed);
     fs::remove(made);
     if (failed) throw HostError("The file " + address.Database + " cannot be made: " + failed.message());
     return Attach(address);
   }
-  return Opened(address, true, [&](auto& provider, auto& status, unsigned length, const unsigned char* dpb) {
-    return provider.createDatabase(&status, address.Database.c_str(), length, dpb);
-  });
+  const std::optional<bool> force = address.WaitsForDisk ? std::optional<bool>() : false;
+  return Opened(address, true, force,
+                [&](auto& provider, auto& status, unsigned length, const unsigned char* dpb) {
+                  return provider.createDatabase(&status, address.Database.c_str(), length, dpb);
+                });
 }
 
 void FirebirdAttachment::Delete(const FirebirdAddress& address) noexcept {

@@ -16,6 +16,10 @@ struct FirebirdAddress {
   std::string User;
   std::string Password;
 
+  /// False while nobody could miss what is lost: a firm is being made. What is written then reaches the disk
+  /// when the file is next opened by one who waits.
+  bool WaitsForDisk = true;
+
   bool IsServer() const { return Database.find("://") != std::string::npos; }
 };
 

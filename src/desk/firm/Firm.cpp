@@ -70,11 +70,12 @@ class Making {
   }
 
   template <class Fill>
-  void Add(const FirebirdAddress& address, Fill fill) {
+  void Add(FirebirdAddress address, Fill fill) {
     if (!address.IsServer() && fs::exists(address.Database)) {
       throw HostError("There is a file " + address.Database + " already");
     }
     made_.push_back(address);
+    address.WaitsForDisk = false;
     FirebirdAttachment::Create(address);
     fill(*FirebirdLink::Open(address, ""));
   }
@@ -94,6 +95,8 @@ std::unique_ptr<Firm> Firm::Open(const fs::path& folder, const FirmOptions& opti
 Firm::Firm(const fs::path& folder, const FirmOptions& options)
     : folder_(fs::absolute(folder)), steps_(*options.Steps), file_(FirmFile::Read(folder)) {
   TellEngine(file_);
+  file_.Common.WaitsForDisk = options.WaitsForDisk;
+  for (auto& [start, year] : file_.Years) year.Database.WaitsForDisk = options.WaitsForDisk;
   if (!file_.Common.IsServer()) Lock(options.TakeOver);
   common_ = OpenDatabase(file_.Common, "common");
   if (Schema::Check(*common_, "The database " + file_.Common.Database, VersionAfter(steps_)) <

@@ -44,8 +44,9 @@ struct FirmLink {
 
 /// How a firm is opened.
 struct FirmOptions {
-  std::string TakeOver;  ///< the machine whose lock is void by the user's word
+  std::string TakeOver = {};  ///< the machine whose lock is void by the user's word
   const std::vector<SchemaStep>* Steps = &AllSchemaSteps();  ///< what brings an older firm up
+  bool WaitsForDisk = true;                                  ///< false while the firm is being made
 };
 
 /// A firm: a folder with firm.json, a common database and one for each financial year.

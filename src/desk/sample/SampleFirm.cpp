@@ -81,7 +81,7 @@ void MakeSampleFirm(const std::filesystem::path& folder, const SampleOptions& op
   if (years.empty()) throw HostError("A firm needs at least one year");
   CreateFirm(folder, kFirm, years);
   if (options.IsEmpty) return;
-  const auto firm = Firm::Open(folder);
+  auto firm = Firm::Open(folder, {.WaitsForDisk = false});
   FillCommon(*firm->Common());
   SampleRandom random(options.Seed);
   const SampleMasters masters(random);
@@ -92,6 +92,10 @@ void MakeSampleFirm(const std::filesystem::path& folder, const SampleOptions& op
         .Write(carry, options, start == years.back());
     Schema::RefreshStatistics(*year.Db);
   }
+  // Opened once more it reaches the disk.
+  firm.reset();
+  firm = Firm::Open(folder);
+  for (const int start : years) firm->OpenYear(start);
 }
 
 }  // namespace quillon
