@@ -1,11 +1,14 @@
 #include "cheques/ChequesForms.h"
 
+#include "cheques/frmChqPrint.h"
 #include "cheques/frmChqRetReport.h"
 
 namespace quillon {
 
 std::span<const FormKey> ChequesForms() {
   static constexpr FormKey kForms[] = {
+      // A voucher's cheque, its layout and its printing.
+      {"chqprint", MakeForm<frmChqPrint>},
       // Returned cheques of a bank account and a period.
       {"chqretreport", MakeForm<frmChqRetReport>},
   };
