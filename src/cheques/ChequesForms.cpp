@@ -1,5 +1,6 @@
 #include "cheques/ChequesForms.h"
 
+#include "cheques/frmChqLeaves.h"
 #include "cheques/frmChqPrint.h"
 #include "cheques/frmChqRetReport.h"
 
@@ -9,6 +10,8 @@ std::span<const FormKey> ChequesForms() {
   static constexpr FormKey kForms[] = {
       // A voucher's cheque, its layout and its printing.
       {"chqprint", MakeForm<frmChqPrint>},
+      // The register of a bank's cheque leaves.
+      {"chqleaves", MakeForm<frmChqLeaves>},
       // Returned cheques of a bank account and a period.
       {"chqretreport", MakeForm<frmChqRetReport>},
   };
