@@ -28,7 +28,8 @@ void DeskMenu::Pick(const std::string& key) {
     gApp->MainWindow().MainMenuClick.Raise(event, cancel);
     return;
   }
-  const FormPtr form = module_.GetForm(line->FormKey);
+  const std::string own = line->DeskForm;
+  const FormPtr form = own.empty() ? module_.GetForm(line->FormKey) : gApp->GetForm(own);
   form->CallingForm = gApp->MainWindow().MainForm();
   gApp->ShowForm(form);
 }

@@ -14,6 +14,7 @@ struct DeskMenuLine {
   const char* RightKey = "";   ///< the line is off for who may not open screens on it; empty is for everybody
   const char* FormKey;         ///< of IModule.GetForm
   const char* MenuEvent = "";  ///< the main menu's event that makes the module open it; empty opens the form
+  const char* DeskForm = "";   ///< the desk's own screen that is opened in place of the module's form
 };
 
 /// Those of all files NAME.menu.cpp, in the order of their places.

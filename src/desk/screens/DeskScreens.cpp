@@ -3,6 +3,7 @@
 #include "desk/screens/frmAccount.h"
 #include "desk/screens/frmAccountView.h"
 #include "desk/screens/frmAlertLog.h"
+#include "desk/screens/frmChequeLayouts.h"
 #include "desk/screens/frmFilterAc.h"
 #include "desk/screens/frmMain.h"
 #include "desk/screens/frmMainDB.h"
@@ -17,6 +18,7 @@ FormPtr DeskScreens::NewForm(const std::string& key) {
   if (wanted == "account") return std::make_shared<frmAccount>();
   if (wanted == "selectac") return std::make_shared<frmSelectAc>();
   if (wanted == "filterac") return std::make_shared<frmFilterAc>();
+  if (wanted == "chequelayouts") return std::make_shared<frmChequeLayouts>();
   if (wanted == "maindb") return std::make_shared<frmMainDB>();
   return nullptr;
 }

@@ -1,5 +1,6 @@
 #include "desk/screens/frmVoucher.h"
 
+#include "desk/screens/BankPayments.h"
 #include "host/forms/GridRows.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
@@ -15,6 +16,8 @@ constexpr ScreenSpec kScreen = {
     .rightKey = "",
     .registerTitle = "Voucher",
     .iconKey = "Voucher",
+    .firstKey = keys::kF9,
+    .lastKey = keys::kF9,
 };
 
 namespace col {
@@ -64,15 +67,28 @@ void frmVoucher::SetColumns() {
 void frmVoucher::LoadScreen() {
   DesignControls();
   SetColumns();
-  const std::shared_ptr<FinYear> year = gSession->NewYear();
+  year_ = gSession->NewYear();
   bool ok = false;
-  year->Init(true);
-  year->OpenYear(StartYear, ok);
+  year_->Init(true);
+  year_->OpenYear(StartYear, ok);
   if (!ok) throw HostError("The firm has no financial year " + std::to_string(StartYear));
-  FillLines(year->Db());
+  FillLines(year_->Db());
   ShowParty(1);
-  ShowDocuments(year->Db());
-  ShowLeaves(year->Db());
+  ShowDocuments(year_->Db());
+  ShowLeaves(year_->Db());
+}
+
+void frmVoucher::Pressed(const std::string& key) {
+  if (key == "ChqPrint") OpenChequeForm();
+}
+
+void frmVoucher::OpenChequeForm() {
+  const std::int64_t bank = BankPayments::BankOf(year_->Db(), VoucherID, AccountCode);
+  if (bank == 0) {
+    gStd->MsgBox("This voucher pays nothing from a bank account.", "", "W");
+    return;
+  }
+  OpenCheque(Self(), year_, bank, VoucherID);
 }
 
 void frmVoucher::FillLines(CDbLink& db) {

@@ -2,7 +2,9 @@
 
 namespace quillon {
 
-void frmVoucher::BuildBar() { BtnBar1.AddButtons({"Exit,Esc : Exit,Close"}); }
+void frmVoucher::BuildBar() {
+  BtnBar1.AddButtons({"ChqPrint,F9: Cheque Print,Cheque", "Exit,Esc : Exit,Close"});
+}
 
 void frmVoucher::DesignControls() {
   constexpr long kLine = 390;

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "host/controls/CGridPlus.h"
 #include "host/data/CDbLink.h"
 #include "host/forms/ScreenForm.h"
+#include "host/services/FinYear.h"
 
 namespace quillon {
 
@@ -26,6 +28,7 @@ class frmVoucher : public ScreenForm {
  protected:
   void BuildBar() override;
   void LoadScreen() override;
+  void Pressed(const std::string& key) override;
   GridModel* MainGrid() override { return &Grid; }
 
  private:
@@ -35,6 +38,9 @@ class frmVoucher : public ScreenForm {
   void FillLines(CDbLink& db);
   void ShowDocuments(CDbLink& db);
   void ShowLeaves(CDbLink& db);
+  void OpenChequeForm();
+
+  std::shared_ptr<FinYear> year_;
 };
 
 }  // namespace quillon
