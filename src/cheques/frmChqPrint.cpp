@@ -38,6 +38,7 @@ frmChqPrint::frmChqPrint()
     : ScreenForm(kScreen, Origin::Module),
       Lbl(*this, "Lbl", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}),
       pic2(*this, "pic2"),
+      lblPreview(pic2, "lblPreview"),
       picBankName(pic2, "picBankName"),
       txpBank(picBankName, "txpBank"),
       picCheque(pic2, "picCheque"),
@@ -107,6 +108,7 @@ void frmChqPrint::LoadScreen() {
   DesignPreview();
   if (!Narration.empty()) Caption = "Cheque Printing - " + Narration;
   lblTitle.Caption = "   " + Caption;
+  lblPreview.Caption = lblTitle.Caption;
   if (BankCode == 0) {
     picBankName.Visible = true;
     BankCode = static_cast<long>(ValInteger(gApp->GetUserSetting(kLastBank)));
@@ -126,7 +128,7 @@ LayoutBoard::Limits frmChqPrint::Limits() const {
 }
 
 void frmChqPrint::OnKeyDown(KeyEvent& key) {
-  if (board_.MoveByKey(key, Limits())) {
+  if (picOpt.Visible && board_.TakeKey(key, Limits())) {
     key.KeyCode = 0;
     return;
   }

@@ -75,6 +75,7 @@ void frmChqPrint::DesignObjects() {
     object.Move(design.Left, design.Top, design.Width, kLine);
     object.Visible = design.Shown;
     object.Alignment = design.AlignsRight ? kRight : 0;
+    object.FromTop = true;
     object.BackColor = kWhite;
     object.ForeColor = kBlack;
     object.Font = kObjectFont;
@@ -82,12 +83,15 @@ void frmChqPrint::DesignObjects() {
   Lbl(6).Font = quillon::Font{"Tahoma", 9.75, true, false, true};
 }
 
-/// What depends on the area that the host gives.
+/// What depends on the area that the host gives. The preview lies over the objects and over the title, which
+/// it therefore has itself.
 void frmChqPrint::DesignPreview() {
-  const long top = lblTitle.Top + lblTitle.Height;
+  lblPreview.Move(lblTitle.Left, lblTitle.Top, lblTitle.Width, lblTitle.Height);
+  lblPreview.Font = quillon::Font{"Tahoma", 9.75, true, false, false};
+  BtnBar1.BackColor = colors::kButtonFace;
   pic2.BorderStyle = 0;
   pic2.BackColor = colors::kButtonFace;
-  pic2.Move(0, top, Width, BtnBar1.Top - top);
+  pic2.Move(0, 0, Width, BtnBar1.Top);
   picCheque.Move(std::max((Width - kChequeWidth) / 2, 0L), 1200, kChequeWidth, kChequeHeight);
   picBankName.Move(picCheque.Left, 480, 6000, 480);
   picBankName.BorderStyle = 0;
@@ -205,7 +209,7 @@ void frmChqPrint::DesignButtons() {
   // In this array the second button is no way out.
   btnSettings(1).IsCancel = false;
   lblHint.Caption =
-      "Click an item, then move it by the arrow keys; with Ctrl it moves finely. The lines are inches and "
+      "Click an item, or choose it by Page Down, and move it by the arrow keys; with Ctrl it moves finely. The lines are inches and "
       "eighths of an inch from the leaf's upper left corner.";
   lblHint.WordWrap = true;
   lblHint.Move(10920, kEdge, 3300, 6 * kRow);

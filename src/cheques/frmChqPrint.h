@@ -90,6 +90,7 @@ class frmChqPrint : public ScreenForm {
   ControlArray<Label> Lbl;
 
   PictureBox pic2;
+  Label lblPreview;
   PictureBox picBankName;
   TextBox txpBank;
   PictureBox picCheque;

@@ -236,6 +236,7 @@ void frmChqPrint::ExportChqSettings() {
   AccountQuestion question;
   question.Title = "   Export Cheque Settings";
   question.ListTitle = "Select an Account";
+  question.Table = "FAHEADS";
   question.Query =
       "Select a.Head,a.code,b.mst,a.presshead from FAHeads a inner join FAMaster b on a.code=b.mcd where "
       "(b.mdeactivedate>" +

@@ -230,7 +230,7 @@ void frmEnvelopePrint::ChooseFont(Label& object) {
 }
 
 void frmEnvelopePrint::OnKeyDown(KeyEvent& key) {
-  if (!Frame1.Visible && board_.MoveByKey(key, Limits())) {
+  if (!Frame1.Visible && board_.TakeKey(key, Limits())) {
     key.KeyCode = 0;
     return;
   }

@@ -70,6 +70,7 @@ void frmEnvelopePrint::DesignControls() {
     object.Caption = design.Caption;
     object.Move(design.Left, design.Top, design.Width, design.Height);
     object.Visible = design.Shown;
+    object.FromTop = true;
     object.BackColor = kWhite;
     object.ForeColor = kBlack;
     object.Font = quillon::Font{"Tahoma", design.FontSize, design.Bold, false, design.Underline};
@@ -83,7 +84,7 @@ void frmEnvelopePrint::DesignControls() {
   lblSize.Caption = "Envelope";
   btnConfig.Caption = "Config ...";
   lblHint.Caption =
-      "Click an item, then move it by the arrow keys, with Ctrl finely; a double click chooses its font.";
+      "Click an item, or choose it by Page Down, and move it by the arrow keys, with Ctrl finely; a double click chooses its font.";
   DesignFrame();
 }
 
@@ -91,6 +92,7 @@ void frmEnvelopePrint::DesignControls() {
 void frmEnvelopePrint::PlaceControls() {
   constexpr long kPanelHeight = 600;
   constexpr long kTop = (kPanelHeight - kLine) / 2;
+  BtnBar1.BackColor = colors::kButtonFace;
   Picture1.BackColor = colors::kButtonFace;
   Picture1.Move(0, BtnBar1.Top - kPanelHeight, Width, kPanelHeight);
   lblMode.Move(kEdge, kTop, 1260, kLine);

@@ -1,5 +1,8 @@
 #include "layout/LayoutBoard.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "host/controls/Colors.h"
 #include "host/controls/ItemList.h"
 #include "host/controls/OptionButton.h"
@@ -53,10 +56,26 @@ void LayoutBoard::Select(Label& object) {
   object.ForeColor = colors::kHighlightText;
 }
 
-bool LayoutBoard::MoveByKey(const KeyEvent& key, const Limits& limits) {
-  if (selected_ == nullptr || !IsArrow(key.KeyCode) || UsesArrow(form_.ActiveControl(), key.KeyCode)) {
-    return false;
+bool LayoutBoard::TakeKey(const KeyEvent& key, const Limits& limits) {
+  const bool back = key.KeyCode == keys::kPageUp;
+  if ((back || key.KeyCode == keys::kPageDown) && key.Shift == 0) return SelectNext(back);
+  return IsArrow(key.KeyCode) && !UsesArrow(form_.ActiveControl(), key.KeyCode) && MoveByKey(key, limits);
+}
+
+bool LayoutBoard::SelectNext(bool back) {
+  std::vector<Label*> shown;
+  for (auto& [index, object] : objects_) {
+    if (object->Visible) shown.push_back(object.get());
   }
+  if (shown.empty()) return false;
+  if (back) std::reverse(shown.begin(), shown.end());
+  const auto here = std::find(shown.begin(), shown.end(), selected_);
+  Select(here == shown.end() || here + 1 == shown.end() ? *shown.front() : **(here + 1));
+  return true;
+}
+
+bool LayoutBoard::MoveByKey(const KeyEvent& key, const Limits& limits) {
+  if (selected_ == nullptr) return false;
   const bool across = key.KeyCode == keys::kLeft || key.KeyCode == keys::kRight;
   Property<long>& place = across ? selected_->Left : selected_->Top;
   const long step = key.Shift == keys::kCtrl ? kSmallStep : kStep;

@@ -9,7 +9,7 @@
 namespace quillon {
 
 /// The objects of a layout: labels at their true places over an inch grid, each known by its Tag. One of them
-/// is selected by a click and moved by the arrow keys.
+/// is selected, by a click or by keys, and moved by the arrow keys.
 class LayoutBoard {
  public:
   /// Both must live as long as the board, which lies on the form itself.
@@ -27,14 +27,18 @@ class LayoutBoard {
   void Select(Label& object);
   Label* Selected() const { return selected_; }
 
-  /// Moves the selected object by an arrow key: 120 twips, 15 with Ctrl. False for any other key, without a
-  /// selected object, and for an arrow that the field in focus uses.
-  bool MoveByKey(const KeyEvent& key, const Limits& limits);
+  /// Page Down and Page Up select the next and the previous object that is shown; an arrow key moves the
+  /// selected one by 120 twips, with Ctrl by 15. False for any other key, for an arrow without a selected
+  /// object, and for a key that the field in focus uses.
+  bool TakeKey(const KeyEvent& key, const Limits& limits);
 
   /// The grid in inches and eighths.
   void DrawGrid();
 
  private:
+  bool MoveByKey(const KeyEvent& key, const Limits& limits);
+  bool SelectNext(bool back);
+
   Form& form_;
   ControlArray<Label>& objects_;
   Label* selected_ = nullptr;

@@ -34,8 +34,9 @@ class LayoutRun {
 
   void NewPage() { run_.NewPage(); }
 
-  /// Sends the job; throws HostError when it can't be written or the device refuses it.
-  void EndDoc() { run_.EndDoc(); }
+  /// Sends the job; false when its user saw the pages and discarded them. Throws HostError when it can't be
+  /// written or the device refuses it.
+  bool EndDoc() { return run_.EndDoc(); }
 
  private:
   PrintRun run_;

@@ -8,8 +8,8 @@ namespace {
 
 /// What an answer of each kind must name, unless it cancels.
 const std::map<std::string, std::string> kNeeds = {
-    {"message", "button"}, {"input", "text"}, {"file", "path"},      {"font", "name"},
-    {"date", "date1"},     {"pick", "item"},  {"parties", "clause"}, {"printdialog", ""},
+    {"message", "button"}, {"input", "text"},     {"file", "path"},    {"font", "name"},   {"date", "date1"},
+    {"pick", "item"},      {"parties", "clause"}, {"printdialog", ""}, {"sight", "print"},
 };
 
 }  // namespace

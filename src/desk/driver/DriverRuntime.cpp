@@ -9,6 +9,7 @@
 #include "desk/qt/windows/FormPicture.h"
 #include "host/controls/Menu.h"
 #include "host/forms/CPickList.h"
+#include "host/services/Calibration.h"
 #include "host/services/IStd.h"
 #include "host/services/PrintSetup.h"
 #include "host/values/ErrorText.h"
@@ -34,7 +35,20 @@ Date AnsweredDate(const Json& answer, const char* name) {
 }  // namespace
 
 DriverRuntime::DriverRuntime(EventLog& log, const std::string& outputFolder)
-    : log_(log), outputFolder_(outputFolder), printer_(outputFolder, &log) {}
+    : log_(log), outputFolder_(outputFolder), printer_(outputFolder, &log) {
+  printer_.AskSight = [this](const ReportPages& pages) { return AskSight(pages); };
+}
+
+bool DriverRuntime::AskSight(const ReportPages& pages) {
+  const std::string& printer = printer_.DeviceName;
+  Json event{{"event", "sight"},
+             {"pages", pages.Pages.size()},
+             {"printer", printer},
+             {"corrected", Calibration::Of(printer).Words()}};
+  const std::optional<Json> answer = Answer("sight", event);
+  log_.Write(event);
+  return answer && answer->value("print", false);
+}
 
 std::string DriverRuntime::InOutput(const std::string& file) const {
   return (std::filesystem::path(outputFolder_) / file).string();
@@ -179,6 +193,7 @@ bool DriverRuntime::AskPrint(PrintSetup& setup) {
   setup.PageTo = answer->value("pageto", setup.PageTo);
   setup.Copies = answer->value("copies", setup.Copies);
   setup.OE = answer->value("oe", setup.OE);
+  setup.SeeFirst = answer->value("seefirst", setup.SeeFirst);
   setup.ColorMode = answer->value("colormode", setup.ColorMode);
   const PrinterDevice chosen{answer->value("printer", setup.PrinterObj->DeviceName)};
   if (std::find(printers.begin(), printers.end(), chosen) == printers.end())

@@ -72,6 +72,7 @@ class DriverRuntime : public Runtime {
     bool open = true;
   };
 
+  bool AskSight(const ReportPages& pages);
   std::optional<Json> Answer(const std::string& kind, Json& event);
 
   EventLog& log_;

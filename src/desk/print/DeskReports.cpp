@@ -3,10 +3,10 @@
 #include <QFile>
 
 #include "desk/print/OutputFile.h"
+#include "desk/print/PageSender.h"
 #include "desk/print/PlainReport.h"
 #include "desk/print/ReportLayout.h"
 #include "desk/print/ReportPainter.h"
-#include "desk/print/Spooler.h"
 
 namespace quillon {
 
@@ -45,7 +45,7 @@ void DeskReports::ShowGrid(GridModel& grid, CReportOptions* options, const std::
   }
   if (desk_.Observer != nullptr)
     desk_.Observer->OnReport({title, subtitle, print, file, count, grid, sheets});
-  if (print && desk_.Device) Spooler::Send(file, {.Printer = desk_.Device()});
+  if (print && desk_.Device) PageSender::Send(sheets, file, {.Printer = desk_.Device()});
 }
 
 std::shared_ptr<PrintSetup> DeskReports::Print(const std::string& /*what*/) {

@@ -3,11 +3,13 @@
 #include <QFont>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "desk/print/Fonts.h"
+#include "desk/print/PageSender.h"
+#include "desk/print/Paper.h"
 #include "desk/print/PdfDocument.h"
 #include "desk/print/PrintObserver.h"
-#include "desk/print/Spooler.h"
 #include "desk/print/TextMeasure.h"
 #include "host/values/Text.h"
 
@@ -41,7 +43,15 @@ double PdfPrinter::TextHeight(const std::string& text) const {
 }
 
 PdfDocument& PdfPrinter::Job() {
-  if (!job_) job_ = std::make_unique<PdfDocument>(folder_, kStem, PaperSize, Orientation);
+  if (job_) return *job_;
+  job_ = std::make_unique<PdfDocument>(folder_, kStem, PaperSize, Orientation);
+  const PaperExtent paper = PaperSizeOf(PaperSize, Orientation);
+  pages_ = ReportPages();
+  pages_.PaperSize = PaperSize;
+  pages_.Orientation = Orientation;
+  pages_.Width = paper.Width;
+  pages_.Height = paper.Height;
+  pages_.Pages.resize(1);
   return *job_;
 }
 
@@ -49,8 +59,11 @@ void PdfPrinter::PrintLine(const std::string& line) {
   PdfDocument& job = Job();
   if (line.empty()) return;
   job.Painter().setFont(Fonts::Of(Font));
-  job.Painter().drawText(QPointF(CurrentX, CurrentY + TextMeasure::Ascent(Font)),
-                         QString::fromStdString(line));
+  const double baseline = CurrentY + TextMeasure::Ascent(Font);
+  job.Painter().drawText(QPointF(CurrentX, baseline), QString::fromStdString(line));
+  if (KeepsPages()) {
+    pages_.Pages.back().Texts.push_back({CurrentX, baseline, line, pages_.FontNumber(Font), 0});
+  }
   if (observer_ != nullptr) observer_->OnText(job.Pages(), CurrentX, CurrentY, line, Font);
 }
 
@@ -69,21 +82,25 @@ void PdfPrinter::Print(const std::string& text, bool lineEnd) {
 
 void PdfPrinter::NewPage() {
   Job().NewPage(PaperSize, Orientation);
+  pages_.Pages.emplace_back();
   CurrentX = 0;
   CurrentY = 0;
 }
 
-void PdfPrinter::EndDoc() {
+bool PdfPrinter::EndDoc() {
   const std::unique_ptr<PdfDocument> job = std::move(job_);
   CurrentX = 0;
   CurrentY = 0;
-  if (job) Deliver(*job);
+  const bool asks = std::exchange(SeeFirst, false) && job && AskSight;
+  if (asks && !AskSight(pages_)) return false;
+  if (job) Deliver(*job, pages_);
+  return true;
 }
 
-void PdfPrinter::Deliver(PdfDocument& job) {
+void PdfPrinter::Deliver(PdfDocument& job, const ReportPages& pages) {
   const std::string file = job.Finish();
   if (observer_ != nullptr) observer_->OnPrinted(file, job.Pages(), PaperSize, Orientation);
-  Spooler::Send(file, {.Printer = DeviceName, .Monochrome = ColorMode == kMonochrome});
+  PageSender::Send(pages, file, {.Printer = DeviceName, .Monochrome = ColorMode == kMonochrome});
 }
 
 void PdfPrinter::KillDoc() {
@@ -95,7 +112,7 @@ void PdfPrinter::KillDoc() {
 void PdfPrinter::PrintPicture(int dotsPerInch, const std::function<void(QPainter&)>& draw) {
   PdfDocument job(folder_, kStem, PaperSize, Orientation, dotsPerInch);
   draw(job.Painter());
-  Deliver(job);
+  Deliver(job, {});
 }
 
 }  // namespace quillon

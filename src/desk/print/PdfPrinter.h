@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "desk/print/ReportPages.h"
 #include "host/services/IPrinter.h"
 
 class QPainter;
@@ -28,8 +29,12 @@ class PdfPrinter : public IPrinter {
   void Print(const std::string& text, bool lineEnd = true) override;
   void NewPage() override;
 
+  /// Shows the finished pages to the user where he wanted to see them first; true when they may be printed.
+  /// Without it they are printed.
+  std::function<bool(const ReportPages&)> AskSight;
+
   /// Without anything printed there is no file.
-  void EndDoc() override;
+  bool EndDoc() override;
   void KillDoc() override;
 
   /// A job of one page that is drawn in dots, so many to the inch; a job at hand stays as it is.
@@ -37,12 +42,16 @@ class PdfPrinter : public IPrinter {
 
  private:
   PdfDocument& Job();
-  void Deliver(PdfDocument& job);
+  void Deliver(PdfDocument& job, const ReportPages& pages);
   void PrintLine(const std::string& line);
+
+  /// Whether the pages are needed again when they are finished: to be seen, or for a queue.
+  bool KeepsPages() const { return SeeFirst || DeviceName != kPdfFile; }
 
   std::string folder_;
   PrintObserver* observer_;
   std::unique_ptr<PdfDocument> job_;
+  ReportPages pages_;
 };
 
 }  // namespace quillon

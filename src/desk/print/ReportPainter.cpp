@@ -11,6 +11,8 @@ namespace quillon {
 
 namespace {
 
+constexpr double kTwipsPerMillimetre = 1440 / 25.4;
+
 QColor ColorOf(long color) {
   return QColor(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
                 static_cast<int>(color >> 16 & 0xFF));
@@ -36,8 +38,11 @@ void ReportPainter::Paint(const ReportPages& pages, std::size_t page, QPainter& 
 }
 
 std::string ReportPainter::WritePdf(const ReportPages& pages, const std::string& folder,
-                                    const std::string& stem) {
+                                    const std::string& stem, const Calibration& calibration) {
   PdfDocument document(folder, stem, pages.PaperSize, pages.Orientation);
+  document.Painter().translate(calibration.ShiftX() * kTwipsPerMillimetre,
+                               calibration.ShiftY() * kTwipsPerMillimetre);
+  document.Painter().scale(calibration.ScaleX(), calibration.ScaleY());
   Progress progress("Writing the pages", static_cast<std::int64_t>(pages.Pages.size()));
   for (std::size_t page = 0; page < pages.Pages.size(); ++page) {
     if (page > 0) document.NewPage(pages.PaperSize, pages.Orientation);

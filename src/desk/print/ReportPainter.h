@@ -3,6 +3,7 @@
 #include <string>
 
 #include "desk/print/ReportPages.h"
+#include "host/services/Calibration.h"
 
 class QPainter;
 
@@ -14,8 +15,10 @@ class ReportPainter {
   /// Draws page `page`, counted from 0, on a painter whose unit is a twip.
   static void Paint(const ReportPages& pages, std::size_t page, QPainter& painter);
 
-  /// Writes all pages to a PDF STEM-1.pdf, STEM-2.pdf … in the folder and tells its name. Throws HostError.
-  static std::string WritePdf(const ReportPages& pages, const std::string& folder, const std::string& stem);
+  /// Writes all pages to a PDF STEM-1.pdf, STEM-2.pdf … in the folder and tells its name, corrected for a
+  /// printer. Throws HostError.
+  static std::string WritePdf(const ReportPages& pages, const std::string& folder, const std::string& stem,
+                              const Calibration& calibration = {});
 };
 
 }  // namespace quillon

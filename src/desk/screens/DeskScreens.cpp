@@ -7,6 +7,7 @@
 #include "desk/screens/frmFilterAc.h"
 #include "desk/screens/frmMain.h"
 #include "desk/screens/frmMainDB.h"
+#include "desk/screens/frmPrinter.h"
 #include "desk/screens/frmSelectAc.h"
 #include "desk/screens/frmVoucher.h"
 #include "host/values/Text.h"
@@ -19,6 +20,7 @@ FormPtr DeskScreens::NewForm(const std::string& key) {
   if (wanted == "selectac") return std::make_shared<frmSelectAc>();
   if (wanted == "filterac") return std::make_shared<frmFilterAc>();
   if (wanted == "chequelayouts") return std::make_shared<frmChequeLayouts>();
+  if (wanted == "printer") return std::make_shared<frmPrinter>();
   if (wanted == "maindb") return std::make_shared<frmMainDB>();
   return nullptr;
 }

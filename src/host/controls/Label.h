@@ -17,6 +17,9 @@ class Label : public Control {
   Property<int> Alignment{*this, "Alignment"};
   Property<bool> WordWrap{*this, "WordWrap"};
 
+  /// The text stands at the label's top, where it is printed, and not in its middle.
+  Property<bool> FromTop{*this, "FromTop"};
+
   Event<> Click;
   Event<> DblClick;
 

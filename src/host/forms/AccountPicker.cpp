@@ -13,6 +13,7 @@ std::optional<PickedAccount> PickAccount(Form& owner, const AccountQuestion& que
   picker->CallingForm = owner.Self();
   picker->Set("SelectAc", true);
   picker->Set("Cnd", question.Condition);
+  picker->Set("TblName", question.Table);
   picker->Set("SelQry", question.Query);
   picker->Set("ColWidth2", question.HeadWidth);
   if (!question.Title.empty()) {

@@ -12,6 +12,7 @@ struct AccountQuestion {
   std::string Title;      ///< "   Select Account"
   std::string ListTitle;  ///< "Select an Account"
   std::string Condition;  ///< on FAMaster's columns
+  std::string Table;      ///< that the query is on, where it is not the accounts'
   std::string Query;      ///< whole; its first column is shown, its second is the code
   int HeadWidth = 30;     ///< characters
 };

@@ -51,8 +51,12 @@ class IPrinter {
   virtual void Print(const std::string& text, bool lineEnd = true) = 0;
   virtual void NewPage() = 0;
 
-  /// Finishes the job; throws HostError when the file cannot be written.
-  virtual void EndDoc() = 0;
+  /// Whether the finished pages are shown before they are printed; a mark for one job.
+  bool SeeFirst = false;
+
+  /// Finishes the job; false when its user saw the pages and discarded them. Throws HostError when the file
+  /// cannot be written.
+  virtual bool EndDoc() = 0;
 
   /// Drops the job at hand, if there is one: no file, nothing to the device.
   virtual void KillDoc() = 0;

@@ -17,8 +17,9 @@ class PrintRun {
   IPrinter& Printer() { return printer_; }
   void NewPage() { printer_.NewPage(); }
 
-  /// Sends the job; throws HostError when it can't be written or the device refuses it.
-  void EndDoc() { printer_.EndDoc(); }
+  /// Sends the job; false when its user saw the pages and discarded them. Throws HostError when it can't be
+  /// written or the device refuses it.
+  bool EndDoc() { return printer_.EndDoc(); }
 
   /// Drops what was printed so far.
   void KillDoc() { printer_.KillDoc(); }

@@ -27,6 +27,7 @@ PrintSetup::PrintSetup() : Form("PrintSetup", Origin::Desk) {
   Member("PageTo", PageTo);
   Member("MaxPage", MaxPage);
   Member("Copies", Copies);
+  Member("SeeFirst", SeeFirst);
   Member("Orientation", Orientation);
   Member("ColorMode", ColorMode);
   Member("PrinterObj", printerName_);
@@ -51,6 +52,7 @@ bool PrintSetup::AskInstead() {
 void PrintSetup::TakePrinter() const {
   if (PrinterObj) gRuntime->UsePrinter(PrinterObj->DeviceName);
   gRuntime->Printer().ColorMode = ColorMode;
+  gRuntime->Printer().SeeFirst = SeeFirst;
 }
 
 /// A printer that the caller asks for comes first; one that is gone gives way to the Printer.

@@ -38,6 +38,10 @@ class PrintSetup : public Form {
   /// 0 offers no copies: the job has one.
   int Copies = 0;
 
+  /// Whether the pages are shown before they are printed; not asked where there is nothing to show.
+  bool SeeFirst = false;
+  bool OffersSight = true;
+
   int Orientation = IPrinter::kPortrait;
   int ColorMode = IPrinter::kColor;
 
@@ -49,8 +53,8 @@ class PrintSetup : public Form {
   void Show(int modal = 1);
   bool AskInstead() override;
 
-  /// Makes the chosen printer the Printer, with its colour; one that is gone since leaves the Printer as it
-  /// is.
+  /// Makes the chosen printer the Printer, with its colour and the wish to see the pages first; one that is
+  /// gone since leaves the Printer as it is.
   void TakePrinter() const;
 
  private:

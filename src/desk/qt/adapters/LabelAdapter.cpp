@@ -46,7 +46,7 @@ void LabelAdapter::Dress() {
 void LabelAdapter::Draw() {
   auto& shown = static_cast<QLabel&>(Widget());
   const QString caption = QString::fromStdString(label_.Caption).remove(QLatin1Char('\r'));
-  const bool fromTop = label_.WordWrap || caption.contains(QLatin1Char('\n'));
+  const bool fromTop = label_.FromTop || label_.WordWrap || caption.contains(QLatin1Char('\n'));
   shown.setText(caption);
   shown.setWordWrap(label_.WordWrap);
   shown.setAlignment(AlignmentOf(label_.Alignment) | (fromTop ? Qt::AlignTop : Qt::AlignVCenter));

@@ -1,5 +1,6 @@
 #include "desk/qt/dialogs/PrintDialog.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QSpinBox>
@@ -38,6 +39,11 @@ PrintDialog::PrintDialog(const PrintSetup& setup, const std::vector<PrinterDevic
     color_->addItem(QStringLiteral("In colour"), IPrinter::kColor);
     color_->addItem(QStringLiteral("Black and white"), IPrinter::kMonochrome);
     color_->setCurrentIndex(std::max(0, color_->findData(setup.ColorMode)));
+  }
+  if (setup.OffersSight) {
+    sight_ = new QCheckBox(QStringLiteral("See it first"), this);
+    sight_->setChecked(setup.SeeFirst);
+    Content().addWidget(sight_);
   }
   const bool across = setup.Orientation == IPrinter::kLandscape;
   Content().addWidget(new QLabel(
@@ -83,6 +89,7 @@ void PrintDialog::TakeInto(PrintSetup& setup) const {
   }
   if (sides_ != nullptr) setup.OE = sides_->currentData().toString().toStdString();
   if (copies_ != nullptr) setup.Copies = copies_->value();
+  if (sight_ != nullptr) setup.SeeFirst = sight_->isChecked();
   if (color_ != nullptr) setup.ColorMode = color_->currentData().toInt();
 }
 

@@ -3,6 +3,7 @@
 #include "desk/qt/dialogs/DeskDialog.h"
 #include "host/services/PrintSetup.h"
 
+class QCheckBox;
 class QComboBox;
 class QSpinBox;
 
@@ -29,6 +30,7 @@ class PrintDialog : public DeskDialog {
   QComboBox* sides_ = nullptr;
   QSpinBox* copies_ = nullptr;
   QComboBox* color_ = nullptr;
+  QCheckBox* sight_ = nullptr;
 };
 
 }  // namespace quillon

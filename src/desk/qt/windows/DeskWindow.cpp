@@ -225,6 +225,8 @@ void DeskWindow::OpenStatement() {
   });
 }
 
+void DeskWindow::AskPrinter() { gStd->ShowDialog(gApp->GetForm("Printer"), nullptr); }
+
 void DeskWindow::OpenAccount() {
   Acts::Run([] {
     const FormPtr picker = gApp->GetForm("SelectAc");

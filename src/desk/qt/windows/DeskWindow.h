@@ -69,6 +69,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   QString TryFirm(const QString& folder, const QString& user, int startYear);
   void AskYear();
   void AskUser();
+  void AskPrinter();
   void OpenStatement();
   void OpenAccount();
   void ShowKeys();

@@ -43,7 +43,8 @@ void DeskWindow::BuildFirmMenu() {
   firmActs_ << AddAct(menu, QStringLiteral("&Year …"), QKeySequence(Qt::CTRL | Qt::Key_Y),
                       &DeskWindow::AskYear)
             << AddAct(menu, QStringLiteral("&User …"), QKeySequence(Qt::CTRL | Qt::Key_U),
-                      &DeskWindow::AskUser);
+                      &DeskWindow::AskUser)
+            << AddAct(menu, QStringLiteral("&Printer …"), {}, &DeskWindow::AskPrinter);
   menu.addSeparator();
   QAction* const exit = menu.addAction(QStringLiteral("E&xit"));
   exit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));

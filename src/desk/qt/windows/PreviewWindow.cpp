@@ -11,6 +11,7 @@
 #include <array>
 #include <filesystem>
 
+#include "desk/print/PageSender.h"
 #include "desk/print/ReportPainter.h"
 #include "desk/print/Spooler.h"
 #include "desk/qt/adapters/ElidedLabel.h"
@@ -20,6 +21,7 @@
 #include "desk/qt/dialogs/PrintDialog.h"
 #include "desk/qt/dialogs/ToolkitDialogs.h"
 #include "desk/qt/windows/PageView.h"
+#include "host/services/Calibration.h"
 #include "host/values/Errors.h"
 
 namespace quillon {
@@ -121,6 +123,7 @@ void PreviewWindow::Print() {
   PrintSetup setup;
   setup.MaxPage = setup.PageTo = static_cast<int>(pages_->Pages());
   setup.Copies = 1;
+  setup.OffersSight = false;
   setup.OE.clear();
   setup.Orientation = report_.Sheets.Orientation;
   PrintDialog dialog(setup, Spooler::Printers(), this);
@@ -133,18 +136,25 @@ void PreviewWindow::Print() {
       SavePages(file);
       return;
     }
-    Spooler::Send(
-        file,
+    PageSender::Send(
+        PagesOf(setup), file,
         {.Printer = printer, .Copies = setup.Copies, .Monochrome = setup.ColorMode == IPrinter::kMonochrome});
-    Tell(QStringLiteral("Sent to %1").arg(QString::fromStdString(printer)));
+    const std::string corrected = Calibration::Of(printer).Words();
+    Tell(QString::fromStdString("Sent to " + printer +
+                                (corrected.empty() ? "" : ", corrected by " + corrected)));
   } catch (const HostError& error) {
     Tell(QString::fromStdString(error.what()));
   }
 }
 
-std::string PreviewWindow::FileOf(const PrintSetup& setup) const {
+bool PreviewWindow::AreAll(const PrintSetup& setup) const {
+  return setup.OE.empty() && setup.PageFrom <= 1 &&
+         setup.PageTo >= static_cast<int>(report_.Sheets.Pages.size());
+}
+
+ReportPages PreviewWindow::PagesOf(const PrintSetup& setup) const {
+  if (AreAll(setup)) return report_.Sheets;
   const auto count = static_cast<int>(report_.Sheets.Pages.size());
-  if (setup.OE.empty() && setup.PageFrom <= 1 && setup.PageTo >= count) return report_.File;
   ReportPages part = report_.Sheets;
   part.Pages.clear();
   for (int page = setup.PageFrom; page <= std::min(setup.PageTo, count); ++page) {
@@ -152,8 +162,13 @@ std::string PreviewWindow::FileOf(const PrintSetup& setup) const {
     if (wanted) part.Pages.push_back(report_.Sheets.Pages[static_cast<std::size_t>(page - 1)]);
   }
   if (part.Pages.empty()) throw HostError("There is no such page");
+  return part;
+}
+
+std::string PreviewWindow::FileOf(const PrintSetup& setup) const {
+  if (AreAll(setup)) return report_.File;
   const std::filesystem::path folder = std::filesystem::path(report_.File).parent_path();
-  return ReportPainter::WritePdf(part, folder.string(), "pages");
+  return ReportPainter::WritePdf(PagesOf(setup), folder.string(), "pages");
 }
 
 QString PreviewWindow::AskName(const QString& title, const QString& suffix) {

@@ -44,7 +44,9 @@ class PreviewWindow : public QDialog {
   void Write(const QString& file, const QByteArray& bytes);
   void SavePages(const std::string& file);
 
-  /// The PDF with just the pages that the dialog asked for.
+  /// Just the pages that the dialog asked for, and the PDF with them.
+  bool AreAll(const PrintSetup& setup) const;
+  ReportPages PagesOf(const PrintSetup& setup) const;
   std::string FileOf(const PrintSetup& setup) const;
 
   ReportCopy report_;

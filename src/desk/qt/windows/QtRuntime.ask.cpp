@@ -13,6 +13,7 @@
 #include "desk/qt/dialogs/PrintDialog.h"
 #include "desk/qt/dialogs/ToolkitDialogs.h"
 #include "desk/qt/windows/FormView.h"
+#include "desk/qt/windows/SightWindow.h"
 #include "host/controls/Menu.h"
 #include "host/values/ErrorText.h"
 #include "host/values/Text.h"
@@ -104,6 +105,11 @@ bool QtRuntime::AskPrint(PrintSetup& setup) {
   if (dialog.exec() != QDialog::Accepted) return false;
   dialog.TakeInto(setup);
   return true;
+}
+
+bool QtRuntime::AskSight(const ReportPages& pages) {
+  const PointerRest rest(*this);
+  return SightWindow(pages, printer_.DeviceName, TopWindow()).exec() == QDialog::Accepted;
 }
 
 void QtRuntime::ShowHelp(Form& form, int context) {

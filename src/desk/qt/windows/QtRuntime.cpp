@@ -30,6 +30,7 @@ bool QtRuntime::IsScreen(const Form& form) const {
 }
 
 QtRuntime::QtRuntime(std::string outputFolder) : printer_(std::move(outputFolder), this) {
+  printer_.AskSight = [this](const ReportPages& pages) { return AskSight(pages); };
   Acts::SetAfterwards([this] { Settle(); });
   EngineThread::Start([](bool mayBreak) { return Acts::PaintAndListen(mayBreak); });
 }

@@ -100,6 +100,7 @@ class QtRuntime : public Runtime, private PrintObserver {
 
   void OnText(int, double, double, const std::string&, const Font&) override {}
   void OnPrinted(const std::string& file, int pages, int paper, int orientation) override;
+  bool AskSight(const ReportPages& pages);
   bool IsScreen(const Form& form) const;
   void ShowView(Form& form);
   void HideView(Form& form);
