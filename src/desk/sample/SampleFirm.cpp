@@ -7,6 +7,7 @@
 #include "desk/firm/Firm.h"
 #include "desk/firm/Schema.h"
 #include "desk/sample/SampleMasters.h"
+#include "desk/sample/SamplePiece.h"
 #include "desk/sample/SampleRandom.h"
 #include "desk/sample/SampleYear.h"
 #include "host/values/Errors.h"
@@ -46,6 +47,9 @@ void FillCommon(FirebirdLink& common) {
     const bool prints = std::string_view(right.Key) != "acst.reconciliation";
     const Variant values[] = {"Clerk", right.Key, prints ? "NP" : "N"};
     common.ExecuteWith("insert into UserRights (UserName,RightKey,Actions) values (?,?,?)", values);
+  }
+  for (const SamplePiece& piece : SamplePieces()) {
+    if (piece.WriteCommon != nullptr) piece.WriteCommon(common);
   }
 }
 

@@ -24,6 +24,7 @@ struct SampleYearSoFar {
 struct SamplePiece {
   int Place;  ///< its order among the pieces
   void (*Write)(const SampleYearSoFar&);
+  void (*WriteCommon)(FirebirdLink& common) = nullptr;  ///< what it has in the database of all years
 };
 
 /// Those of all files NAME.sample.cpp, in the order of their places.

@@ -42,8 +42,9 @@ void SampleYear::Write(SampleCarry& carry, const SampleOptions& options, bool is
   WriteYearEnd();
   while (books_.Vouchers() - before < options.Vouchers) Journal(end_);
   if (!isLast) books_.PostClosing(end_);
-  for (const SamplePiece& piece : SamplePieces())
-    piece.Write({year_, masters_, books_, cheques_, start_, end_});
+  for (const SamplePiece& piece : SamplePieces()) {
+    if (piece.Write != nullptr) piece.Write({year_, masters_, books_, cheques_, start_, end_});
+  }
   carry.NextCheque = cheques_.NextNumbers();
   Close(carry);
   year_.CommitTrans();
