@@ -298,6 +298,7 @@ void frmChqPrint::PrintChq(bool bPrintSettings) {
       setup = gReports->Print("Print");
       setup->PrinterNameSetting = "ChqPrint";
       setup->MaxPage = 1;
+      setup->Orientation = Check2.CheckValue != 0 ? IPrinter::kLandscape : IPrinter::kPortrait;
       setup->Show();
       if (setup->Cancelled) return;
     }

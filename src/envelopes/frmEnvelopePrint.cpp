@@ -271,6 +271,7 @@ void frmEnvelopePrint::PrintEnvelopes(bool all) {
   setup->PageTo = all ? kAllPages : 1;
   setup->MaxPage = setup->PageTo;
   setup->Copies = 1;
+  setup->Orientation = chkLandscape.CheckValue != 0 ? IPrinter::kLandscape : IPrinter::kPortrait;
   gStd->ShowDialog(setup, Self());
   if (setup->Cancelled) return;
   LayoutRun run(setup.get(), chkLandscape.CheckValue != 0,
