@@ -108,6 +108,12 @@ class Driver(unittest.TestCase):
     def test_a_cheque_that_came_back(self):
         self.run_script("returned.jsonl", 0)
 
+    def test_a_month_of_cheques(self):
+        self.run_script("cheques.jsonl", 0)
+
+    def test_labels_letters_and_envelopes(self):
+        self.run_script("correspondence.jsonl", 0)
+
     def test_refusals(self):
         lines, _ = self.run_script("refusals.jsonl", 1)
         self.assertEqual(lines[-1], {"left_over": [{"to": "input", "text": "Nigdi Branch"}]})
