@@ -91,7 +91,8 @@ void frmAddressLabels::LoadScreen() {
   Grid.Visible = false;
   Grid.WordWrap = true;
   Grid.FixedRows = 0;
-  Config = LabelConfig::Defaults(IsTextMode());
+  isTextMode_ = gReports->PrinterMode() >= kTextMode;
+  Config = LabelConfig::Defaults(isTextMode_);
   LabelConfig::Read(gApp->GetUserSetting(ConfigKey()), Config);
   detailsOpened_ = false;
 }
@@ -111,10 +112,8 @@ void frmAddressLabels::ShownAgain() {
   Grid.SetFocus();
 }
 
-bool frmAddressLabels::IsTextMode() const { return gReports->PrinterMode() >= kTextMode; }
-
 const char* frmAddressLabels::ConfigKey() const {
-  return IsTextMode() ? "AddLabelConfigDOS" : "AddLabelConfig";
+  return isTextMode_ ? "AddLabelConfigDOS" : "AddLabelConfig";
 }
 
 bool frmAddressLabels::SelectParties() {
@@ -135,7 +134,7 @@ std::string frmAddressLabels::Query() const {
 }
 
 void frmAddressLabels::SetColumns() {
-  const LabelConfig config(Config, IsTextMode());
+  const LabelConfig config(Config, isTextMode_);
   ColCount = config.Columns();
   const long gap = config.ColumnGap();
   const long usable = std::max(Grid.Width - kBeside - (ColCount - 1) * gap, 0L);
@@ -163,7 +162,7 @@ void frmAddressLabels::FillLabels() {
 }
 
 void frmAddressLabels::AddLabels(CDataSet& parties) {
-  const int copies = LabelConfig(Config, IsTextMode()).Copies();
+  const int copies = LabelConfig(Config, isTextMode_).Copies();
   LabelSheet sheet(Grid, ColCount);
   LabelSheet::Place place;
   Progress progress("Labels", 0);
@@ -186,7 +185,7 @@ void frmAddressLabels::AddLabels(CDataSet& parties) {
 }
 
 std::string frmAddressLabels::TextOf(std::vector<std::string> lines, const CDataSet& party) const {
-  const LabelConfig config(Config, IsTextMode());
+  const LabelConfig config(Config, isTextMode_);
   const auto add = [&](const char* name, const char* label, const char* field) {
     const std::string value = config.Prints(name) ? party.Field(field).ToText() : std::string();
     if (!text::Trim(value).empty()) lines.push_back(label + value);
@@ -290,7 +289,7 @@ void frmAddressLabels::OpenLetter() {
 }
 
 void frmAddressLabels::Print(bool print) {
-  const LabelConfig config(Config, IsTextMode());
+  const LabelConfig config(Config, isTextMode_);
   CReportOptions options;
   for (int col = 0; col < ColCount; ++col) options.SetColumnOption(col + 1, "Wrap", "True");
   options.Settings.LineHeight = config.Height() * 1440;

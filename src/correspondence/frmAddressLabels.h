@@ -47,7 +47,6 @@ class frmAddressLabels : public ScreenForm {
   GridModel* MainGrid() override { return &Grid; }
 
  private:
-  bool IsTextMode() const;
   const char* ConfigKey() const;
   void SetColumns();
   std::string Query() const;
@@ -63,6 +62,7 @@ class frmAddressLabels : public ScreenForm {
   void OpenEnvelope();
   void OpenLetter();
 
+  bool isTextMode_ = false;
   bool detailsOpened_ = false;
 };
 
