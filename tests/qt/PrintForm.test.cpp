@@ -4,7 +4,9 @@
 
 #include "desk/print/PdfPrinter.h"
 #include "desk/qt/windows/FormPicture.h"
+#include "desk/screens/frmProofSheet.h"
 #include "host/controls/host_controls.h"
+#include "host/services/Calibration.h"
 #include "tests/qt/FormTest.h"
 #include "tests/support/PdfReader.h"
 
@@ -70,6 +72,25 @@ TEST_F(PrintFormTest, AFormGoesOnALandscapePageAsTextsAndVectors) {
   const std::string surface = PdfReader::Run("pdftoppm -gray -r 20 -x 200 -y 20 -W 1 -H 1 '" + file + "'");
   EXPECT_EQ(surface.back(), '\xFF') << "a form without a colour of its own leaves the paper white";
   EXPECT_EQ(PdfReader::Run("pdfimages -list '" + file + "' | tail -n +3"), "") << "no picture";
+}
+
+TEST_F(PrintFormTest, TheCrossesOfAProofSheetLieWhereTheyAreMeasuredFrom) {
+  PdfPrinter printer(folder_.Path().string());
+  FormPicture::Print(std::make_shared<frmProofSheet>("Laser"), printer);
+  const PdfReader pdf(folder_.File("print-1.pdf"));
+  constexpr double kMillimetre = PdfReader::kTwipsPerMillimetre;
+  constexpr Calibration::Measured kProof = Calibration::kProof;
+  const auto ink = [&](double left, double top, double width, double height) {
+    return pdf.Ink(1, left * kMillimetre, top * kMillimetre, width * kMillimetre, height * kMillimetre);
+  };
+  for (const auto& [left, top] : {std::pair(kProof.Left, kProof.Top),
+                                  {kProof.Left + kProof.Across, kProof.Top},
+                                  {kProof.Left, kProof.Top + kProof.Down}}) {
+    EXPECT_GT(ink(left - 0.3, top - 4, 0.6, 3), 0) << "upright, within 0.3 mm";
+    EXPECT_GT(ink(left - 4, top - 0.3, 3, 0.6), 0) << "across, within 0.3 mm";
+    EXPECT_EQ(ink(left + 0.5, top + 0.5, 3, 3), 0);
+  }
+  EXPECT_NEAR(pdf.Find("Proof").left, 80 * kMillimetre, 60);
 }
 
 /// No file grows beyond so many bytes while it lives, as on a disk that is full.
