@@ -2,6 +2,7 @@
 
 #include "envelopes/EnvelopeSettings.h"
 #include "envelopes/FromBlock.h"
+#include "envelopes/PartiesAhead.h"
 #include "host/forms/AccountPicker.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
@@ -169,8 +170,12 @@ void frmEnvelopePrint::ShowParty(long code, bool keepShown) {
   if (!keepShown) shownCode_ = code;
   CPartyInfo party;
   party.Code = code;
+  FillParty(party);
+}
+
+void frmEnvelopePrint::FillParty(CPartyInfo& party) {
   std::vector<std::string> lines;
-  if (code != 0) lines = gApp->GetPartyAddress(party);
+  if (party.Code != 0) lines = gApp->GetPartyAddress(party);
   const bool found = party.DataSet && !party.DataSet->Eof();
   const auto field = [&](const char* name) {
     return found ? party.DataSet->Field(name).ToText() : std::string();
@@ -294,11 +299,14 @@ void frmEnvelopePrint::PrintEnvelopes(bool all) {
 void frmEnvelopePrint::PrintAll(LayoutRun& run, int pageFrom, int pageTo, int copies) {
   const auto grid = std::dynamic_pointer_cast<GridModel>(fAdLbl->Get("Grid").ToObject());
   const int columns = static_cast<int>(fAdLbl->Get("ColCount").ToInteger());
+  PartiesAhead parties(*grid, columns);
   int row = 0;
   int place = 0;
-  const auto code = [&] { return static_cast<long>(ValInteger(grid->Cell(row, columns + place))); };
   for (int page = 1; page <= pageTo; ++page) {
-    ShowParty(code(), true);
+    CPartyInfo party;
+    party.Code = parties.CodeAt(row, place);
+    if (party.Code != 0) party.DataSet = parties.RecordAt(row, place);
+    FillParty(party);
     if (page >= pageFrom) PrintCopies(run, copies);
     if (place < columns - 1) {
       ++place;
@@ -308,7 +316,7 @@ void frmEnvelopePrint::PrintAll(LayoutRun& run, int pageFrom, int pageTo, int co
     } else {
       break;
     }
-    if (code() == 0) break;
+    if (parties.CodeAt(row, place) == 0) break;
     run.NewPage();
   }
 }

@@ -11,6 +11,7 @@
 #include "host/controls/Label.h"
 #include "host/controls/TextBox.h"
 #include "host/forms/ScreenForm.h"
+#include "host/services/CPartyInfo.h"
 #include "layout/FocusPanel.h"
 #include "layout/LayoutBoard.h"
 #include "layout/LayoutRun.h"
@@ -82,6 +83,7 @@ class frmEnvelopePrint : public ScreenForm {
   void Connect();
   void ShowWanted();
   bool SelectParty();
+  void FillParty(CPartyInfo& party);
   void StepParty(const char* method);
   void ShowMode();
   void OpenFrame();
