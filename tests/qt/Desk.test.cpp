@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <algorithm>
+#include <thread>
 
 #include "desk/firm/Firm.h"
 #include "desk/qt/dialogs/DateDialog.h"
@@ -206,14 +207,15 @@ TEST_F(DeskTest, AStoreThatWaitsForAnotherProgramSaysSo) {
   bool isBusy = false;
   grid.UserMoveTo(row, kCleared);
   Type("5");
-  Soon([&] {
+  QTimer::singleShot(900, qApp, [&] {
     waiting = words();
     isBusy = QApplication::overrideCursor() != nullptr;
-    theirs.CommitTrans();
+    std::thread([&] { theirs.CommitTrans(); }).join();
   });
   Press(Qt::Key_Return);
   EXPECT_TRUE(waiting.contains(QStringLiteral("Waiting for another program"))) << waiting.toStdString();
   EXPECT_TRUE(isBusy);
+  QApplication::processEvents();
   EXPECT_EQ(words(), before);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   EXPECT_EQ(grid.TextMatrix(row, kCleared).substr(0, 3), "05-") << "it went on when the other was done";

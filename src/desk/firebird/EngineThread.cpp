@@ -46,6 +46,8 @@ class Worker {
     thread_.join();
   }
 
+  bool IsFor(std::thread::id thread) const { return thread == owner_; }
+
   void Do(const std::function<void()>& work, Firebird::IAttachment* mayBreak) {
     if (work_ != nullptr) throw HostError("The books are being read just now");
     failure_ = nullptr;
@@ -109,6 +111,7 @@ class Worker {
   std::condition_variable done_;
   std::atomic<const std::function<void()>*> work_ = nullptr;
   std::exception_ptr failure_;
+  const std::thread::id owner_ = std::this_thread::get_id();
   bool isEnding_ = false;
   std::thread thread_;
 };
@@ -124,7 +127,7 @@ void EngineThread::Start(std::function<bool(bool mayBreak)> wait) {
 void EngineThread::Stop() { worker.reset(); }
 
 void EngineThread::Do(const std::function<void()>& work, Firebird::IAttachment* mayBreak) {
-  if (worker) {
+  if (worker && worker->IsFor(std::this_thread::get_id())) {
     worker->Do(work, mayBreak);
   } else {
     work();

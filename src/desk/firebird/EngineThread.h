@@ -14,7 +14,8 @@ class EngineThread {
  public:
   /// From now on the engine works in a thread of its own. Where that takes more than a moment the calling
   /// thread calls `wait` again and again, for some milliseconds each time; it is told whether the work may be
-  /// broken off and answers whether it is to be.
+  /// broken off and answers whether it is to be. It is for the thread that starts it; others work for
+  /// themselves.
   static void Start(std::function<bool(bool mayBreak)> wait);
 
   /// The thread ends; what follows is done by the caller itself.

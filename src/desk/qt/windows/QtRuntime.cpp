@@ -92,8 +92,10 @@ void QtRuntime::HideProgress() {
 
 void QtRuntime::ShowWaiting(bool on) {
   if (QThread::currentThread() != qApp->thread()) {
-    QMetaObject::invokeMethod(
-        qApp, [on] { gRuntime->ShowWaiting(on); }, Qt::QueuedConnection);
+    const auto show = [on] {
+      if (gRuntime != nullptr) gRuntime->ShowWaiting(on);
+    };
+    QMetaObject::invokeMethod(qApp, show, Qt::QueuedConnection);
     return;
   }
   if (on) {
