@@ -114,7 +114,7 @@ PaperTimes PaperWork::Cheques(int count) {
 
 FormPtr PaperWork::OpenLabels(int mostParties) {
   runtime_.Laid.Add({{"to", "parties"}, {"clause", "b.mcd<=" + std::to_string(mostParties)}});
-  const FormPtr labels = desk_.Module().GetForm("addresslabels");
+  FormPtr labels = desk_.Module().GetForm("addresslabels");
   gApp->ShowForm(labels);
   return labels;
 }
@@ -145,7 +145,7 @@ PaperTimes PaperWork::Report(const std::string& title, const std::function<void(
 
 PaperTimes PaperWork::Labels() {
   const FormPtr labels = OpenLabels(10'000);
-  const PaperTimes times = Report("10,000 labels, filled and printed", [&] {
+  PaperTimes times = Report("10,000 labels, filled and printed", [&] {
     labels->Call("FillLabels", {});
     Press(*labels, "Print");
   });
@@ -157,7 +157,7 @@ PaperTimes PaperWork::Letter() {
   const FormPtr letter = desk_.Module().GetForm("mailmerge");
   letter->Set("FilterCnd", "b.mcd<=10000");
   gApp->ShowForm(letter);
-  const PaperTimes times = Report("a letter to 10,000 parties", [&] { Press(*letter, "Print"); });
+  PaperTimes times = Report("a letter to 10,000 parties", [&] { Press(*letter, "Print"); });
   runtime_.Unload(*letter);
   return times;
 }

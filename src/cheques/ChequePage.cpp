@@ -105,7 +105,7 @@ std::vector<std::string> ChequePage::FitWords(IPrinter& printer, const std::stri
     restOfWords_ = split.Rest;
     return text::Split(split.First, kLineEnd);
   }
-  const std::vector<std::string> lines = text::Split(words, kLineEnd);
+  std::vector<std::string> lines = text::Split(words, kLineEnd);
   printer.Font.Size = ShrunkSize(lines, printer.Font.Size, IPrinter::ScaleX(kShrinkLimit),
                                  [&](const std::string& line, double size) {
                                    printer.Font.Size = size;

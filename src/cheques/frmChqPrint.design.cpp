@@ -21,28 +21,28 @@ constexpr int kRight = 1;
 const Font kObjectFont{"Tahoma", 9.75, true, false, false};
 
 struct ObjectDesign {
-  int Index;
   const char* Tag;
   const char* Caption;
   long Left;
   long Top;
   long Width;
+  int Index;
   bool Shown;
   bool AlignsRight;
 };
 
 constexpr ObjectDesign kObjects[] = {
-    {0, "PayTo", "Pay To", 870, 720, 7545, true, false},
-    {1, "Date", "Date", 8790, 270, 2145, true, false},
-    {2, "AmtInWords", "Amount in words", 870, 1140, 7545, true, false},
-    {3, "Amount", "Rs.", 8460, 1560, 2055, true, false},
-    {4, "ForFirm", "For", 4980, 2100, 4065, true, true},
-    {5, "Desig", "Designation", 4980, 2730, 4065, true, true},
-    {6, "PayeesAc", "Payee's A/c Only", 240, 120, 2325, true, false},
-    {7, "BankAcNo", "A/c No:", 870, 2700, 3405, false, false},
-    {8, "AmtInWords2", "Amount in words - 2", 870, 1500, 7545, true, false},
-    {9, "Remarks", "Remarks", 870, 3180, 4605, false, false},
-    {10, "NotExceeding", "Not Exceeding", 870, 3660, 4605, false, false},
+    {"PayTo", "Pay To", 870, 720, 7545, 0, true, false},
+    {"Date", "Date", 8790, 270, 2145, 1, true, false},
+    {"AmtInWords", "Amount in words", 870, 1140, 7545, 2, true, false},
+    {"Amount", "Rs.", 8460, 1560, 2055, 3, true, false},
+    {"ForFirm", "For", 4980, 2100, 4065, 4, true, true},
+    {"Desig", "Designation", 4980, 2730, 4065, 5, true, true},
+    {"PayeesAc", "Payee's A/c Only", 240, 120, 2325, 6, true, false},
+    {"BankAcNo", "A/c No:", 870, 2700, 3405, 7, false, false},
+    {"AmtInWords2", "Amount in words - 2", 870, 1500, 7545, 8, true, false},
+    {"Remarks", "Remarks", 870, 3180, 4605, 9, false, false},
+    {"NotExceeding", "Not Exceeding", 870, 3660, 4605, 10, false, false},
 };
 
 void Place(Label& label, long left, long top, long width, double size = 9.75, bool bold = false) {

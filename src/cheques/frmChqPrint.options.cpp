@@ -34,7 +34,8 @@ void Flip(CheckBox& box) { box.CheckValue = box.CheckValue == 0 ? 1 : 0; }
 }  // namespace
 
 void frmChqPrint::ConnectOptions() {
-  const auto shows = [this](CheckBox& option, std::vector<int> objects, std::vector<Label*> preview) {
+  const auto shows = [this](CheckBox& option, const std::vector<int>& objects,
+                            const std::vector<Label*>& preview) {
     option.Click = [this, &option, objects, preview] {
       const bool shown = option.CheckValue != 0;
       for (const int object : objects) Lbl(object).Visible = shown;

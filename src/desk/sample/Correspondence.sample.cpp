@@ -16,8 +16,7 @@ void WriteParties(const SampleYearSoFar& year) {
        {"update FAMaster set mName=null where mbshno in (130,140) and mod(mcd,7)=0",
         "update FAMaster set mPhoneOff=null where mbshno in (130,140) and mod(mcd,5)=0",
         "update FAMaster set mCellNo=null where mbshno in (130,140) and mod(mcd,11)=0",
-        "update FAMaster set mBankName=null,mBankBranch=null,mIFSCCode=null,mBankAcNo=null where mbshno in "
-        "(130,140) and mod(mcd,6)=0",
+        "update FAMaster set mBankName=null,mBankAcNo=null where mbshno in (130,140) and mod(mcd,6)=0",
         "update FAMaster set mhda2=mst,mPin=null where mbshno in (130,140) and mod(mcd,8)=0",
         "update FAMaster set mhda1=mod(mcd,100)||', Transport Nagar',mPhoneOff='0253-'||mcd where mbshno=150",
         "update FAMaster set mhda1=mod(mcd,100)||', Cloth Market',mPhoneOff='0231-'||mcd where mbshno=160"}) {

@@ -85,7 +85,7 @@ Variant BankPayments::Call(const std::string& method, const Array& arguments) {
 
 FormPtr NewChequeForm(const FormPtr& caller, std::int64_t bank) {
   IModule* const module = gSession->Modules().Item("DutyworksModule");
-  const FormPtr cheque = module != nullptr ? module->GetForm("chqprint") : nullptr;
+  FormPtr cheque = module != nullptr ? module->GetForm("chqprint") : nullptr;
   if (!cheque) {
     gStd->MsgBox("The cheque form is not loaded.", "", "W");
     return nullptr;
