@@ -4,9 +4,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 
 #include "bench/BenchFirm.h"
+#include "bench/Memory.h"
 #include "bench/RatioTable.h"
 #include "bench/Stand.h"
 #include "tests/support/TempFolder.h"
@@ -90,16 +90,6 @@ void Register(Grounds& grounds, RatioTable& table, int entries, const Case& meas
         ->Unit(benchmark::kMillisecond)
         ->Iterations(Iterations(entries, measured));
   }
-}
-
-/// The most memory that this process has held, in megabytes.
-double PeakMegabytes() {
-  std::ifstream status("/proc/self/status");
-  for (std::string word; status >> word;) {
-    double kilobytes = 0;
-    if (word == "VmHWM:" && status >> kilobytes) return kilobytes / 1024;
-  }
-  return 0;
 }
 
 /// All that is measured once on a firm, by a desk that has a process for itself.

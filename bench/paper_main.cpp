@@ -2,9 +2,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <memory>
 
+#include "bench/Memory.h"
 #include "bench/PaperWork.h"
 #include "desk/firm/Firm.h"
 #include "tests/support/TempFolder.h"
@@ -15,16 +15,6 @@ using namespace quillon;
 using namespace quillon::bench;
 
 constexpr int kParties = 10'000;
-
-/// The most memory that this process has held, in megabytes.
-double PeakMegabytes() {
-  std::ifstream status("/proc/self/status");
-  for (std::string word; status >> word;) {
-    double kilobytes = 0;
-    if (word == "VmHWM:" && status >> kilobytes) return kilobytes / 1024;
-  }
-  return 0;
-}
 
 void Tell(const PaperTimes& times) {
   std::printf("%-36s | %8.3f | %8.3f | %5.2f | %5.0f\n", times.Title.c_str(), times.Desk, times.Floor,

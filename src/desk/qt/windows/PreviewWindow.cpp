@@ -1,12 +1,12 @@
 #include "desk/qt/windows/PreviewWindow.h"
 
 #include <QFile>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSaveFile>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -15,7 +15,6 @@
 #include "desk/print/ReportPainter.h"
 #include "desk/print/Spooler.h"
 #include "desk/qt/adapters/ElidedLabel.h"
-#include "desk/qt/adapters/PushButton.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
 #include "desk/qt/dialogs/PrintDialog.h"
@@ -29,57 +28,32 @@ namespace quillon {
 namespace {
 
 constexpr std::array kZooms = {50, 75, 100, 125, 150, 200, 300};
-constexpr int kWidth = 15000;
-constexpr int kHeight = 10500;
 
 }  // namespace
 
 PreviewWindow::PreviewWindow(ReportCopy report, QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
+    : PagesWindow(QString::fromStdString("Preview: " + report.Sheets.Title), parent),
       report_(std::move(report)),
-      pages_(new PageView(report_.Sheets)),
-      area_(new QScrollArea(this)),
       search_(new QLineEdit(this)),
       state_(new ElidedLabel(this)) {
-  setWindowTitle(QString::fromStdString("Preview: " + report_.Sheets.Title));
-  auto* const all = new QVBoxLayout(this);
-  auto* const tools = new QHBoxLayout;
-  AddTool(*tools, QStringLiteral("F9: Print"), QStringLiteral("print"), [this] { Print(); });
-  AddTool(*tools, QStringLiteral("F5: Save as PDF"), QStringLiteral("save"), [this] { SavePdf(); });
-  AddTool(*tools, QStringLiteral("F6: Save as CSV"), QStringLiteral("acstatement"), [this] { SaveCsv(); });
+  ShowPages(report_.Sheets);
+  AddTool(QStringLiteral("F9: Print"), QStringLiteral("print"), [this] { Print(); });
+  AddTool(QStringLiteral("F5: Save as PDF"), QStringLiteral("save"), [this] { SavePdf(); });
+  AddTool(QStringLiteral("F6: Save as CSV"), QStringLiteral("acstatement"), [this] { SaveCsv(); });
   search_->setPlaceholderText(QStringLiteral("Search (F3: next)"));
   search_->setAccessibleName(QStringLiteral("Search"));
   search_->setMaximumWidth(Scale::Px(3300));
   // A long path must neither widen the window nor take the room of the search.
   state_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   search_->setMinimumWidth(Scale::Px(1800));
-  tools->addWidget(search_);
-  tools->addWidget(state_, 1);
-  AddTool(*tools, QStringLiteral("F7: Smaller"), QString(), [this] { Zoom(-1); });
-  AddTool(*tools, QStringLiteral("F8: Larger"), QString(), [this] { Zoom(1); });
-  AddTool(*tools, QStringLiteral("Esc: Close"), QStringLiteral("close"), [this] { reject(); });
-  all->addLayout(tools);
-  area_->setWidget(pages_);
-  area_->setAlignment(Qt::AlignHCenter);
-  area_->setBackgroundRole(QPalette::Mid);
-  area_->setFocusPolicy(Qt::StrongFocus);
-  all->addWidget(area_, 1);
+  Tools().addWidget(search_);
+  Tools().addWidget(state_, 1);
+  AddTool(QStringLiteral("F7: Smaller"), QString(), [this] { Zoom(-1); });
+  AddTool(QStringLiteral("F8: Larger"), QString(), [this] { Zoom(1); });
+  AddTool(QStringLiteral("Esc: Close"), QStringLiteral("close"), [this] { reject(); });
   connect(search_, &QLineEdit::returnPressed, this, [this] { Find(); });
   connect(area_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { ShowState(); });
-  resize(Scale::Px(kWidth), Scale::Px(kHeight));
   ShowState();
-  area_->setFocus();
-}
-
-void PreviewWindow::AddTool(QHBoxLayout& tools, const QString& caption, const QString& icon,
-                            const std::function<void()>& pressed) {
-  auto* const button = new PushButton(this);
-  button->SetCaption(caption);
-  button->SetIconKey(icon);
-  button->setAutoDefault(false);
-  button->setFocusPolicy(Qt::NoFocus);
-  connect(button, &QPushButton::clicked, this, pressed);
-  tools.addWidget(button);
 }
 
 void PreviewWindow::ShowState() {

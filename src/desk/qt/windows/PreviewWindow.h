@@ -1,23 +1,18 @@
 #pragma once
 
-#include <QDialog>
-#include <functional>
-
+#include "desk/qt/windows/PagesWindow.h"
 #include "desk/qt/windows/ReportCopy.h"
 #include "host/services/PrintSetup.h"
 
 class QLabel;
 class QLineEdit;
-class QScrollArea;
-class QHBoxLayout;
 
 namespace quillon {
 
 class PageView;
-class PushButton;
 
 /// A report on the screen: pages, zoom, search, print, and the report as a PDF or a spreadsheet's file.
-class PreviewWindow : public QDialog {
+class PreviewWindow : public PagesWindow {
  public:
   PreviewWindow(ReportCopy report, QWidget* parent);
 
@@ -34,8 +29,6 @@ class PreviewWindow : public QDialog {
   void done(int result) override;
 
  private:
-  void AddTool(QHBoxLayout& tools, const QString& caption, const QString& icon,
-               const std::function<void()>& pressed);
   void ShowState();
   void Tell(const QString& text);
 
@@ -50,8 +43,6 @@ class PreviewWindow : public QDialog {
   std::string FileOf(const PrintSetup& setup) const;
 
   ReportCopy report_;
-  PageView* pages_;
-  QScrollArea* area_;
   QLineEdit* search_;
   QLabel* state_;
 };

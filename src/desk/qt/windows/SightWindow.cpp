@@ -1,13 +1,10 @@
 #include "desk/qt/windows/SightWindow.h"
 
+#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QScrollArea>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "desk/qt/adapters/ElidedLabel.h"
-#include "desk/qt/adapters/PushButton.h"
-#include "desk/qt/adapters/Scale.h"
 #include "desk/qt/windows/PageView.h"
 #include "host/services/Calibration.h"
 
@@ -15,8 +12,6 @@ namespace quillon {
 
 namespace {
 
-constexpr int kWidth = 15000;
-constexpr int kHeight = 10500;
 constexpr int kZoomStep = 25;
 constexpr int kSmallest = 50;
 constexpr int kLargest = 300;
@@ -37,40 +32,17 @@ QString Words(const ReportPages& pages, const std::string& printer) {
 }  // namespace
 
 SightWindow::SightWindow(const ReportPages& pages, const std::string& printer, QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
-      pages_(new PageView(pages)),
-      area_(new QScrollArea(this)) {
-  setWindowTitle(QStringLiteral("Before it is printed"));
-  auto* const all = new QVBoxLayout(this);
-  auto* const tools = new QHBoxLayout;
-  AddTool(*tools, QStringLiteral("F9: Print"), QStringLiteral("print"), [this] { accept(); });
-  AddTool(*tools, QStringLiteral("Esc: Discard"), QStringLiteral("delete"), [this] { reject(); });
+    : PagesWindow(QStringLiteral("Before it is printed"), parent) {
+  ShowPages(pages);
+  AddTool(QStringLiteral("F9: Print"), QStringLiteral("print"), [this] { accept(); });
+  AddTool(QStringLiteral("Esc: Discard"), QStringLiteral("delete"), [this] { reject(); });
   auto* const state = new ElidedLabel(this);
   state->setText(Words(pages, printer));
   state->setToolTip(state->text());
   state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  tools->addWidget(state, 1);
-  AddTool(*tools, QStringLiteral("F7: Smaller"), QString(), [this] { Zoom(-kZoomStep); });
-  AddTool(*tools, QStringLiteral("F8: Larger"), QString(), [this] { Zoom(kZoomStep); });
-  all->addLayout(tools);
-  area_->setWidget(pages_);
-  area_->setAlignment(Qt::AlignHCenter);
-  area_->setBackgroundRole(QPalette::Mid);
-  area_->setFocusPolicy(Qt::StrongFocus);
-  all->addWidget(area_, 1);
-  resize(Scale::Px(kWidth), Scale::Px(kHeight));
-  area_->setFocus();
-}
-
-void SightWindow::AddTool(QHBoxLayout& tools, const QString& caption, const QString& icon,
-                          const std::function<void()>& pressed) {
-  auto* const button = new PushButton(this);
-  button->SetCaption(caption);
-  button->SetIconKey(icon);
-  button->setAutoDefault(false);
-  button->setFocusPolicy(Qt::NoFocus);
-  connect(button, &QPushButton::clicked, this, pressed);
-  tools.addWidget(button);
+  Tools().addWidget(state, 1);
+  AddTool(QStringLiteral("F7: Smaller"), QString(), [this] { Zoom(-kZoomStep); });
+  AddTool(QStringLiteral("F8: Larger"), QString(), [this] { Zoom(kZoomStep); });
 }
 
 void SightWindow::Zoom(int step) {
