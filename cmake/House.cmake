@@ -10,6 +10,7 @@ option(QUILLON_SANITIZE "Build with the address and undefined-behaviour sanitize
 if(QUILLON_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+  link_libraries($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:$<TARGET_OBJECTS:quillon_leaks>>)
 endif()
 
 # Reads the table of arrows: QUILLON_TARGETS, and of each target its folders and what it uses.
