@@ -78,6 +78,7 @@ void PassBookView::Fill() {
                               books::InLists("a.dBook");
   const std::shared_ptr<void> otherSides = account_.ExpectOtherSides(cleared);
   CDataSet entries;
+  entries.Reads = {"VoucherID", "dBankDate", "dBook", "dAmt"};
   entries.Open(
       "Select a.*,n.Narration from FAData a Left Join FANar n on a.NarrationID=n.NarrationID where " +
           cleared + " order by a.dBankDate,a.dVchNo,a.dSrNo",

@@ -156,6 +156,7 @@ void StatementView::AddSections(const std::string& condition, Section& debits, S
   CDbLink& db = gSession->Year().Db();
   const std::shared_ptr<void> otherSides = account_.ExpectOtherSides(condition);
   CDataSet lines;
+  lines.Reads = {"VoucherID", "dVchSubNo", "dVchDate", "dBook", "dAmt", "dBankDate"};
   lines.Open("Select a.*,n.Narration from FAData a,FANar n where a.NarrationID=n.NarrationID and " +
                  condition + " order by a.dvchdate,a.dbook",
              db);

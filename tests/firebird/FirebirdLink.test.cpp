@@ -90,6 +90,17 @@ TEST_F(LinkTest, SortsBeforeItJoinsAndGivesTheSameRows) {
       }
     }
   }
+  // The columns that its reader names come alone, whether the join needs another or not.
+  using Names = std::vector<std::string>;
+  for (const Names& reads : {Names{"amt", "id"}, Names{"id", "NAR"}}) {
+    CDataSet set;
+    set.Reads = reads;
+    set.Open(both + "a.id between 7 and 9 order by a.id", *link_);
+    EXPECT_EQ(set.FieldNames(), (Names{text::Upper(reads[0]), text::Upper(reads[1]), "NARRATION"}));
+    EXPECT_EQ(set.RecordCount(), 1);
+    EXPECT_EQ(set.Field("Id").ToInteger(), 9);
+    EXPECT_THROW(static_cast<void>(set.Field("vdate")), SubscriptError);
+  }
 }
 
 TEST_F(LinkTest, LeavesOtherQueriesAsTheyStand) {

@@ -34,7 +34,7 @@ class OneRecord : public CDbLink {
   void CommitTrans() override { Refuse("commit"); }
   void RollbackTrans() override { Refuse("rollback"); }
   bool InTransaction() const override { return false; }
-  std::unique_ptr<RowSet> OpenRows(const std::string&, bool, bool) override {
+  std::unique_ptr<RowSet> OpenRows(const std::string&, const RowSet::Wish&) override {
     return std::make_unique<Rows>(fields_);
   }
 

@@ -299,11 +299,12 @@ void FirebirdLink::RollbackTrans() {
   work_.reset();
 }
 
-std::unique_ptr<RowSet> FirebirdLink::OpenRows(const std::string& sql, bool changeable, bool keep) {
+std::unique_ptr<RowSet> FirebirdLink::OpenRows(const std::string& sql, const RowSet::Wish& wish) {
   std::unique_ptr<FirebirdRows> rows;
   Send(sql, Aim::kRead, [&] {
-    const bool whole = keep || inTransaction_;
-    rows = std::make_unique<FirebirdRows>(*this, Reading(), sql, changeable, whole);
+    RowSet::Wish wanted = wish;
+    wanted.Keep = wish.Keep || inTransaction_;
+    rows = std::make_unique<FirebirdRows>(*this, Reading(), sql, wanted);
     if (rows->HasBlobs()) read_.reset();
   });
   Tell(sql, 0, {});
@@ -321,9 +322,10 @@ bool FirebirdLink::SortsWholeRows() {
   return *sortsWholeRows_;
 }
 
-std::optional<std::string> FirebirdLink::Leaner(const std::string& query) {
+std::optional<std::string> FirebirdLink::Leaner(const std::string& query,
+                                                const std::vector<std::string>& reads) {
   std::optional<std::string> leaner =
-      SortedBeforeJoin(query, [this](const std::string& table) { return KeyOf(table); });
+      SortedBeforeJoin(query, reads, [this](const std::string& table) { return KeyOf(table); });
   return leaner && SortsWholeRows() ? leaner : std::nullopt;
 }
 

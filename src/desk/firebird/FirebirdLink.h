@@ -51,7 +51,7 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   void BeginTrans() override;
   void CommitTrans() override;
   void RollbackTrans() override;
-  std::unique_ptr<RowSet> OpenRows(const std::string& sql, bool changeable, bool keep) override;
+  std::unique_ptr<RowSet> OpenRows(const std::string& sql, const RowSet::Wish& wish) override;
 
   /// Runs a statement that changes rows, with values for its question marks, prepared once and kept. Answers
   /// the number of rows changed.
@@ -69,8 +69,9 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   /// The columns of a table's primary key, in its order; none when the table has no such key.
   const std::vector<std::string>& KeyOf(const std::string& table);
 
-  /// The same query in a form that the engine answers faster; nothing where there is none.
-  std::optional<std::string> Leaner(const std::string& query);
+  /// The same query in a form that the engine answers faster; nothing where there is none. Of a table that it
+  /// asks whole only the columns `reads` are answered, where any are named.
+  std::optional<std::string> Leaner(const std::string& query, const std::vector<std::string>& reads = {});
 
   /// The connection at hand; nothing while there is none.
   Firebird::IAttachment* Handle() const { return attachment_ ? attachment_->Handle() : nullptr; }

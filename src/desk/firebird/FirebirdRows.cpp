@@ -19,14 +19,14 @@ constexpr const char* kRowKey = "RDB$DB_KEY";
 }  // namespace
 
 FirebirdRows::FirebirdRows(FirebirdLink& link, const std::shared_ptr<FirebirdTransaction>& transaction,
-                           const std::string& sql, bool changeable, bool whole)
+                           const std::string& sql, const Wish& wish)
     : link_(link.weak_from_this()),
       sql_(sql),
-      statement_(changeable ? std::make_unique<FirebirdStatement>(*transaction, sql)
-                            : Lean(link, *transaction, sql)),
-      changeable_(changeable) {
+      statement_(wish.Changeable ? std::make_unique<FirebirdStatement>(*transaction, sql)
+                                 : Lean(link, *transaction, sql, wish.Reads)),
+      changeable_(wish.Changeable) {
   for (const FirebirdField& field : statement_->Outputs()) names_.push_back(field.Name);
-  if (changeable) PrepareForChange(link, *transaction);
+  if (changeable_) PrepareForChange(link, *transaction);
   fields_ = statement_->Outputs();
   std::vector<FirebirdField::Kind> kinds;
   for (const FirebirdField& field : fields_) {
@@ -35,12 +35,13 @@ FirebirdRows::FirebirdRows(FirebirdLink& link, const std::shared_ptr<FirebirdTra
   }
   store_.emplace(std::move(kinds));
   statement_->Open(transaction);
-  if (whole || changeable) Fetch(INT64_MAX);
+  if (wish.Keep || changeable_) Fetch(INT64_MAX);
 }
 
 std::unique_ptr<FirebirdStatement> FirebirdRows::Lean(FirebirdLink& link, FirebirdTransaction& transaction,
-                                                      const std::string& sql) {
-  if (const std::optional<std::string> leaner = link.Leaner(sql)) {
+                                                      const std::string& sql,
+                                                      const std::vector<std::string>& reads) {
+  if (const std::optional<std::string> leaner = link.Leaner(sql, reads)) {
     try {
       return std::make_unique<FirebirdStatement>(transaction, *leaner);
     } catch (const DbError& error) {

@@ -16,10 +16,10 @@ class FirebirdLink;
 /// The rows of a query: read in blocks, and kept, so that they can be walked both ways.
 class FirebirdRows final : public RowSet {
  public:
-  /// `whole` reads all rows at once and lets the cursor go: such a set outlives transactions, and its own
-  /// changes do not come back to it. A changeable set is always read whole.
+  /// Rows that are kept are read all at once and let the cursor go: such a set outlives transactions, and its
+  /// own changes do not come back to it. A changeable set is always read so.
   FirebirdRows(FirebirdLink& link, const std::shared_ptr<FirebirdTransaction>& transaction,
-               const std::string& sql, bool changeable, bool whole);
+               const std::string& sql, const Wish& wish);
 
   const std::vector<std::string>& FieldNames() const override { return names_; }
   bool Seek(std::int64_t row) override;
@@ -40,7 +40,8 @@ class FirebirdRows final : public RowSet {
   };
 
   static std::unique_ptr<FirebirdStatement> Lean(FirebirdLink& link, FirebirdTransaction& transaction,
-                                                 const std::string& sql);
+                                                 const std::string& sql,
+                                                 const std::vector<std::string>& reads);
   void PrepareForChange(FirebirdLink& link, FirebirdTransaction& transaction);
   std::vector<std::string> FindTables(FirebirdLink& link);
   const Table& TableOf(std::size_t field) const;

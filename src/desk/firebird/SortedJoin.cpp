@@ -26,12 +26,22 @@ class JoinReader {
 
   const std::string& Table() const { return table_; }
 
-  std::string Sorted(const std::vector<std::string>& key) const {
+  std::string Sorted(const std::vector<std::string>& key, const std::vector<std::string>& reads) const {
     std::string order = order_.Text;
     for (const std::string& column : key) order += "," + alias_ + "." + column;
-    return "select " + list_.Text + " from (select " + alias_ + ".* from " + table_ + " " + alias_ +
-           " where " + condition_.Text + " order by " + order + ") " + alias_ + join_ + joined_ + " " +
-           joinedAlias_ + " on " + left_ + "=" + right_;
+    std::string list = list_.Text;
+    std::string carried = All();
+    const std::size_t all = text::Lower(list).find(text::Lower(All()));
+    if (all != std::string::npos && !reads.empty()) {
+      std::string asked;
+      for (const std::string& column : reads) asked += (asked.empty() ? "" : ",") + alias_ + "." + column;
+      list.replace(all, All().size(), asked);
+      carried = asked;
+      if (!IsAmong(reads, JoinedBy())) carried += "," + alias_ + "." + JoinedBy();
+    }
+    return "select " + list + " from (select " + carried + " from " + table_ + " " + alias_ + " where " +
+           condition_.Text + " order by " + order + ") " + alias_ + join_ + joined_ + " " + joinedAlias_ +
+           " on " + left_ + "=" + right_;
   }
 
  private:
@@ -43,6 +53,19 @@ class JoinReader {
         true;            ///< nothing in it but columns with their table, literals and the words of conditions
     bool HasOr = false;  ///< outside brackets
   };
+
+  std::string All() const { return alias_ + ".*"; }
+
+  /// The first table's column of the equality.
+  std::string JoinedBy() const {
+    const std::string& own = AliasOf(left_) == text::Lower(alias_) ? left_ : right_;
+    return own.substr(own.find('.') + 1);
+  }
+
+  static bool IsAmong(const std::vector<std::string>& columns, const std::string& wanted) {
+    return std::any_of(columns.begin(), columns.end(),
+                       [&](const std::string& column) { return text::Lower(column) == text::Lower(wanted); });
+  }
 
   bool Word(std::string_view word) {
     if (!reader_.Is(word)) return false;
@@ -149,10 +172,11 @@ class JoinReader {
 }  // namespace
 
 std::optional<std::string> SortedBeforeJoin(
-    const std::string& query, const std::function<std::vector<std::string>(const std::string&)>& keyOf) {
+    const std::string& query, const std::vector<std::string>& reads,
+    const std::function<std::vector<std::string>(const std::string&)>& keyOf) {
   JoinReader reader(query);
   if (!reader.Read()) return {};
-  return reader.Sorted(keyOf(text::Upper(reader.Table())));
+  return reader.Sorted(keyOf(text::Upper(reader.Table())), reads);
 }
 
 }  // namespace quillon

@@ -21,7 +21,7 @@ bool SameName(const std::string& a, const std::string& b) {
 void CDataSet::Open(const std::string& sql, CDbLink& link, int /*cursorMode*/, int lockMode) {
   Close();
   std::unique_ptr<RowSet> rows =
-      link.OpenRows(sql, lockMode == kLockOptimistic, CursorLocation == kUseClient);
+      link.OpenRows(sql, {lockMode == kLockOptimistic, CursorLocation == kUseClient, Reads});
   empty_ = atEnd_ = !rows->Seek(0);
   rows_ = std::move(rows);
   row_ = 0;

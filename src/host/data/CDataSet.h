@@ -28,6 +28,10 @@ class CDataSet {
   /// 3, set before Open, on sets that are kept after the connection is dropped.
   int CursorLocation = 0;
 
+  /// Set before Open on a query for all columns of a table ("a.*") that lists many rows: the columns that
+  /// will be read. Others may then be missing.
+  std::vector<std::string> Reads;
+
   /// Nothing detaches an open set: its rows are read to the end and stay readable.
   void SetActiveConnection(std::nullptr_t);
 

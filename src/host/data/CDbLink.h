@@ -6,11 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "host/data/RowSet.h"
 #include "host/values/Variant.h"
 
 namespace quillon {
-
-class RowSet;
 
 /// A connection to one database. Outside BeginTrans each statement commits by itself. Every failure is a
 /// DbError that carries the engine's message, its SQLSTATE and the statement.
@@ -49,9 +48,8 @@ class CDbLink {
   virtual void RollbackTrans() = 0;
   virtual bool InTransaction() const = 0;
 
-  /// What CDataSet opens. `changeable` asks for a set whose rows can be changed and added to; `keep` for one
-  /// that stays readable after the link is gone.
-  virtual std::unique_ptr<RowSet> OpenRows(const std::string& sql, bool changeable, bool keep) = 0;
+  /// What CDataSet opens.
+  virtual std::unique_ptr<RowSet> OpenRows(const std::string& sql, const RowSet::Wish& wish) = 0;
 
   /// Expires with the link: for what may outlive it.
   std::weak_ptr<const void> Life() const { return life_; }

@@ -15,6 +15,13 @@ class RowSet {
   /// Fields by their number, with the values that they are given.
   using Changes = std::vector<std::pair<std::size_t, Variant>>;
 
+  /// What the rows are opened for.
+  struct Wish {
+    bool Changeable = false;           ///< they can be changed and added to
+    bool Keep = false;                 ///< they stay readable after the link is gone
+    std::vector<std::string> Reads{};  ///< columns of a table asked whole ("a.*") of which no other is read
+  };
+
   RowSet() = default;
   RowSet(const RowSet&) = delete;
   RowSet& operator=(const RowSet&) = delete;
