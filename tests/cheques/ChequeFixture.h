@@ -32,7 +32,7 @@ class ChequeTest : public DeskTest {
 
   /// The form with a cheque of the bank, as a voucher's screen sets it, not shown yet.
   FormPtr NewCheque(long bank = 101, const std::string& amount = "1250.75") {
-    const FormPtr form = desk_.Module().GetForm("chqprint");
+    FormPtr form = desk_.Module().GetForm("chqprint");
     form->Set("BankCode", bank);
     form->Set("PartyCode", 201);
     form->Set("PayTo", "Asha Traders");
@@ -43,14 +43,14 @@ class ChequeTest : public DeskTest {
   }
 
   FormPtr ShowCheque(long bank = 101, const std::string& amount = "1250.75") {
-    const FormPtr form = NewCheque(bank, amount);
+    FormPtr form = NewCheque(bank, amount);
     Do([&] { gApp->ShowForm(form); });
     return form;
   }
 
   /// The cheque with its layout before the user.
   FormPtr ShowLayout(long bank = 101, const std::string& amount = "1250.75") {
-    const FormPtr form = ShowCheque(bank, amount);
+    FormPtr form = ShowCheque(bank, amount);
     Key(*form, keys::kF6);
     return form;
   }

@@ -73,7 +73,7 @@ TEST_F(ChequeLayout, TheNarrationMayNameThePayeeAndTheCallerMovesOn) {
   class Caller : public Form {
    public:
     Caller() : Form("Caller", Origin::Desk) { Routine("NextCheque", &Caller::NextCheque); }
-    void NextCheque(FormPtr cheque, int direction) {
+    void NextCheque(const FormPtr& cheque, int direction) {
       cheque->Set("PayTo", direction > 0 ? "Next" : "Previous");
       cheque->Call("UpdateLabels", {});
     }

@@ -83,7 +83,7 @@ TEST_F(ChequeLeaves, TheRegisterShowsABankAndItsKinds) {
                                       {"Issued Only", "8 "},
                                       {"Cancelled Only", "9 "},
                                       {"All", "5 8 9 "}}) {
-    Do([&] { At<ComboBox>(form_, "cmbRType").UserChoose(kind); });
+    Do([&, chosen = kind] { At<ComboBox>(form_, "cmbRType").UserChoose(chosen); });
     EXPECT_EQ(Numbers(), numbers);
   }
   EXPECT_TRUE(Grid().HasFocus());

@@ -30,7 +30,7 @@ class Envelopes : public DeskTest {
   }
 
   FormPtr Open(int party = 201) {
-    const FormPtr form = desk_.Module().GetForm("envelopeprint");
+    FormPtr form = desk_.Module().GetForm("envelopeprint");
     form->Set("AcCode", party);
     Do([&] { gApp->ShowForm(form); });
     return form;

@@ -115,7 +115,7 @@ QString DeskWindow::OpenFirm(const QString& folder, const QString& user, int sta
     return {};
   }
   CloseFirm();
-  const QString fault = TryFirm(folder, user, startYear);
+  QString fault = TryFirm(folder, user, startYear);
   ShowState();
   TakeArea();
   return fault;
