@@ -124,43 +124,41 @@ TEST(SampleFirm, TheBooksHaveEverySituationThatTheScreensTreat) {
   const auto expect = [&](const std::string& from) {
     EXPECT_TRUE(db.RowExists("select 1 from " + from)) << from;
   };
-  for (const char* from :
-       {"FAData where dBook='0B' and dTrnType='0B'",
-        "FAData where dBook='MEM'",
-        "FAData where dBook='C' and dcd=1",
-        "FAData where dBook='J'",
-        "FAData where dcd in (101,102,103) and dBankDate<dVchDate",
-        "FAData where dcd in (101,102,103) and dBankDate>dVchDate and dVchDate>='2024-04-01'",
-        "FAData where dcd in (101,102,103) and dBankDate is null and dVchDate>='2024-04-01' and dBook<>'0B'",
-        "FAData where dVchDate<'2024-04-01' and dBankDate>='2024-04-01'",
-        "FAData where dLocked=1",
-        "FAData where dTrnNature=5022 and dVchDate='2025-03-31'",
-        "FADocs d join FAData a on a.VoucherID=d.VoucherID where d.ChqReturn='Y' and a.dcd=101",
-        "FADocs group by VoucherID having count(*)>1",
-        "FADocs where TransportCode>0 and AgentCode>0",
-        "FANar where Narration like '%Chq.No. 47%'",
-        "(select a.dcd,substring(n.Narration from 1 for 14) as Cheque from FAData a "
-        "join FANar n on a.NarrationID=n.NarrationID "
-        "where a.dcd in (101,102,103) and n.Narration starting with 'Chq.No. ' "
-        "and extract(day from a.dVchDate) between 20 and 23) group by dcd,Cheque having count(*)=2",
-        "DocMain m join DocData d on d.DocumentID=m.DocumentID where DocSeries='FAS'",
-        "DocMain where DocSeries<>'FAS' and dLocked=1",
-        "ChqLeaves where Cancelled='Y'",
-        "ChqLeaves where VoucherID is not null and Amount>0",
-        "ChqLeaves where VoucherID is null and Cancelled is null",
-        "FAMaster where mcd=1 and mhd='Cash'",
-        "FAMaster where mcd=19",
-        "FAMaster where mgrpno=26",
-        "FAMaster where mbshno=130 and mst='पुणे' and mhda1<>''",
-        "FAMaster where mDeactiveDate is not null",
-        "FAMaster where mTransportCode>0 and mAgentCode>0",
-        "FAMaster group by mhd,mst having count(*)>1",
-        "FAMaster where malias1<>'' group by malias1 having count(*)>1",
-        "RatesPA where mcd=101 and Rate1=8.25",
-        "RatesPA where mcd=102 and Rate1=11.5",
-        "EntryFormDetails where FormName='RC1'",
-        "VATClasses",
-        "StkHeads a join StkMaster b on a.code=b.qmcd"}) {
+  for (
+      const char* from :
+      {"FAData where dBook='0B' and dTrnType='0B'",
+       "FAData where dBook='MEM'",
+       "FAData where dBook='C' and dcd=1",
+       "FAData where dBook='J'",
+       "FAData where dcd in (101,102,103) and dBankDate<dVchDate",
+       "FAData where dcd in (101,102,103) and dBankDate>dVchDate and dVchDate>='2024-04-01'",
+       "FAData where dcd in (101,102,103) and dBankDate is null and dVchDate>='2024-04-01' and dBook<>'0B'",
+       "FAData where dVchDate<'2024-04-01' and dBankDate>='2024-04-01'",
+       "FAData where dLocked=1",
+       "FAData where dTrnNature=5022 and dVchDate='2025-03-31'",
+       "FADocs d join FAData a on a.VoucherID=d.VoucherID where d.ChqReturn='Y' and a.dcd=101",
+       "FADocs group by VoucherID having count(*)>1",
+       "FADocs where TransportCode>0 and AgentCode>0",
+       "FANar where Narration like '%Chq.No. 47%'",
+       "(select a.dcd,substring(n.Narration from 1 for 14) as Cheque from FAData a join FANar n on a.NarrationID=n.NarrationID where a.dcd in (101,102,103) and n.Narration starting with 'Chq.No. ' and extract(day from a.dVchDate) between 20 and 23) group by dcd,Cheque having count(*)=2",
+       "DocMain m join DocData d on d.DocumentID=m.DocumentID where DocSeries='FAS'",
+       "DocMain where DocSeries<>'FAS' and dLocked=1",
+       "ChqLeaves where Cancelled='Y'",
+       "ChqLeaves where VoucherID is not null and Amount>0",
+       "ChqLeaves where VoucherID is null and Cancelled is null",
+       "FAMaster where mcd=1 and mhd='Cash'",
+       "FAMaster where mcd=19",
+       "FAMaster where mgrpno=26",
+       "FAMaster where mbshno=130 and mst='पुणे' and mhda1<>''",
+       "FAMaster where mDeactiveDate is not null",
+       "FAMaster where mTransportCode>0 and mAgentCode>0",
+       "FAMaster group by mhd,mst having count(*)>1",
+       "FAMaster where malias1<>'' group by malias1 having count(*)>1",
+       "RatesPA where mcd=101 and Rate1=8.25",
+       "RatesPA where mcd=102 and Rate1=11.5",
+       "EntryFormDetails where FormName='RC1'",
+       "VATClasses",
+       "StkHeads a join StkMaster b on a.code=b.qmcd"}) {
     expect(from);
   }
   EXPECT_GE(db.Lookup("FAMaster", "count(*)", "mbshno=47").ToInteger(), 3);

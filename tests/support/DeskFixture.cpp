@@ -14,7 +14,7 @@ namespace {
 const std::filesystem::path& Template() {
   static const TempFolder folder;
   static const std::filesystem::path firm = [] {
-    const std::filesystem::path path = folder.Path() / "firm";
+    std::filesystem::path path = folder.Path() / "firm";
     FirmDetails details;
     details.FirmName = "Sharda Trading Co.";
     CreateFirm(path, details, {2023, 2024});
@@ -138,7 +138,7 @@ void DeskTest::During(const std::function<void()>& start, const Acts& acts) {
 }
 
 FormPtr DeskTest::ShowStatement(int account, const std::string& from, const std::string& to) {
-  const FormPtr statement = gApp->GetForm("Account");
+  FormPtr statement = gApp->GetForm("Account");
   statement->Set("AccountCode", account);
   if (!from.empty()) statement->Set("Date1", from);
   if (!to.empty()) statement->Set("Date2", to);
@@ -188,6 +188,7 @@ std::vector<std::string> DeskTest::Take(const std::string& kind, const char* mem
 
 std::string RowText(const GridModel& grid, int row, const std::vector<int>& cols) {
   std::vector<std::string> cells;
+  cells.reserve(cols.size());
   for (const int col : cols) cells.push_back(grid.TextMatrix(row, col));
   return text::Join(cells, "|");
 }
