@@ -183,6 +183,13 @@ TEST_F(DeskTest, EntriesAreMarkedByKeysAlone) {
   const std::string voucher = grid.TextMatrix(row, 0);
   EXPECT_TRUE(gSession->MainDb().RowExists("Select * from FAData where VoucherID=" + voucher +
                                            " and dcd=101 and dBankDate is not null"));
+  // Enter went on to another row: the first Esc is the cell's.
+  const std::string before = grid.TextMatrix(row + 2, kCleared);
+  Type("7");
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(grid.EditMode());
+  EXPECT_EQ(grid.TextMatrix(row + 2, kCleared), before);
+  EXPECT_EQ(Top().Name(), "frmAcReconciliation");
   Press(Qt::Key_Escape);
   EXPECT_EQ(Top().Name(), "frmAccount");
   Press(Qt::Key_Escape);

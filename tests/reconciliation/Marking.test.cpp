@@ -484,6 +484,8 @@ TEST_F(Marking, FromTheStatementAndBackTheDatesAreThere) {
   CGridPlus& rows = At<CGridPlus>(statement, "Grid");
   EXPECT_EQ(rows.TextMatrix(1, 4), "");
   Key(*form_, keys::kEscape);
+  EXPECT_EQ(runtime_.ActiveForm(), form_) << "the next number was being asked for";
+  Key(*form_, keys::kEscape);
   EXPECT_EQ(runtime_.ActiveForm(), statement);
   EXPECT_EQ(rows.TextMatrix(1, 4), "08-Apr-2024");
   const FormPtr bench = ShowWorkbench(statement);

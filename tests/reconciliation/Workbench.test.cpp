@@ -414,6 +414,37 @@ TEST_F(Workbench, EscGoesBackStepByStep) {
   EXPECT_FALSE(bench_->CallingForm);
 }
 
+TEST_F(Workbench, AClosedWindowKeepsWhatIsTypedOrAsks) {
+  Open();
+  const auto type = [&](const char* text) {
+    Do([&] {
+      ASSERT_TRUE(Grid().UserEnterCell(2, kCleared));
+      Grid().UserType(text);
+    });
+  };
+  const auto close = [&] { Do([&] { runtime_.Unload(*bench_, UnloadMode::CloseBox); }); };
+  constexpr const char* kAsked =
+      "Q: What is typed in the cell is not valid and was not stored. Close without it?";
+  type("31/2");
+  AnswerMessage();
+  AnswerMessage(2);
+  close();
+  EXPECT_EQ(Told(), (Texts{"E: Invalid Date", kAsked}));
+  EXPECT_TRUE(Grid().EditMode());
+  EXPECT_EQ(Grid().EditBox.Text(), "31/2");
+  AnswerMessage();
+  AnswerMessage(1);
+  close();
+  EXPECT_FALSE(bench_->IsLoaded());
+  EXPECT_EQ(Stored(2), "");
+
+  Open();
+  type("9/4");
+  close();
+  EXPECT_FALSE(bench_->IsLoaded());
+  EXPECT_EQ(Stored(2), "09-Apr-2024");
+}
+
 TEST_F(Workbench, KeysGoToTheHostTheBarAndTheVoucher) {
   Open();
   Key(*bench_, keys::kF6, keys::kShift);

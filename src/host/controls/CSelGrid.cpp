@@ -118,6 +118,12 @@ void CSelGrid::CompanionTyped(const std::string& text) {
   hasChoice_ = Visible && !text.empty() && Search(text);
 }
 
+bool CSelGrid::CompanionEscape() {
+  if (!open_) return false;
+  Close();
+  return true;
+}
+
 bool CSelGrid::PickChoice() {
   if (!HasChoice() || IsEmpty()) return false;
   Pick(Grid.Row);

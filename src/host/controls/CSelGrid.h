@@ -82,6 +82,7 @@ class CSelGrid : public Control, private ITextCompanion {
  private:
   bool CompanionKey(const KeyEvent& key) override;
   void CompanionTyped(const std::string& text) override;
+  bool CompanionEscape() override;
   bool TakesEnter() const override { return Visible && (HasChoice() || NotFound); }
   void PlaceInside();
 

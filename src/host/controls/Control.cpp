@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/controls/TextBox.h"
 #include "host/forms/Form.h"
 #include "host/forms/Runtime.h"
 #include "host/values/Text.h"
@@ -131,6 +132,11 @@ bool Control::MayLeave() {
   bool cancel = false;
   Validate.Raise(cancel);
   return !cancel;
+}
+
+bool Control::TakeEscape() {
+  const TextBox* const box = TypedBox();
+  return box != nullptr && box->Companion != nullptr && box->Companion->CompanionEscape();
 }
 
 void Control::UserClick() { throw Refused(FullName() + " cannot be clicked"); }

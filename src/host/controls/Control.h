@@ -116,6 +116,16 @@ class Control : public Object {
   /// makes.
   virtual void OfferKey(KeyEvent& key) { KeyDown.Raise(key); }
 
+  /// Esc is for what is open at the control first, before the form hears of it: a list under it, then a cell
+  /// under edit. False when nothing is.
+  virtual bool TakeEscape();
+
+  /// True while a person has typed what is not stored yet: MayLeave stores it, or tells why it cannot.
+  virtual bool IsInEdit() const { return false; }
+
+  /// Forgets what is typed and not stored.
+  virtual void DropEdit() {}
+
   /// What a key does that the form let pass; false when it means nothing to the control.
   virtual bool HandleKey(const KeyEvent& key);
   virtual void HandleChar(int character);

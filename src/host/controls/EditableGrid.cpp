@@ -137,6 +137,13 @@ void EditableGrid::LeaveFocus() {
   GridModel::LeaveFocus();
 }
 
+bool EditableGrid::TakeEscape() {
+  if (GridModel::TakeEscape()) return true;
+  if (!editing_) return false;
+  CancelEdit();
+  return true;
+}
+
 bool EditableGrid::OpenFrom(int row, int col) {
   for (; row <= Rows; ++row, col = 0) {
     if (row < Rows && !IsRowVisible(row)) continue;

@@ -63,6 +63,9 @@ class EditableGrid : public GridModel {
   void UserMoveTo(int row, int col) override;
   TextBox* TypedBox() override { return editing_ ? &EditBox : nullptr; }
   bool MayLeave() override;
+  bool IsInEdit() const override { return editing_; }
+  void DropEdit() override { CancelEdit(); }
+  bool TakeEscape() override;
   void LeaveFocus() override;
   void OfferKey(KeyEvent& key) override;
   bool HandleKey(const KeyEvent& key) override;

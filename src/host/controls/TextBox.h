@@ -19,6 +19,9 @@ class ITextCompanion {
   virtual bool CompanionKey(const KeyEvent& key) = 0;
   virtual void CompanionTyped(const std::string& text) = 0;
 
+  /// Esc closes what is open beside the box; false when nothing is.
+  virtual bool CompanionEscape() = 0;
+
   /// Whether Enter would take a line of the list.
   virtual bool TakesEnter() const = 0;
 };

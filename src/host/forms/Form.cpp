@@ -145,6 +145,7 @@ void Form::UserKey(int keyCode, int shift, int character) {
   if (!shown_) throw Refused("The form " + Name() + " is not shown");
   const FormPtr alive = Self();
   KeyEvent key{keyCode, shift};
+  if (key.KeyCode == keys::kEscape && key.Shift == 0 && active_ != nullptr && active_->TakeEscape()) return;
   OnKeyDown(key);
   if (key.KeyCode == 0 || !StillAlive()) return;
   if (key.KeyCode == keys::kEscape && key.Shift == 0 && PressCancelButton()) return;

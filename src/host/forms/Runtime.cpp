@@ -5,6 +5,7 @@
 
 #include "host/services/IPrinter.h"
 #include "host/services/PrinterDevice.h"
+#include "host/services/host_services.h"
 #include "host/values/ErrorText.h"
 #include "host/values/Text.h"
 
@@ -110,11 +111,24 @@ void Runtime::Hide(Form& form) {
   UpdateActive();
 }
 
+bool Runtime::LetsGoOfEdit(const Form& form) {
+  Control* const edited = form.ActiveControl();
+  if (edited == nullptr || !edited->IsInEdit() || edited->MayLeave()) return true;
+  if (!gStd->AskYesNo("What is typed in the cell is not valid and was not stored. Close without it?", "Q",
+                      IStd::kNo)) {
+    return false;
+  }
+  edited->DropEdit();
+  return true;
+}
+
 bool Runtime::Unload(Form& form, UnloadMode mode) {
   if (!form.IsLoaded()) return true;
   const FormPtr alive = form.Self();
   const Closing closing(*this, {alive});
-  if (!UnloadLastFirst(StandingOn(form), mode) || !form.RunQueryUnload(mode)) return false;
+  if (!UnloadLastFirst(StandingOn(form), mode)) return false;
+  if (mode == UnloadMode::CloseBox && !LetsGoOfEdit(form)) return false;
+  if (!form.RunQueryUnload(mode)) return false;
   if (!UnloadLastFirst(OwnedBy(form), mode)) return false;
   if (!form.IsLoaded()) return true;
   try {

@@ -242,6 +242,9 @@ class Runtime {
 
  private:
   void End(Form& form);
+  /// A cell under edit in a window that a person closes: stored while it is valid, else lost only if he says
+  /// so.
+  bool LetsGoOfEdit(const Form& form);
   bool UnloadLastFirst(std::vector<FormPtr> forms, UnloadMode mode);
   std::vector<FormPtr> OwnedBy(const Form& form) const;
   void UpdateActive();
