@@ -4,6 +4,7 @@ quillon_packages=(
   g++ cmake ninja-build ccache pkg-config git python3 clang-format clang-tidy
   qt6-base-dev qt6-svg-dev libgl-dev libicu-dev libpugixml-dev nlohmann-json3-dev
   firebird-dev firebird3.0-server firebird3.0-server-core firebird3.0-utils
+  libcups2-dev cups-client cups-daemon
   libgtest-dev libbenchmark-dev poppler-utils binutils xvfb xdotool xclip
   fonts-dejavu-core fonts-liberation fonts-lohit-deva fonts-wine
 )

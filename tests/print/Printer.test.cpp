@@ -192,14 +192,17 @@ TEST_F(PrinterTest, AJobForADeviceGoesToTheSpoolerAndAFileStays) {
   TempFolder tools;
   printer.DeviceName = "Canteen LaserJet";
   {
-    const SpoolerPath spooler(tools, "echo \"$2 $4 $6\" > " + tools.File("sent"));
+    const SpoolerPath spooler(tools, "echo \"$*\" > " + tools.File("sent"));
     printer.ColorMode = IPrinter::kMonochrome;
     PrintAt(0, 0, "Harbour");
     printer.EndDoc();
   }
   std::string sent;
   std::getline(std::ifstream(tools.File("sent")), sent);
-  EXPECT_EQ(sent, "Canteen LaserJet print-color-mode=monochrome " + folder.File("print-1.pdf"));
+  EXPECT_EQ(
+      sent,
+      "-d Canteen LaserJet -o print-color-mode=monochrome -o media=iso_a4_210x297mm -o print-scaling=none -- " +
+          folder.File("print-1.pdf"));
 
   const SpoolerPath refusing(tools, "echo 'no such printer'; exit 1");
   PrintAt(0, 0, "Harbour");

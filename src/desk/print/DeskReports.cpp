@@ -45,7 +45,8 @@ void DeskReports::ShowGrid(GridModel& grid, CReportOptions* options, const std::
   }
   if (desk_.Observer != nullptr)
     desk_.Observer->OnReport({title, subtitle, print, file, count, grid, sheets});
-  if (print && desk_.Device) PageSender::Send(sheets, file, {.Printer = desk_.Device()});
+  if (print && desk_.Device)
+    PageSender::Send(sheets, file, {.Printer = desk_.Device(), .Paper = sheets.PaperSize});
 }
 
 std::shared_ptr<PrintSetup> DeskReports::Print(const std::string& /*what*/) {

@@ -8,18 +8,33 @@
 
 namespace quillon {
 
-void PageSender::Send(const ReportPages& pages, const std::string& file, const Spooler::Job& job) {
+namespace {
+
+/// A file that goes with its block, also when the queue refuses it.
+class FileHold {
+ public:
+  explicit FileHold(std::string file) : file_(std::move(file)) {}
+  FileHold(const FileHold&) = delete;
+  FileHold& operator=(const FileHold&) = delete;
+  ~FileHold() {
+    std::error_code left;
+    std::filesystem::remove(file_, left);
+  }
+
+ private:
+  std::string file_;
+};
+
+}  // namespace
+
+std::string PageSender::Send(const ReportPages& pages, const std::string& file, const Spooler::Job& job) {
   const bool goesToQueue = !job.Printer.empty() && job.Printer != IPrinter::kPdfFile;
   const Calibration calibration = goesToQueue ? Calibration::Of(job.Printer) : Calibration();
-  if (calibration.IsNone() || pages.Pages.empty()) {
-    Spooler::Send(file, job);
-    return;
-  }
+  if (calibration.IsNone() || pages.Pages.empty()) return Spooler::Send(file, job);
   const std::string folder = std::filesystem::path(file).parent_path().string();
   const std::string corrected = ReportPainter::WritePdf(pages, folder, "corrected", calibration);
-  Spooler::Send(corrected, job);
-  std::error_code left;
-  std::filesystem::remove(corrected, left);
+  const FileHold hold(corrected);
+  return Spooler::Send(corrected, job);
 }
 
 }  // namespace quillon

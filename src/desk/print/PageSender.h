@@ -11,8 +11,9 @@ namespace quillon {
 /// file of the pages stays as it is.
 class PageSender {
  public:
-  /// `file` holds the pages. Pages that are given as their file alone go as they are. Throws HostError.
-  static void Send(const ReportPages& pages, const std::string& file, const Spooler::Job& job);
+  /// `file` holds the pages. Pages that are given as their file alone go as they are. Answers the job's name
+  /// in the queue, empty for a file that stays. Throws HostError.
+  static std::string Send(const ReportPages& pages, const std::string& file, const Spooler::Job& job);
 };
 
 }  // namespace quillon

@@ -32,6 +32,21 @@ PaperExtent PaperSizeOf(int paper, int orientation) {
   return {inches.width() * kTwipsPerInch, inches.height() * kTwipsPerInch};
 }
 
+std::string PaperName(int paper) {
+  switch (paper) {
+    case 1:
+      return "na_letter_8.5x11in";
+    case 5:
+      return "na_legal_8.5x14in";
+    case 8:
+      return "iso_a3_297x420mm";
+    case 11:
+      return "iso_a5_148x210mm";
+    default:
+      return "iso_a4_210x297mm";
+  }
+}
+
 QPageLayout PageLayout(int paper, int orientation) {
   return QPageLayout(QPageSize(SizeId(paper)),
                      orientation == IPrinter::kLandscape ? QPageLayout::Landscape : QPageLayout::Portrait,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 class QPageLayout;
 
 namespace quillon {
@@ -15,6 +17,9 @@ struct PaperExtent {
 /// The sheet of a paper number as printers count them (9 is A4; an unknown one counts as A4) and an
 /// orientation of IPrinter.
 PaperExtent PaperSizeOf(int paper, int orientation);
+
+/// Its name for a queue: "iso_a4_210x297mm".
+std::string PaperName(int paper);
 
 /// The same without margins, for a writer of pages.
 QPageLayout PageLayout(int paper, int orientation);

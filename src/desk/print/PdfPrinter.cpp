@@ -10,6 +10,7 @@
 #include "desk/print/Paper.h"
 #include "desk/print/PdfDocument.h"
 #include "desk/print/PrintObserver.h"
+#include "desk/print/QueuedJob.h"
 #include "desk/print/TextMeasure.h"
 #include "host/values/Text.h"
 
@@ -100,7 +101,20 @@ bool PdfPrinter::EndDoc() {
 void PdfPrinter::Deliver(PdfDocument& job, const ReportPages& pages) {
   const std::string file = job.Finish();
   if (observer_ != nullptr) observer_->OnPrinted(file, job.Pages(), PaperSize, Orientation);
-  PageSender::Send(pages, file, {.Printer = DeviceName, .Monochrome = ColorMode == kMonochrome});
+  fate_ = JobFate::kInDoubt;
+  queued_.clear();
+  queued_ = PageSender::Send(
+      pages, file, {.Printer = DeviceName, .Monochrome = ColorMode == kMonochrome, .Paper = PaperSize});
+  fate_ = DeviceName == kPdfFile ? JobFate::kPrinted : JobFate::kUnderWay;
+}
+
+IPrinter::JobFate PdfPrinter::FateOfJob(std::string& why) {
+  if (fate_ == JobFate::kUnderWay) fate_ = QueuedJob(queued_).Fate(why);
+  return fate_;
+}
+
+void PdfPrinter::TakeBackJob() {
+  if (!queued_.empty()) QueuedJob(queued_).TakeBack();
 }
 
 void PdfPrinter::KillDoc() {

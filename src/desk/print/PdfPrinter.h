@@ -35,6 +35,9 @@ class PdfPrinter : public IPrinter {
 
   /// Without anything printed there is no file.
   bool EndDoc() override;
+  void ForgetJob() override { fate_ = JobFate::kNothingSent; }
+  JobFate FateOfJob(std::string& why) override;
+  void TakeBackJob() override;
   void KillDoc() override;
 
   /// A job of one page that is drawn in dots, so many to the inch; a job at hand stays as it is.
@@ -52,6 +55,8 @@ class PdfPrinter : public IPrinter {
   PrintObserver* observer_;
   std::unique_ptr<PdfDocument> job_;
   ReportPages pages_;
+  JobFate fate_ = JobFate::kNothingSent;
+  std::string queued_;  // the name of the job under way
 };
 
 }  // namespace quillon

@@ -1,9 +1,10 @@
 #include "desk/print/Spooler.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
-#include "host/services/IPrinter.h"
+#include "desk/print/Paper.h"
 #include "host/values/Errors.h"
 
 namespace quillon {
@@ -15,6 +16,9 @@ constexpr int kPatience = 10'000;  // milliseconds
 /// False when the program is missing or hangs; `out` takes what it said.
 bool Run(const QString& program, const QStringList& arguments, QString& out) {
   QProcess process;
+  QProcessEnvironment plain = QProcessEnvironment::systemEnvironment();
+  plain.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));  // its answers are read
+  process.setProcessEnvironment(plain);
   process.setProcessChannelMode(QProcess::MergedChannels);
   process.start(program, arguments);
   if (!process.waitForFinished(kPatience)) {
@@ -43,18 +47,21 @@ std::vector<PrinterDevice> Spooler::Printers() {
   return printers;
 }
 
-void Spooler::Send(const std::string& file, const Job& job) {
-  if (job.Printer.empty() || job.Printer == IPrinter::kPdfFile) return;
-  if (QStandardPaths::findExecutable(QStringLiteral("lp")).isEmpty()) return;
+std::string Spooler::Send(const std::string& file, const Job& job) {
+  if (job.Printer.empty() || job.Printer == IPrinter::kPdfFile) return {};
   QString answer;
   QStringList arguments{QStringLiteral("-d"), QString::fromStdString(job.Printer)};
   if (job.Copies > 1) arguments << QStringLiteral("-n") << QString::number(job.Copies);
   if (job.Monochrome) arguments << QStringLiteral("-o") << QStringLiteral("print-color-mode=monochrome");
+  for (const std::string& option : {"media=" + PaperName(job.Paper), std::string("print-scaling=none")})
+    arguments << QStringLiteral("-o") << QString::fromStdString(option);
   arguments << QStringLiteral("--") << QString::fromStdString(file);
   if (!Run(QStringLiteral("lp"), arguments, answer)) {
     throw HostError("The printer " + job.Printer + " did not take the pages (" + answer.toStdString() +
                     "). They are kept in " + file + ".");
   }
+  static const QRegularExpression named(QStringLiteral("request id is (\\S+-\\d+)"));
+  return named.match(answer).captured(1).toStdString();
 }
 
 }  // namespace quillon

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "host/services/IPrinter.h"
 #include "host/services/PrinterDevice.h"
 
 namespace quillon {
@@ -17,11 +18,12 @@ class Spooler {
     std::string Printer;  ///< the name of the PDF file, or none, leaves the file where it is
     int Copies = 1;
     bool Monochrome = false;
+    int Paper = IPrinter::kA4;
   };
 
-  /// Hands a file to a printer; nothing happens on a machine without a spooler. Throws HostError when the
-  /// spooler refuses.
-  static void Send(const std::string& file, const Job& job);
+  /// Hands a file to a printer, to be printed as large as it is, and answers the job's name, "Laser-12";
+  /// empty for a file that stays. Throws HostError when there is no spooler, or when it refuses.
+  static std::string Send(const std::string& file, const Job& job);
 };
 
 }  // namespace quillon

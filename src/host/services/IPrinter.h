@@ -58,6 +58,23 @@ class IPrinter {
   /// cannot be written.
   virtual bool EndDoc() = 0;
 
+  /// What is known of the job that was handed over last.
+  enum class JobFate {
+    kNothingSent,  ///< no page has left since ForgetJob
+    kUnderWay,     ///< its queue has it
+    kPrinted,      ///< its device has done it, or it lies whole in its PDF
+    kInDoubt       ///< refused, held back, given up or not known any more
+  };
+
+  /// Begins anew: no job was handed over yet.
+  virtual void ForgetJob() = 0;
+
+  /// Asks the queue; `why` takes, in words, what keeps a job in doubt where that was not told already.
+  virtual JobFate FateOfJob(std::string& why) = 0;
+
+  /// Takes the job out of its queue, if it is still there.
+  virtual void TakeBackJob() = 0;
+
   /// Drops the job at hand, if there is one: no file, nothing to the device.
   virtual void KillDoc() = 0;
 };

@@ -110,9 +110,11 @@ void PreviewWindow::Print() {
       SavePages(file);
       return;
     }
-    PageSender::Send(
-        PagesOf(setup), file,
-        {.Printer = printer, .Copies = setup.Copies, .Monochrome = setup.ColorMode == IPrinter::kMonochrome});
+    PageSender::Send(PagesOf(setup), file,
+                     {.Printer = printer,
+                      .Copies = setup.Copies,
+                      .Monochrome = setup.ColorMode == IPrinter::kMonochrome,
+                      .Paper = report_.Sheets.PaperSize});
     const std::string corrected = Calibration::Of(printer).Words();
     Tell(QString::fromStdString("Sent to " + printer +
                                 (corrected.empty() ? "" : ", corrected by " + corrected)));

@@ -1,0 +1,116 @@
+#include <chrono>
+#include <gtest/gtest.h>
+#include <thread>
+
+#include "desk/print/PageSender.h"
+#include "desk/print/PdfDocument.h"
+#include "desk/print/PdfPrinter.h"
+#include "host/values/Errors.h"
+#include "tests/support/PdfReader.h"
+#include "tests/support/PrintServer.h"
+
+namespace quillon {
+namespace {
+
+using Fate = IPrinter::JobFate;
+
+/// Jobs for the queues of a real print server.
+class QueueTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!PrintServer::IsInstalled()) GTEST_SKIP() << "cups-daemon and cups-client are not installed";
+    server = std::make_unique<PrintServer>();
+    printer.DeviceName = "Laser";
+  }
+
+  void PrintPage(const std::string& text) {
+    printer.ForgetJob();
+    printer.CurrentX = 1440;
+    printer.CurrentY = 720;
+    printer.Print(text);
+    printer.EndDoc();
+  }
+
+  /// Once it is no longer under way.
+  Fate Settled(std::string& why) {
+    for (int look = 0; look < 200; ++look) {
+      const Fate fate = printer.FateOfJob(why);
+      if (fate != Fate::kUnderWay) return fate;
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    return Fate::kUnderWay;
+  }
+  Fate Settled() {
+    std::string why;
+    return Settled(why);
+  }
+  std::string Refusal() {
+    try {
+      PrintPage("refused");
+      return "taken";
+    } catch (const HostError& error) {
+      return error.what();
+    }
+  }
+
+  TempFolder folder;
+  std::unique_ptr<PrintServer> server;
+  PdfPrinter printer{folder.Path().string()};
+};
+
+TEST_F(QueueTest, PagesArriveWithTheirPaperOrientationAndCopies) {
+  printer.Orientation = IPrinter::kLandscape;
+  printer.ColorMode = IPrinter::kMonochrome;
+  PrintPage("Harbour");
+  EXPECT_EQ(Settled(), Fate::kPrinted);
+  PdfDocument letter(folder.Path().string(), "letter", 1, IPrinter::kPortrait);
+  PageSender::Send({}, letter.Finish(), {.Printer = "Laser", .Copies = 3, .Paper = 1});
+  std::vector<PrintServer::Paper> papers;
+  for (int look = 0; look < 200 && papers.size() < 2; ++look) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    papers = server->Arrived();
+  }
+  ASSERT_EQ(papers.size(), 2U);
+  EXPECT_EQ(papers[0].Copies + papers[1].Copies, "13");
+  const auto holds = [](const std::string& text, const char* part) {
+    return text.find(part) != std::string::npos;
+  };
+  EXPECT_TRUE(holds(papers[0].Options, "media=iso_a4_210x297mm")) << papers[0].Options;
+  EXPECT_TRUE(holds(papers[0].Options, "print-color-mode=monochrome"));
+  EXPECT_TRUE(holds(papers[0].Options, "print-scaling=none")) << "a layout is printed as large as it is";
+  EXPECT_TRUE(holds(papers[1].Options, "media=na_letter_8.5x11in")) << papers[1].Options;
+  const PdfReader sheet(papers[0].File);
+  EXPECT_NEAR(sheet.Pages().at(0).width, 16838, 3);
+  EXPECT_NEAR(sheet.Find("Harbour").left, 1440, 0.2 * PdfReader::kTwipsPerMillimetre);
+  EXPECT_NEAR(PdfReader(papers[1].File).Pages().at(0).height, 15840, 3);
+}
+
+TEST_F(QueueTest, WhatAQueueDoesNotDoIsNotPrinted) {
+  std::string why;
+  server->StopQueue("Laser");
+  PrintPage("stopped");
+  EXPECT_EQ(Settled(why), Fate::kInDoubt);
+  EXPECT_EQ(why, "The printer Laser is stopped.");
+  printer.TakeBackJob();
+  server->RestartQueue("Laser");
+
+  server->Break();
+  PrintPage("given up");
+  EXPECT_EQ(Settled(why), Fate::kInDoubt);
+  EXPECT_EQ(why, "The printer Laser has given the pages up.");
+
+  server->HoldJobs("Laser");
+  PrintPage("held");
+  EXPECT_EQ(Settled(why), Fate::kInDoubt);
+  EXPECT_EQ(why, "The queue of the printer Laser holds the pages back.");
+
+  server->CloseQueue("Laser");
+  EXPECT_NE(Refusal().find("The printer Laser did not take the pages"), std::string::npos);
+  EXPECT_EQ(Settled(), Fate::kInDoubt);
+  server->RemoveQueue("Laser");
+  EXPECT_NE(Refusal().find("The printer Laser did not take the pages"), std::string::npos);
+  EXPECT_TRUE(server->Arrived().empty()) << "what was taken back does not come out later";
+}
+
+}  // namespace
+}  // namespace quillon
