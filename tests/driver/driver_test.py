@@ -14,6 +14,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import unittest.mock
 from pathlib import Path
 
 DRIVE, SAMPLE = sys.argv[1:3]
@@ -60,7 +61,7 @@ class Driver(unittest.TestCase):
         return run.returncode, [json.loads(line) for line in run.stdout.splitlines()], run.stderr
 
     def run_script(self, name, status):
-        text = (HERE / "scripts" / name).read_text().replace("FIRM", self.firm)
+        text = (HERE / "scripts" / name).read_text().replace("FIRM", self.firm).replace("OTHER", self.own.name + "/other")
         code, lines, errors = self.drive(text, "--firm", self.firm)
         answers = {line["done"]: at for at, line in enumerate(lines) if "done" in line}
         number = 0
@@ -109,7 +110,42 @@ class Driver(unittest.TestCase):
         self.run_script("returned.jsonl", 0)
 
     def test_a_month_of_cheques(self):
+        shutil.copytree(self.sample, self.own.name + "/other")
         self.run_script("cheques.jsonl", 0)
+
+    def test_killed_while_a_cheque_is_on_its_way_asks_for_it_at_the_next_start(self):
+        tools = Path(self.own.name) / "tools"
+        tools.mkdir()
+        for name, does in (("lpstat", "echo Laser"), ("lp", "kill -9 $PPID")):
+            (tools / name).write_text("#!/bin/sh\n" + does + "\n")
+            (tools / name).chmod(0o755)
+        leaf = json.dumps({"cmd": "query", "sql": "select VoucherID,IsuDate from ChqLeaves where ID=900"})
+        run = [
+            {"cmd": "execute", "sql": "insert into ChqLeaves (ID,BankCode,ChqNo) values (900,103,123)"},
+            {"cmd": "form", "key": "Account", "host": True, "id": "st"},
+            {"cmd": "set", "form": "st", "member": "AccountCode", "value": 103},
+            {"cmd": "show", "form": "st"},
+            {"cmd": "bar", "control": "BtnBar1", "button": "Others"},
+            {"cmd": "popup", "key": "ChequeRun"},
+            {"cmd": "key", "key": "F2"},
+            {"cmd": "type", "control": "txpFirst", "text": "123"},
+            {"cmd": "answer", "to": "printdialog", "printer": "Laser"},
+            {"cmd": "key", "key": "F9"},
+        ]
+        with unittest.mock.patch.dict(os.environ, {"PATH": f"{tools}:{os.environ['PATH']}"}):
+            code, lines, errors = self.drive("\n".join(map(json.dumps, run)), "--firm", self.firm)
+        self.assertEqual(code, -signal.SIGKILL, errors)
+        # Nobody answers: the leaf goes on waiting for a word.
+        code, lines, _ = self.drive(leaf, "--firm", self.firm)
+        self.assertEqual(lines[0]["text"], "Was cheque 000123 printed?")
+        self.assertEqual((code, lines[-1]["rows"]), (0, [[None, None]]))
+        answer = json.dumps({"cmd": "answer", "to": "message", "button": 1})
+        firm = json.dumps({"cmd": "firm", "folder": self.firm})
+        code, lines, _ = self.drive("\n".join([answer, firm, leaf]))
+        self.assertEqual(code, 0, lines)
+        self.assertIsNotNone(lines[-1]["rows"][0][0])
+        code, lines, _ = self.drive(leaf, "--firm", self.firm)
+        self.assertEqual([line.get("event") for line in lines], [None], "it is asked about no more")
 
     def test_labels_letters_and_envelopes(self):
         self.run_script("correspondence.jsonl", 0)

@@ -142,7 +142,7 @@ TEST_F(FirmTest, WhatCannotBeOpenedSaysWhy) {
     Write("firm.json", strange);
     EXPECT_TRUE(Has(Refusal(), "firm.json is damaged")) << strange << ": " << Refusal();
   }
-  Write("firm.json", R"({"schema":2,"anything":"else"})");
+  Write("firm.json", R"({"schema":99,"anything":"else"})");
   EXPECT_TRUE(Has(Refusal(), "newer version"));
   Write("firm.json", whole);
 
@@ -157,7 +157,7 @@ TEST_F(FirmTest, WhatCannotBeOpenedSaysWhy) {
   std::filesystem::rename(File("away"), File("2024.fdb"));
   EXPECT_EQ(Refusal(), "opened");
 
-  Firm::Open(Folder())->OpenYear(2024).Db->Execute("update SchemaVersion set Version=2");
+  Firm::Open(Folder())->OpenYear(2024).Db->Execute("update SchemaVersion set Version=99");
   EXPECT_TRUE(Has(Refusal(), "2024.fdb was written by a newer version"));
 }
 
@@ -272,14 +272,24 @@ TEST_F(FirmTest, AFolderHasAnyName) {
   }
 }
 
+/// The version that firms are made in, and the program's own steps with more behind them.
+const int kNow = VersionAfter(AllSchemaSteps());
+
+std::vector<SchemaStep> After(const std::vector<SchemaStep>& more) {
+  std::vector<SchemaStep> steps = AllSchemaSteps();
+  steps.insert(steps.end(), more.begin(), more.end());
+  return steps;
+}
+
 TEST_F(FirmTest, AnOlderFirmIsBroughtUpInAllItsDatabasesOrNone) {
   using Kind = SchemaStep::Database;
   CreateFirm(Folder(), kDetails, {2023, 2024});
   Firm::Open(Folder())->OpenYear(2024).Db->Execute("insert into FANar values (1,'kept')");
-  std::vector<SchemaStep> steps{{1, Kind::kYear, 1, {"create table Letters (Code integer)"}},
-                                {1, Kind::kCommon, 1, {"create table Styles (Code integer)"}},
-                                {1, Kind::kYear, 2, {"insert into Letters values (7)"}},
-                                {1, Kind::kCommon, 2, {"create table Styles (Twice integer)"}}};
+  std::vector<SchemaStep> steps =
+      After({{1, Kind::kYear, kNow, {"create table Letters (Code integer)"}},
+             {1, Kind::kCommon, kNow, {"create table Styles (Code integer)"}},
+             {1, Kind::kYear, kNow + 1, {"insert into Letters values (7)"}},
+             {1, Kind::kCommon, kNow + 1, {"create table Styles (Twice integer)"}}});
   const auto open = [&] { return Firm::Open(Folder(), {.TakeOver = "", .Steps = &steps}); };
   try {
     open();
@@ -300,9 +310,10 @@ TEST_F(FirmTest, AnUpgradeThatSucceedsKeepsTheRows) {
   using Kind = SchemaStep::Database;
   CreateFirm(Folder(), kDetails, {2023, 2024});
   Firm::Open(Folder())->OpenYear(2024).Db->Execute("insert into FANar values (1,'kept')");
-  const std::vector<SchemaStep> steps{{1, Kind::kYear, 1, {"create table Letters (Code integer)"}},
-                                      {1, Kind::kYear, 2, {"insert into Letters values (7)"}},
-                                      {1, Kind::kCommon, 2, {"create table Styles (Code integer)"}}};
+  const std::vector<SchemaStep> steps =
+      After({{1, Kind::kYear, kNow, {"create table Letters (Code integer)"}},
+             {1, Kind::kYear, kNow + 1, {"insert into Letters values (7)"}},
+             {1, Kind::kCommon, kNow + 1, {"create table Styles (Code integer)"}}});
   const auto firm = Firm::Open(Folder(), {.TakeOver = "", .Steps = &steps});
   for (const int year : {2023, 2024}) {
     EXPECT_EQ(firm->OpenYear(year).Db->Lookup("Letters", "Code", "").ToInteger(), 7) << year;
@@ -319,8 +330,8 @@ TEST_F(FirmTest, AFirmOnAServerIsBroughtUpInAllItsDatabasesOrNone) {
   FirebirdServer server;
   std::filesystem::create_directory(server.Folder() / "books");
   CreateFirm(Folder(), kDetails, {2023, 2024}, server.Address("books"));
-  std::vector<SchemaStep> steps{{1, Kind::kYear, 1, {"create table Letters (Code integer)"}},
-                                {1, Kind::kCommon, 1, {"create table Styles (Code nothing)"}}};
+  std::vector<SchemaStep> steps = After({{1, Kind::kYear, kNow, {"create table Letters (Code integer)"}},
+                                         {1, Kind::kCommon, kNow, {"create table Styles (Code nothing)"}}});
   const auto open = [&] { return Firm::Open(Folder(), {.TakeOver = "", .Steps = &steps}); };
   EXPECT_THROW(open(), DbError);
   EXPECT_FALSE(Firm::Open(Folder())->OpenYear(2023).Db->TableExists("LETTERS"));

@@ -1,5 +1,7 @@
 #include "desk/screens/BankPayments.h"
 
+#include <unordered_set>
+
 #include "books/SqlText.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
@@ -10,12 +12,78 @@ namespace {
 
 constexpr const char* kLastBank = "ChqPrinting.LastBankCode";
 
-/// The lines by which vouchers pay from an account.
+/// The lines by which vouchers pay from an account, of FAData named a.
 std::string PaymentsOf(std::int64_t bank) {
-  return "dcd=" + books::SqlNumber(bank) + " and dAmt<0 and " + books::InLists();
+  return "a.dcd=" + books::SqlNumber(bank) + " and a.dAmt<0 and " + books::InLists("a.dBook");
+}
+
+constexpr const char* kPaymentFields =
+    "Select a.VoucherID,a.dVchDate,a.dAmt,a.NarrationID,n.Narration from FAData a left join FANar n on "
+    "a.NarrationID=n.NarrationID where ";
+
+/// The payment of the row at hand, without its party.
+BankPayment PaymentAt(const CDataSet& row, std::int64_t bank) {
+  BankPayment payment;
+  payment.Voucher = row.Field("VoucherID").ToInteger();
+  payment.Bank = bank;
+  payment.Day = row.Field("dVchDate").ToDate();
+  payment.Value = -row.Field("dAmt").ToAmount();
+  payment.NarrationID = row.Field("NarrationID");
+  payment.Narration = row.Field("Narration").ToText();
+  return payment;
+}
+
+void FindParty(CDbLink& db, BankPayment& payment) {
+  gApp->VoucherCrossRef(db, payment.Voucher, -payment.Value, payment.Party, payment.Head);
+  payment.Station = db.Lookup("FAMaster", "mst", "mcd=" + books::SqlNumber(payment.Party)).ToText();
+}
+
+/// A leaf that is on its way counts as used.
+std::unordered_set<std::int64_t> VouchersWithLeaf(CDbLink& db, std::int64_t bank) {
+  const std::string code = books::SqlNumber(bank);
+  std::unordered_set<std::int64_t> vouchers;
+  CDataSet leaves;
+  for (leaves.Open("Select VoucherID from ChqLeaves where BankCode=" + code +
+                       " and VoucherID is not null union select g.VoucherID from ChqGoingOut g inner join "
+                       "ChqLeaves l on l.ID=g.LeafID where l.BankCode=" +
+                       code,
+                   db);
+       !leaves.Eof(); leaves.MoveNext()) {
+    vouchers.insert(leaves.Field("VoucherID").ToInteger());
+  }
+  return vouchers;
 }
 
 }  // namespace
+
+std::optional<BankPayment> BankPayment::Of(CDbLink& db, std::int64_t bank, std::int64_t voucher) {
+  CDataSet row;
+  row.Open(kPaymentFields + ("a.VoucherID=" + books::SqlNumber(voucher)) + " and " + PaymentsOf(bank) +
+               " order by a.dVchSubNo",
+           db);
+  if (row.Eof()) return std::nullopt;
+  BankPayment payment = PaymentAt(row, bank);
+  FindParty(db, payment);
+  return payment;
+}
+
+std::vector<BankPayment> BankPayment::WithoutLeaf(CDbLink& db, std::int64_t bank, Date from, Date to) {
+  const std::string condition = PaymentsOf(bank) + " and a.dVchDate between " + books::SqlDate(from, to);
+  const std::unordered_set<std::int64_t> taken = VouchersWithLeaf(db, bank);
+  std::vector<BankPayment> payments;
+  CDataSet rows;
+  for (rows.Open(kPaymentFields + condition + " order by a.dVchDate,a.VoucherID,a.dVchSubNo", db);
+       !rows.Eof(); rows.MoveNext()) {
+    // A cheque shows the first line of a voucher alone.
+    const BankPayment payment = PaymentAt(rows, bank);
+    const bool isNew = payments.empty() || payments.back().Voucher != payment.Voucher;
+    if (isNew && !taken.contains(payment.Voucher)) payments.push_back(payment);
+  }
+  rows.Close();
+  const std::shared_ptr<void> expected = gApp->ExpectCrossRefs(db, condition);
+  for (BankPayment& payment : payments) FindParty(db, payment);
+  return payments;
+}
 
 std::int64_t BankPayments::BankOf(CDbLink& db, std::int64_t voucher, std::int64_t preferred) {
   CDataSet banks;
@@ -31,23 +99,14 @@ std::int64_t BankPayments::BankOf(CDbLink& db, std::int64_t voucher, std::int64_
 
 void BankPayments::Fill(Form& cheque) const {
   CDbLink& db = year_->Db();
-  CDataSet payment;
-  payment.Open(
-      "Select First 1 a.dVchDate,a.dAmt,n.Narration from FAData a left join FANar n on "
-      "a.NarrationID=n.NarrationID where a.VoucherID=" +
-          books::SqlNumber(voucher_) + " and " + PaymentsOf(bank_) + " order by a.dVchSubNo",
-      db);
-  if (payment.Eof()) return;
-  const Amount amount = payment.Field("dAmt").ToAmount();
-  std::int64_t party = 0;
-  std::string head;
-  gApp->VoucherCrossRef(db, voucher_, amount, party, head);
-  cheque.Set("PartyCode", party);
-  cheque.Set("PayTo", head);
-  cheque.Set("Station", db.Lookup("FAMaster", "mst", "mcd=" + books::SqlNumber(party)).ToText());
-  cheque.Set("Amount", -amount);
-  cheque.Set("vDate", payment.Field("dVchDate").ToDate().Text());
-  cheque.Set("Narration", payment.Field("Narration").ToText());
+  const std::optional<BankPayment> payment = BankPayment::Of(db, bank_, voucher_);
+  if (!payment) return;
+  cheque.Set("PartyCode", payment->Party);
+  cheque.Set("PayTo", payment->Head);
+  cheque.Set("Station", payment->Station);
+  cheque.Set("Amount", payment->Value);
+  cheque.Set("vDate", payment->Day.Text());
+  cheque.Set("Narration", payment->Narration);
   cheque.Set("ChqNo",
              db.Lookup("ChqLeaves", "ChqNo",
                        "VoucherID=" + books::SqlNumber(voucher_) + " and BankCode=" + books::SqlNumber(bank_))
@@ -62,7 +121,7 @@ void BankPayments::NextCheque(Form& cheque, int direction) {
   const std::string beyond = direction > 0 ? ">" : "<";
   const std::string order = direction > 0 ? "" : " desc";
   CDataSet next;
-  next.Open("Select First 1 VoucherID from FAData where " + PaymentsOf(bank_) + " and (dVchDate" + beyond +
+  next.Open("Select First 1 VoucherID from FAData a where " + PaymentsOf(bank_) + " and (dVchDate" + beyond +
                 date + " or (dVchDate=" + date + " and VoucherID" + beyond + books::SqlNumber(voucher_) +
                 ")) order by dVchDate" + order + ",VoucherID" + order,
             db);

@@ -2,11 +2,33 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "host/forms/Form.h"
 #include "host/services/FinYear.h"
 
 namespace quillon {
+
+/// What a voucher pays from a bank account, as it stands on a cheque.
+struct BankPayment {
+  std::int64_t Voucher = 0;
+  std::int64_t Bank = 0;
+  Date Day;
+  std::int64_t Party = 0;
+  std::string Head;
+  std::string Station;
+  Amount Value;
+  Variant NarrationID;
+  std::string Narration;
+
+  /// The first line by which the voucher pays from the account; nothing when there is none.
+  static std::optional<BankPayment> Of(CDbLink& db, std::int64_t bank, std::int64_t voucher);
+
+  /// Those of a period that have no cheque leaf, by date and voucher.
+  static std::vector<BankPayment> WithoutLeaf(CDbLink& db, std::int64_t bank, Date from, Date to);
+};
 
 /// The payments of a bank account in a year, of which the cheque form shows one: its caller, which answers
 /// "NextCheque" with the next payment by date and voucher.

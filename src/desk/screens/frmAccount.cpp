@@ -320,6 +320,15 @@ FormPtr frmAccount::ModuleScreen(const std::string& key) {
   return screen;
 }
 
+bool frmAccount::RequireBankAccount() const {
+  constexpr std::int64_t kBankGroup = 47;
+  const Variant group =
+      gSession->MainDb().Lookup("FAMaster", "mbshno", "mcd=" + books::SqlNumber(AccountCode));
+  if (group.ToInteger() == kBankGroup) return true;
+  gStd->MsgBox("Only a bank account has cheque leaves.", "", "W");
+  return false;
+}
+
 void frmAccount::OpenWorkbench(bool interest) {
   if (!RequireComplete(Grid)) return;
   const FormPtr workbench = ModuleScreen("acreconciliation");

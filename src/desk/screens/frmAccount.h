@@ -48,7 +48,10 @@ class frmAccount : public ListScreen, public AccountPeriod {
   /// A new screen of the module, called from here; nothing, and a message, when there is no module.
   FormPtr ModuleScreen(const std::string& key);
 
-  /// Shows a screen of the module on this account and period.
+  /// Whether the account is a bank's; the user is told when it is not.
+  bool RequireBankAccount() const;
+
+  /// Shows a screen on this account and period.
   void ShowForPeriod(Form& screen);
 
  protected:

@@ -1,5 +1,6 @@
 #include "desk/shell/Desk.h"
 
+#include "desk/screens/OutgoingLeaves.h"
 #include "desk/shell/ModuleLibrary.h"
 #include "host/forms/Runtime.h"
 #include "host/values/Text.h"
@@ -37,6 +38,8 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
   unfinished_ = std::make_unique<UnfinishedWork>(*session_);
   module_->Init(app_->MainWindow());
   menu_ = std::make_unique<DeskMenu>(*module_, *session_);
+  // What a program that was killed has left is asked about before anybody works on.
+  gRuntime->Act([this] { OutgoingLeaves(session_->MainDb()).AskAll(); });
 }
 
 void Desk::CloseFirm() {

@@ -54,6 +54,9 @@ class IPrinter {
   /// Whether the finished pages are shown before they are printed; a mark for one job.
   bool SeeFirst = false;
 
+  /// While one job of many follows the other nobody is told of each file.
+  bool IsQuiet = false;
+
   /// Finishes the job; false when its user saw the pages and discarded them. Throws HostError when the file
   /// cannot be written.
   virtual bool EndDoc() = 0;

@@ -146,7 +146,7 @@ void QtRuntime::TellError(const std::string& routine, Form* form, const std::exc
 }
 
 void QtRuntime::OnPrinted(const std::string& file, int pages, int /*paper*/, int /*orientation*/) {
-  if (printer_.DeviceName != IPrinter::kPdfFile) return;
+  if (printer_.DeviceName != IPrinter::kPdfFile || printer_.IsQuiet) return;
   MessageRequest request;
   request.Text = std::to_string(pages) + (pages == 1 ? " page lies" : " pages lie") + " in the file\n" + file;
   request.Icon = "I";

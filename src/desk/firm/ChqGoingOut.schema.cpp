@@ -1,0 +1,14 @@
+#include "desk/firm/SchemaSteps.h"
+
+namespace quillon {
+
+/// Leaves whose cheque was sent to a printer and of which nobody has said yet whether it is printed.
+SchemaStep ChqGoingOutSchema() {
+  return {10,
+          SchemaStep::Database::kYear,
+          1,
+          {"create table ChqGoingOut (LeafID integer not null, VoucherID integer not null, "
+           "Program varchar(120), constraint PK_ChqGoingOut primary key (LeafID))"}};
+}
+
+}  // namespace quillon
