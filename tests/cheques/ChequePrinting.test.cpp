@@ -132,6 +132,18 @@ TEST_F(ChequePrinting, ThePartysBankDetailsStandUnderThePayee) {
   for (const std::string& sql : Statements()) EXPECT_EQ(sql.find("MBANKNAME"), std::string::npos);
 }
 
+TEST_F(ChequePrinting, TheLargestAmountsArePrintedOrToldNeverPrintedWrong) {
+  KeepOptions({{"NotExceeding", "1"}, {"AmtWd", "4"}});
+  FormPtr form = ShowCheque(101, "922337203685476.99");
+  const Texts lines = Printed(form);
+  EXPECT_TRUE(Has(lines, "870,3660 NOT EXCEEDING Rs. 92,23,37,20,36,85,477/-"));
+  EXPECT_TRUE(Has(lines, "8460,1560 **92,23,37,20,36,85,476.99"));
+  Key(*form, keys::kEscape);
+  form = ShowCheque(101, "922337203685477.00");
+  EXPECT_EQ(Errors(), Texts{"Overflow"});
+  EXPECT_FALSE(form->IsLoaded());
+}
+
 TEST_F(ChequePrinting, AJobThatCannotBeDoneIsToldAndLeavesNoPage) {
   const FormPtr form = ShowCheque();
   std::filesystem::create_directory(folder_.File("kept"));

@@ -1,4 +1,5 @@
 #include "tests/cheques/ChequeFixture.h"
+#include "tests/support/PrintServer.h"
 #include "tests/support/SpoolerPath.h"
 
 namespace quillon {
@@ -14,9 +15,13 @@ class ChequeSight : public ChequeTest {
     runtime_.Laid.Add({{"to", "sight"}, {"print", print}});
   }
 
-  const SpoolerPath lists_{folder_, "echo Laser\n", "lpstat"};
-  const SpoolerPath takes_{folder_,
-                           "for file; do :; done\ncp \"$file\" '" + folder_.File("queue.pdf") + "'\n"};
+  void SetUp() override {
+    if (!PrintServer::IsInstalled()) GTEST_SKIP() << "cups-daemon and cups-client are not installed";
+    ChequeTest::SetUp();
+    server_ = std::make_unique<PrintServer>();
+  }
+
+  std::unique_ptr<PrintServer> server_;
 };
 
 TEST_F(ChequeSight, PagesThatWereSeenArePrintedOrDiscarded) {
@@ -24,7 +29,6 @@ TEST_F(ChequeSight, PagesThatWereSeenArePrintedOrDiscarded) {
   AnswerSight(false);
   Key(*form, keys::kF9);
   EXPECT_TRUE(Events("printed").empty());
-  EXPECT_FALSE(std::filesystem::exists(folder_.File("queue.pdf")));
   EXPECT_FALSE(std::filesystem::exists(folder_.File("print-1.pdf")));
   AnswerSight(true);
   Key(*form, keys::kF9);
@@ -32,7 +36,7 @@ TEST_F(ChequeSight, PagesThatWereSeenArePrintedOrDiscarded) {
   ASSERT_EQ(seen.size(), 2U);
   EXPECT_EQ(seen[1].at("pages"), 1);
   EXPECT_EQ(seen[1].at("printer"), "Laser");
-  EXPECT_EQ(FileText(folder_.File("queue.pdf")), FileText(folder_.File("print-1.pdf")));
+  EXPECT_EQ(FileText(server_->Await(1).at(0).File), FileText(folder_.File("print-1.pdf")));
   runtime_.Laid.Add({{"to", "printdialog"}, {"printer", "Laser"}});
   Key(*form, keys::kF9);
   EXPECT_TRUE(Events("sight").empty()) << "the wish holds for one job";
@@ -58,7 +62,7 @@ TEST_F(ChequeSight, APrintersErrorIsTakenOutOnTheWayToItsQueueAlone) {
   AnswerSight(true);
   Key(*form, keys::kF9);
   EXPECT_EQ(Events("sight").at(0).at("corrected"), "1.98 mm right, 99 % across");
-  const PdfReader sent(folder_.File("queue.pdf"));
+  const PdfReader sent(server_->Await(1).at(0).File);
   const PdfReader kept(folder_.File("print-1.pdf"));
   EXPECT_NEAR(kept.Find("Asha").left, 870, 0.2 * kMillimetre) << "the file stays as it was laid out";
   // What the printer makes of the corrected page is what was asked for.
@@ -72,19 +76,34 @@ TEST_F(ChequeSight, APrintersErrorIsTakenOutOnTheWayToItsQueueAlone) {
   runtime_.Laid.Add({{"to", "printdialog"}, {"printer", "Laser"}});
   Key(*form, keys::kF9);
   EXPECT_EQ(Errors().size(), 1U);
-  EXPECT_EQ(FileText(folder_.File("queue.pdf")), FileText(folder_.File("print-2.pdf")))
+  EXPECT_EQ(FileText(server_->Await(2).at(1).File), FileText(folder_.File("print-2.pdf")))
       << "printed uncorrected";
 }
 
-TEST_F(ChequeSight, APrinterThatIsGoneIsTold) {
+TEST_F(ChequeSight, APrinterThatIsStoppedOrGoneIsTold) {
   const FormPtr form = ShowCheque();
-  const SpoolerPath refuses(folder_, "echo 'The printer is not there' >&2\nexit 1\n");
-  runtime_.Laid.Add({{"to", "printdialog"}, {"printer", "Laser"}});
-  Key(*form, keys::kF9);
+  const auto print = [&] {
+    runtime_.Laid.Add({{"to", "printdialog"}, {"printer", "Laser"}});
+    Key(*form, keys::kF9);
+  };
+  server_->StopQueue("Laser");
+  AnswerMessage();
+  print();
+  server_->RestartQueue("Laser");
+  server_->HoldJobs("Laser");
+  AnswerMessage();
+  print();
+  EXPECT_EQ(Messages(), (Texts{"The printer Laser is stopped. What was sent waits in its queue.",
+                               "The queue of the printer Laser holds the pages back. What was sent waits in "
+                               "its queue."}));
+  // It was there when the dialog listed the printers.
+  const SpoolerPath listed(folder_, "echo Laser\n", "lpstat");
+  server_->RemoveQueue("Laser");
+  print();
   const std::vector<Json> told = Events("error");
   ASSERT_EQ(told.size(), 1U);
   EXPECT_EQ(told[0].at("routine"), "PrintChq");
-  EXPECT_NE(told[0].at("text").get<std::string>().find("The printer is not there"), std::string::npos);
+  EXPECT_NE(told[0].at("text").get<std::string>().find("does not exist"), std::string::npos);
 }
 
 }  // namespace

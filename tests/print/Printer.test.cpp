@@ -2,9 +2,11 @@
 #include <QFontMetricsF>
 #include <chrono>
 #include <cmath>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include "desk/print/Fonts.h"
 #include "desk/print/PdfPrinter.h"
@@ -146,6 +148,33 @@ TEST_F(PrinterTest, AJobThatDiesLeavesNothing) {
   EXPECT_EQ(FilesLeft(), 0u);
   PdfPrinter nowhere("/proc/none");
   EXPECT_THROW(nowhere.Print("x"), HostError);
+}
+
+TEST_F(PrinterTest, ADiskThatIsFullIsToldAndTheJobDoesNotCountAsPrinted) {
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const auto signalled = signal(SIGXFSZ, SIG_IGN);
+  std::string why;
+  printer.ForgetJob();
+  for (const rlim_t room : {rlim_t{0}, rlim_t{900}}) {
+    const rlimit full{room, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    PrintAt(0, 0, "Harbour");
+    try {
+      printer.EndDoc();
+      ADD_FAILURE() << "a file of " << room << " bytes is none";
+    } catch (const HostError& error) {
+      why = error.what();
+    }
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_NE(why.find("could not be written whole"), std::string::npos) << why;
+    EXPECT_EQ(FilesLeft(), 0U);
+    EXPECT_EQ(printer.FateOfJob(why), IPrinter::JobFate::kNothingSent);
+  }
+  signal(SIGXFSZ, signalled);
+  PrintAt(0, 0, "Harbour");
+  printer.EndDoc();
+  EXPECT_EQ(printer.FateOfJob(why), IPrinter::JobFate::kPrinted) << "there is room again";
 }
 
 TEST_F(PrinterTest, ABrokenRunLeavesNoPageForTheNext) {

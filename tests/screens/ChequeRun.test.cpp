@@ -180,14 +180,15 @@ TEST_F(ChequeRun, WhatAQueueDoesNotDoIsAskedAbout) {
   run_->Set("Patience", 1);
   Start("123", "", "Laser");
   EXPECT_EQ(State(), "Printed 1 of 5. The next leaf is 000124.");
-  EXPECT_EQ(PdfReader(server.Arrived().at(0).File).Find("**100.00").page, 1);
+  EXPECT_EQ(PdfReader(server.Await(1).at(0).File).Find("**100.00").page, 1);
   EXPECT_EQ(Messages(), Texts{});
 
   server.StopQueue("Laser");
   AnswerMessage();
   AnswerMessage(2);
   Key(*run_, keys::kF7);
-  EXPECT_EQ(Messages(), (Texts{"The printer Laser is stopped.", "Was cheque 000124 printed?"}));
+  EXPECT_EQ(Messages(), (Texts{"The printer Laser is stopped. What was sent waits in its queue.",
+                               "Was cheque 000124 printed?"}));
   EXPECT_EQ(Leaf(124), "|||||");
   EXPECT_EQ(Outgoing(), 0);
   server.RestartQueue("Laser");
@@ -211,14 +212,18 @@ TEST_F(ChequeRun, WhatAQueueDoesNotDoIsAskedAbout) {
   EXPECT_EQ(Rows().size(), 2U) << "it is neither printed nor to be printed";
   EXPECT_EQ(Events("printed").size(), 4U);
 
-  // Put off, it is asked again when the books are opened.
+  // Put off, it is asked again when the books are opened; the voucher is gone by then.
+  Db().Execute("delete from FAData where VoucherID=7");
   const std::string firm = folder_.File("firm");
   run_.reset();
   desk_.CloseFirm();
-  AnswerMessage(2);
+  AnswerMessage(1);
+  AnswerMessage();
   desk_.OpenFirm(firm);
-  EXPECT_EQ(Messages(), Texts{"Was cheque 000125 printed?"});
+  EXPECT_EQ(Messages(), (Texts{"Was cheque 000125 printed?",
+                               "The voucher of cheque 000125 is gone. Its leaf is cancelled."}));
   EXPECT_EQ(Outgoing(), 0);
+  EXPECT_EQ(Leaf(125), "|Y||||");
 }
 
 }  // namespace

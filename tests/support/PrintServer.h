@@ -11,6 +11,7 @@
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 #include "tests/support/TempFolder.h"
 
@@ -72,6 +73,16 @@ class PrintServer {
       std::ifstream told(stem + ".txt");
       Paper paper{stem + ".pdf", "", ""};
       if (std::getline(told, paper.Copies) && std::getline(told, paper.Options)) papers.push_back(paper);
+    }
+    return papers;
+  }
+
+  /// The same once so many have come out; those that came within ten seconds.
+  std::vector<Paper> Await(std::size_t many) const {
+    std::vector<Paper> papers = Arrived();
+    for (int look = 0; look < 1000 && papers.size() < many; ++look) {
+      poll(nullptr, 0, 10);
+      papers = Arrived();
     }
     return papers;
   }

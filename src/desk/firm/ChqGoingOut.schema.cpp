@@ -8,7 +8,8 @@ SchemaStep ChqGoingOutSchema() {
           SchemaStep::Database::kYear,
           1,
           {"create table ChqGoingOut (LeafID integer not null, VoucherID integer not null, "
-           "Program varchar(120), constraint PK_ChqGoingOut primary key (LeafID))"}};
+           "Program varchar(120), constraint PK_ChqGoingOut primary key (LeafID), constraint "
+           "FK_ChqGoingOut_Leaf foreign key (LeafID) references ChqLeaves (ID) on delete cascade)"}};
 }
 
 }  // namespace quillon

@@ -12,6 +12,7 @@
 #include "desk/print/PrintObserver.h"
 #include "desk/print/QueuedJob.h"
 #include "desk/print/TextMeasure.h"
+#include "host/services/IStd.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -106,6 +107,10 @@ void PdfPrinter::Deliver(PdfDocument& job, const ReportPages& pages) {
   queued_ = PageSender::Send(
       pages, file, {.Printer = DeviceName, .Monochrome = ColorMode == kMonochrome, .Paper = PaperSize});
   fate_ = DeviceName == kPdfFile ? JobFate::kPrinted : JobFate::kUnderWay;
+  const std::string heldUp = queued_.empty() ? "" : QueuedJob(queued_).HeldUp();
+  if (heldUp.empty()) return;
+  fate_ = JobFate::kInDoubt;
+  if (gStd != nullptr) gStd->MsgBox(heldUp + " What was sent waits in its queue.", "", "W");
 }
 
 IPrinter::JobFate PdfPrinter::FateOfJob(std::string& why) {

@@ -45,33 +45,39 @@ QueuedJob::QueuedJob(const std::string& name) {
   std::from_chars(name.data() + dash + 1, name.data() + name.size(), number_);
 }
 
+int QueuedJob::State(std::string& heldUp) const {
+  const Connection connection = number_ > 0 ? Connect() : nullptr;
+  if (!connection) return 0;
+  const int state = Ask(connection.get(), queue_, number_, "job-state");
+  if (state == IPP_JSTATE_HELD || state == IPP_JSTATE_STOPPED) {
+    heldUp = "The queue of the printer " + queue_ + " holds the pages back.";
+  } else if ((state == IPP_JSTATE_PENDING || state == IPP_JSTATE_PROCESSING) &&
+             Ask(connection.get(), queue_, 0, "printer-state") == IPP_PSTATE_STOPPED) {
+    heldUp = "The printer " + queue_ + " is stopped.";
+  }
+  return state;
+}
+
+std::string QueuedJob::HeldUp() const {
+  std::string why;
+  State(why);
+  return why;
+}
+
 IPrinter::JobFate QueuedJob::Fate(std::string& why) const {
   using enum IPrinter::JobFate;
-  const Connection connection = number_ > 0 ? Connect() : nullptr;
-  if (!connection) {
-    why = "The queue of the printer " + queue_ + " does not answer.";
-    return kInDoubt;
+  std::string heldUp;
+  const int state = State(heldUp);
+  if (state == IPP_JSTATE_COMPLETED) return kPrinted;
+  if (heldUp.empty() && (state == IPP_JSTATE_PENDING || state == IPP_JSTATE_PROCESSING)) return kUnderWay;
+  if (!heldUp.empty()) {
+    why = heldUp;
+  } else if (state == IPP_JSTATE_CANCELED || state == IPP_JSTATE_ABORTED) {
+    why = "The printer " + queue_ + " has given the pages up.";
+  } else {
+    why = "The queue of the printer " + queue_ + " knows nothing of the pages.";
   }
-  switch (Ask(connection.get(), queue_, number_, "job-state")) {
-    case IPP_JSTATE_COMPLETED:
-      return kPrinted;
-    case IPP_JSTATE_PENDING:
-    case IPP_JSTATE_PROCESSING:
-      if (Ask(connection.get(), queue_, 0, "printer-state") != IPP_PSTATE_STOPPED) return kUnderWay;
-      why = "The printer " + queue_ + " is stopped.";
-      return kInDoubt;
-    case IPP_JSTATE_HELD:
-    case IPP_JSTATE_STOPPED:
-      why = "The queue of the printer " + queue_ + " holds the pages back.";
-      return kInDoubt;
-    case IPP_JSTATE_CANCELED:
-    case IPP_JSTATE_ABORTED:
-      why = "The printer " + queue_ + " has given the pages up.";
-      return kInDoubt;
-    default:
-      why = "The queue of the printer " + queue_ + " knows nothing of the pages any more.";
-      return kInDoubt;
-  }
+  return kInDoubt;
 }
 
 void QueuedJob::TakeBack() const {

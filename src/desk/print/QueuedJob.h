@@ -15,10 +15,16 @@ class QueuedJob {
   /// What the spooler knows of it now; `why` takes, in words, what keeps a job in doubt.
   IPrinter::JobFate Fate(std::string& why) const;
 
+  /// Why it waits in its queue, in words, when its printer is stopped or its queue holds it back; else empty.
+  std::string HeldUp() const;
+
   /// Takes it out of the queue; nothing happens when it is not there any more.
   void TakeBack() const;
 
  private:
+  /// As the spooler counts states; 0 when it does not know the job.
+  int State(std::string& heldUp) const;
+
   std::string queue_;
   int number_ = 0;
 };
