@@ -19,6 +19,7 @@ from pathlib import Path
 
 DRIVE, SAMPLE = sys.argv[1:3]
 HERE = Path(__file__).resolve().parent
+LEAF_123 = json.dumps({"cmd": "query", "sql": "select VoucherID,IsuDate from ChqLeaves where ID=900"})
 COMMANDS = set(
     "firm form menu set get call show close forms key focus type paste click dblclick bar choose check row cell range "
     "gridrow scroll pickbutton picked popup answer state tree query execute setting picture trace".split()
@@ -113,14 +114,8 @@ class Driver(unittest.TestCase):
         shutil.copytree(self.sample, self.own.name + "/other")
         self.run_script("cheques.jsonl", 0)
 
-    def test_killed_while_a_cheque_is_on_its_way_asks_for_it_at_the_next_start(self):
-        tools = Path(self.own.name) / "tools"
-        tools.mkdir()
-        for name, does in (("lpstat", "echo Laser"), ("lp", "kill -9 $PPID")):
-            (tools / name).write_text("#!/bin/sh\n" + does + "\n")
-            (tools / name).chmod(0o755)
-        leaf = json.dumps({"cmd": "query", "sql": "select VoucherID,IsuDate from ChqLeaves where ID=900"})
-        run = [
+    def print_on_leaf_123(self, printer):
+        return "\n".join(map(json.dumps, [
             {"cmd": "execute", "sql": "insert into ChqLeaves (ID,BankCode,ChqNo) values (900,103,123)"},
             {"cmd": "form", "key": "Account", "host": True, "id": "st"},
             {"cmd": "set", "form": "st", "member": "AccountCode", "value": 103},
@@ -129,22 +124,46 @@ class Driver(unittest.TestCase):
             {"cmd": "popup", "key": "ChequeRun"},
             {"cmd": "key", "key": "F2"},
             {"cmd": "type", "control": "txpFirst", "text": "123"},
-            {"cmd": "answer", "to": "printdialog", "printer": "Laser"},
+            {"cmd": "answer", "to": "printdialog", "printer": printer},
             {"cmd": "key", "key": "F9"},
-        ]
+        ]))
+
+    def test_a_cheque_on_a_full_disk_is_not_printed(self):
+        full = Path(self.own.name) / "full"
+        full.mkdir()
+        small = ["unshare", "-rm", "sh", "-c", 'mount -t tmpfs -o size=8k none "$0" && exec "$@"', str(full)]
+        if subprocess.run([*small, "true"], capture_output=True).returncode != 0:
+            self.skipTest("a small disk cannot be made here")
+        script = "\n".join([self.print_on_leaf_123("PDF file"), LEAF_123,
+                            json.dumps({"cmd": "query", "sql": "select * from ChqGoingOut"})])
+        run = subprocess.run([*small, DRIVE, "--out", str(full), "--firm", self.firm], input=script,
+                             capture_output=True, text=True, timeout=60)
+        lines = [json.loads(line) for line in run.stdout.splitlines()]
+        told = [line["text"] for line in lines if line.get("event") == "error"]
+        self.assertEqual(len(told), 1, lines)
+        self.assertIn("could not be written whole", told[0])
+        self.assertEqual([line["rows"] for line in lines if "rows" in line and "columns" in line], [[[None, None]], []])
+        self.assertFalse([line for line in lines if line.get("event") == "printed"])
+
+    def test_killed_while_a_cheque_is_on_its_way_asks_for_it_at_the_next_start(self):
+        tools = Path(self.own.name) / "tools"
+        tools.mkdir()
+        for name, does in (("lpstat", "echo Laser"), ("lp", "kill -9 $PPID")):
+            (tools / name).write_text("#!/bin/sh\n" + does + "\n")
+            (tools / name).chmod(0o755)
         with unittest.mock.patch.dict(os.environ, {"PATH": f"{tools}:{os.environ['PATH']}"}):
-            code, lines, errors = self.drive("\n".join(map(json.dumps, run)), "--firm", self.firm)
+            code, lines, errors = self.drive(self.print_on_leaf_123("Laser"), "--firm", self.firm)
         self.assertEqual(code, -signal.SIGKILL, errors)
         # Nobody answers: the leaf goes on waiting for a word.
-        code, lines, _ = self.drive(leaf, "--firm", self.firm)
+        code, lines, _ = self.drive(LEAF_123, "--firm", self.firm)
         self.assertEqual(lines[0]["text"], "Was cheque 000123 printed?")
         self.assertEqual((code, lines[-1]["rows"]), (0, [[None, None]]))
         answer = json.dumps({"cmd": "answer", "to": "message", "button": 1})
         firm = json.dumps({"cmd": "firm", "folder": self.firm})
-        code, lines, _ = self.drive("\n".join([answer, firm, leaf]))
+        code, lines, _ = self.drive("\n".join([answer, firm, LEAF_123]))
         self.assertEqual(code, 0, lines)
         self.assertIsNotNone(lines[-1]["rows"][0][0])
-        code, lines, _ = self.drive(leaf, "--firm", self.firm)
+        code, lines, _ = self.drive(LEAF_123, "--firm", self.firm)
         self.assertEqual([line.get("event") for line in lines], [None], "it is asked about no more")
 
     def test_labels_letters_and_envelopes(self):

@@ -92,6 +92,11 @@ void frmChequeRun::FirstShow() {
   FillGrid();
 }
 
+/// Other screens may have changed the books meanwhile.
+void frmChequeRun::ShownAgain() {
+  if (run_.Whole == 0) FillGrid();
+}
+
 void frmChequeRun::FillGrid() {
   const BusyPointer pointer;
   GridFill fill(Grid, "");

@@ -46,6 +46,7 @@ class frmChequeRun : public ListScreen, public AccountPeriod {
   void BuildBar() override;
   void LoadScreen() override;
   void FirstShow() override;
+  void ShownAgain() override;
   void Pressed(const std::string& key) override;
   void Print(bool print) override;
   void ExitPressed(bool& cancel) override;
