@@ -86,7 +86,7 @@ TEST_F(QueueTest, WhatAQueueDoesNotDoIsNotPrinted) {
   server->StopQueue("Laser");
   PrintPage("stopped");
   EXPECT_EQ(Settled(), Fate::kInDoubt);
-  printer.TakeBackJob();
+  printer.TakeBackJob(printer.JobName());
   server->RestartQueue("Laser");
 
   server->Break();

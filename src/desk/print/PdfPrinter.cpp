@@ -118,9 +118,12 @@ IPrinter::JobFate PdfPrinter::FateOfJob(std::string& why) {
   return fate_;
 }
 
-void PdfPrinter::TakeBackJob() {
-  if (!queued_.empty()) QueuedJob(queued_).TakeBack();
+void PdfPrinter::ForgetJob() {
+  fate_ = JobFate::kNothingSent;
+  queued_.clear();
 }
+
+void PdfPrinter::TakeBackJob(const std::string& name) { QueuedJob(name).TakeBack(); }
 
 void PdfPrinter::KillDoc() {
   job_.reset();

@@ -35,9 +35,10 @@ class PdfPrinter : public IPrinter {
 
   /// Without anything printed there is no file.
   bool EndDoc() override;
-  void ForgetJob() override { fate_ = JobFate::kNothingSent; }
+  void ForgetJob() override;
   JobFate FateOfJob(std::string& why) override;
-  void TakeBackJob() override;
+  std::string JobName() const override { return queued_; }
+  void TakeBackJob(const std::string& name) override;
   void KillDoc() override;
 
   /// A job of one page that is drawn in dots, so many to the inch; a job at hand stays as it is.

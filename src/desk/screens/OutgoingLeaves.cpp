@@ -57,7 +57,7 @@ std::string OutgoingLeaves::WhyNot(std::int64_t bank, std::int64_t number) const
 }
 
 OutgoingLeaf OutgoingLeaves::Send(std::int64_t bank, std::int64_t number, std::int64_t voucher) {
-  OutgoingLeaf sent{0, bank, number, voucher};
+  OutgoingLeaf sent{0, bank, number, voucher, ""};
   sent.Leaf =
       year_
           .Lookup("ChqLeaves", "ID",
@@ -68,7 +68,14 @@ OutgoingLeaf OutgoingLeaves::Send(std::int64_t bank, std::int64_t number, std::i
   return sent;
 }
 
-void OutgoingLeaves::CloseSent(const OutgoingLeaf& sent) {
+void OutgoingLeaves::NoteJob(OutgoingLeaf& sent, const std::string& job) {
+  sent.Job = job;
+  if (job.empty()) return;
+  year_.Execute("update ChqGoingOut set JobName=" + books::SqlString(job) +
+                " where LeafID=" + books::SqlNumber(sent.Leaf));
+}
+
+void OutgoingLeaves::Free(const OutgoingLeaf& sent) {
   year_.Execute("delete from ChqGoingOut where LeafID=" + books::SqlNumber(sent.Leaf));
 }
 
@@ -92,7 +99,7 @@ std::optional<OutgoingLeaves::Issue> OutgoingLeaves::Record(const OutgoingLeaf& 
   const std::optional<BankPayment> payment = BankPayment::Of(year_, sent.Bank, sent.Voucher);
   if (!payment) {
     year_.Execute("update ChqLeaves set Cancelled='Y' where " + leaf);
-    CloseSent(sent);
+    Free(sent);
     work.Commit();
     gStd->MsgBox("The voucher of cheque " + LeafText(sent.Number) + " is gone. Its leaf is cancelled.", "",
                  "W");
@@ -110,12 +117,10 @@ std::optional<OutgoingLeaves::Issue> OutgoingLeaves::Record(const OutgoingLeaf& 
     throw HostError("Cheque " + LeafText(sent.Number) +
                     " is printed, but its leaf was used or cancelled meanwhile. Look into the leaves.");
   }
-  CloseSent(sent);
+  Free(sent);
   work.Commit();
   return issue;
 }
-
-void OutgoingLeaves::Free(const OutgoingLeaf& sent) { CloseSent(sent); }
 
 void OutgoingLeaves::Spoil(const Issue& issue) {
   TransactionScope work(year_);
@@ -132,31 +137,32 @@ void OutgoingLeaves::Spoil(const Issue& issue) {
   work.Commit();
 }
 
-OutgoingLeaves::Answer OutgoingLeaves::Ask(const OutgoingLeaf& sent, std::optional<Issue>& issue) {
+void OutgoingLeaves::Ask(const OutgoingLeaf& sent, std::optional<Issue>& issue) {
   enum Button { kYes = 1, kNo, kLater };
   const int button = gRuntime->AskMessage(
       {"Was cheque " + LeafText(sent.Number) + " printed?", "Q", {"Yes", "No", "Later"}, "Quillon", kLater});
   if (button == kYes) {
     issue = Record(sent);
-    return Answer::kPrinted;
+  } else if (button == kNo) {
+    gRuntime->Printer().TakeBackJob(sent.Job);
+    Free(sent);
   }
-  if (button != kNo) return Answer::kLater;
-  Free(sent);
-  return Answer::kNotPrinted;
 }
 
 std::vector<OutgoingLeaf> OutgoingLeaves::Left() const {
   const std::string own = OwnProgramMark();
   std::vector<OutgoingLeaf> left;
   CDataSet rows;
-  for (rows.Open("Select g.LeafID,g.VoucherID,g.Program,l.BankCode,l.ChqNo from ChqGoingOut g inner join "
-                 "ChqLeaves l on l.ID=g.LeafID order by l.BankCode,l.ChqNo",
-                 year_);
+  for (rows.Open(
+           "Select g.LeafID,g.VoucherID,g.Program,g.JobName,l.BankCode,l.ChqNo from ChqGoingOut g inner join "
+           "ChqLeaves l on l.ID=g.LeafID order by l.BankCode,l.ChqNo",
+           year_);
        !rows.Eof(); rows.MoveNext()) {
     const std::string program = rows.Field("Program").ToText();
     if (program != own && IsAtWork(program)) continue;
     left.push_back({rows.Field("LeafID").ToInteger(), rows.Field("BankCode").ToInteger(),
-                    rows.Field("ChqNo").ToInteger(), rows.Field("VoucherID").ToInteger()});
+                    rows.Field("ChqNo").ToInteger(), rows.Field("VoucherID").ToInteger(),
+                    rows.Field("JobName").ToText()});
   }
   return left;
 }

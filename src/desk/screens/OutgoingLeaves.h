@@ -18,6 +18,7 @@ struct OutgoingLeaf {
   std::int64_t Bank = 0;
   std::int64_t Number = 0;
   std::int64_t Voucher = 0;
+  std::string Job{};  ///< its name in the printer's queue
 };
 
 /// A cheque number as people read it: at least six digits.
@@ -34,6 +35,9 @@ class OutgoingLeaves {
 
   /// Marks the leaf as going out for a voucher. It must be one that WhyNot says nothing against.
   OutgoingLeaf Send(std::int64_t bank, std::int64_t number, std::int64_t voucher);
+
+  /// Keeps the name that the printer's queue gave the cheque.
+  void NoteJob(OutgoingLeaf& sent, const std::string& job);
 
   /// What taking a leaf back from its voucher needs.
   struct Issue {
@@ -53,10 +57,9 @@ class OutgoingLeaves {
   /// The printed leaf is spoilt: it is cancelled, and the voucher stands as before it had it.
   void Spoil(const Issue& issue);
 
-  /// Asks "Was cheque … printed?" and does what is answered; nothing when it is put off. `issue` takes what
-  /// Record gave.
-  enum class Answer { kPrinted, kNotPrinted, kLater };
-  Answer Ask(const OutgoingLeaf& sent, std::optional<Issue>& issue);
+  /// Asks "Was cheque … printed?" and does what is answered; nothing when it is put off. A cheque that is not
+  /// printed must not come out later, so that it is taken out of its queue. `issue` takes what Record gave.
+  void Ask(const OutgoingLeaf& sent, std::optional<Issue>& issue);
 
   /// Asks so for each leaf that no program at work has sent.
   void AskAll();
@@ -64,7 +67,6 @@ class OutgoingLeaves {
  private:
   std::vector<OutgoingLeaf> Left() const;
   Variant NumberNarration(const BankPayment& payment, Issue& issue);
-  void CloseSent(const OutgoingLeaf& sent);
 
   CDbLink& year_;
 };

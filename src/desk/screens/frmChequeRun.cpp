@@ -263,12 +263,13 @@ std::optional<OutgoingLeaves::Issue> frmChequeRun::PrintCheque(std::int64_t vouc
   if (!cheque) return std::nullopt;
   BankPayments(gSession->CurrentYear(), AccountCode, voucher).Fill(*cheque);
   gRuntime->Load(cheque);
-  const OutgoingLeaf sent = Leaves().Send(AccountCode, run_.Leaf, voucher);
+  OutgoingLeaf sent = Leaves().Send(AccountCode, run_.Leaf, voucher);
   IPrinter& printer = gRuntime->Printer();
   printer.ForgetJob();
   std::optional<FlagHold> quiet;
   if (!run_.AsksPrinter) quiet.emplace(printer.IsQuiet);
   cheque->Call("PrintChq", {run_.AsksPrinter});
+  Leaves().NoteJob(sent, printer.JobName());
   gRuntime->Unload(*cheque);
   std::optional<Issue> issue = Settle(sent);
   if (issue) {
@@ -292,10 +293,7 @@ std::optional<OutgoingLeaves::Issue> frmChequeRun::Settle(const OutgoingLeaf& se
   }
   if (!why.empty()) gStd->MsgBox(why, "", "W");
   std::optional<Issue> issue;
-  if (Leaves().Ask(sent, issue) == OutgoingLeaves::Answer::kNotPrinted) {
-    // It must not come out later, on a leaf that is another cheque's by then.
-    gRuntime->Printer().TakeBackJob();
-  }
+  Leaves().Ask(sent, issue);
   return issue;
 }
 

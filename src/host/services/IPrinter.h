@@ -75,8 +75,11 @@ class IPrinter {
   /// Asks the queue; `why` takes, in words, what keeps a job in doubt where that was not told already.
   virtual JobFate FateOfJob(std::string& why) = 0;
 
-  /// Takes the job out of its queue, if it is still there.
-  virtual void TakeBackJob() = 0;
+  /// The name that its queue has given the job that was handed over last; empty where it went to none.
+  virtual std::string JobName() const = 0;
+
+  /// Takes a job of that name out of its queue, if it is still there.
+  virtual void TakeBackJob(const std::string& name) = 0;
 
   /// Drops the job at hand, if there is one: no file, nothing to the device.
   virtual void KillDoc() = 0;
