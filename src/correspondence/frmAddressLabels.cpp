@@ -84,7 +84,8 @@ void frmAddressLabels::BuildBar() {
 
 void frmAddressLabels::LoadScreen() {
   constexpr long kTitleHeight = 345;
-  lblGridTitle.Move(0, ContentTop(), Width, kTitleHeight);
+  constexpr long kTitleEdge = 90;
+  lblGridTitle.Move(kTitleEdge, ContentTop(), Width - kTitleEdge, kTitleHeight);
   const long top = ContentTop() + kTitleHeight;
   Grid.Move(0, top, Width, ContentBottom() - top);
   Grid.Font = quillon::Font{"Tahoma", 9.75, false, false, false};

@@ -32,7 +32,9 @@ constexpr std::array kZooms = {50, 75, 100, 125, 150, 200, 300};
 }  // namespace
 
 PreviewWindow::PreviewWindow(ReportCopy report, QWidget* parent)
-    : PagesWindow(QString::fromStdString("Preview: " + report.Sheets.Title), parent),
+    : PagesWindow(
+          QString::fromStdString(report.Sheets.Title.empty() ? "Preview" : "Preview: " + report.Sheets.Title),
+          parent),
       report_(std::move(report)),
       search_(new QLineEdit(this)),
       state_(new ElidedLabel(this)) {
