@@ -46,6 +46,24 @@ constexpr int kCount = 7;
 
 enum RunButton { kNext, kStop, kSpoilt };
 
+/// A form that is used without being shown, for the length of a block.
+class LoadedForm {
+ public:
+  explicit LoadedForm(FormPtr form) : form_(std::move(form)) { gRuntime->Load(form_); }
+  LoadedForm(const LoadedForm&) = delete;
+  LoadedForm& operator=(const LoadedForm&) = delete;
+  ~LoadedForm() {
+    try {
+      gRuntime->Unload(*form_);
+    } catch (const std::exception&) {
+      // What went wrong before it is what is told.
+    }
+  }
+
+ private:
+  FormPtr form_;
+};
+
 }  // namespace
 
 frmChequeRun::frmChequeRun()
@@ -262,7 +280,7 @@ std::optional<OutgoingLeaves::Issue> frmChequeRun::PrintCheque(std::int64_t vouc
   const FormPtr cheque = NewChequeForm(Self(), AccountCode);
   if (!cheque) return std::nullopt;
   BankPayments(gSession->CurrentYear(), AccountCode, voucher).Fill(*cheque);
-  gRuntime->Load(cheque);
+  const LoadedForm loaded(cheque);
   OutgoingLeaf sent = Leaves().Send(AccountCode, run_.Leaf, voucher);
   IPrinter& printer = gRuntime->Printer();
   printer.ForgetJob();
@@ -270,7 +288,6 @@ std::optional<OutgoingLeaves::Issue> frmChequeRun::PrintCheque(std::int64_t vouc
   if (!run_.AsksPrinter) quiet.emplace(printer.IsQuiet);
   cheque->Call("PrintChq", {run_.AsksPrinter});
   Leaves().NoteJob(sent, printer.JobName());
-  gRuntime->Unload(*cheque);
   std::optional<Issue> issue = Settle(sent);
   if (issue) {
     run_.AsksPrinter = false;
