@@ -51,6 +51,7 @@ void DeskWork::Press(Form& form, const char* button) {
 }
 
 void DeskWork::CloseForms() {
+  CloseGraph();
   CloseWorkbench();
   if (markings_) runtime_.Unload(*markings_);
   markings_.reset();
@@ -65,6 +66,7 @@ void DeskWork::OpenStatement() {
 }
 
 void DeskWork::ReadyStatement() {
+  CloseGraph();
   CloseWorkbench();
   if (!statement_) OpenStatement();
 }
@@ -79,6 +81,21 @@ void DeskWork::OpenWorkbench() {
 void DeskWork::CloseWorkbench() {
   if (workbench_) runtime_.Unload(*workbench_);
   workbench_.reset();
+}
+
+void DeskWork::OpenGraph() {
+  runtime_.NextCommand = [this] {
+    runtime_.PickFromMenu("Graph");
+    return true;
+  };
+  Press(*statement_, "Others");
+  runtime_.NextCommand = nullptr;
+  graph_ = runtime_.ActiveForm();
+}
+
+void DeskWork::CloseGraph() {
+  if (graph_) runtime_.Unload(*graph_);
+  graph_.reset();
 }
 
 void DeskWork::ReadyEntries() {

@@ -28,6 +28,10 @@ class DeskWork {
   void OpenWorkbench();
   void CloseWorkbench();
 
+  /// The amounts of the statement's year as a graph by month.
+  void OpenGraph();
+  void CloseGraph();
+
   void ReadyEntries();
 
   /// Enters the cell of the next entry, types a date and leaves.
@@ -77,6 +81,7 @@ class DeskWork {
   Desk desk_;
   FormPtr statement_;
   FormPtr workbench_;
+  FormPtr graph_;
   FormPtr markings_;
   View view_ = View::Entries;
   bool references_ = true;

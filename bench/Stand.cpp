@@ -44,6 +44,13 @@ const std::vector<Case>& Cases() {
         "a.NarrationID from FAData a where " +
             kAccount + " order by a.dVchDate",
         "select VoucherID from FADocs where ChqReturn='Y'"}},
+      {"Graph of the year",
+       &DeskWork::ReadyStatement,
+       &DeskWork::OpenGraph,
+       &DeskWork::CloseGraph,
+       1,
+       {"select a.dVchDate,sum(a.dAmt) from FAData a where " + kAccount +
+        " and a.dVchDate between '2024-04-01' and '2025-03-31' group by a.dVchDate"}},
       {"Workbench opened", &DeskWork::ReadyStatement, &DeskWork::OpenWorkbench, &DeskWork::CloseWorkbench},
       {"Date stored", &DeskWork::ReadyEntries, &DeskWork::StoreDate, nothing, DeskWork::kRows},
       {"Reconciliation, no references",

@@ -165,6 +165,18 @@ class Driver(unittest.TestCase):
         self.assertIsNotNone(lines[-1]["rows"][0][0])
         code, lines, _ = self.drive(LEAF_123, "--firm", self.firm)
         self.assertEqual([line.get("event") for line in lines], [None], "it is asked about no more")
+    def test_a_years_graph_beside_two_others(self):
+        shutil.rmtree(self.firm)
+        subprocess.run([SAMPLE, self.firm, "--vouchers", "20", "--years", "2023,2024,2025"], check=True, capture_output=True)
+        lines, _ = self.run_script("graph.jsonl", 0)
+        page = next(line["file"] for line in lines if line.get("event") == "printed")
+        if not shutil.which("pdftotext"):
+            self.skipTest("pdftotext is not installed")
+        words = subprocess.run(["pdftotext", page, "-"], capture_output=True, text=True).stdout
+        for shown in ("Sharda Trading Co.", "Asha Traders, Surat", "Oct-Dec", "2023-2024"):
+            self.assertIn(shown, words)
+        for left_out in ("Cummlative", "Total", "Graphical Representation"):
+            self.assertNotIn(left_out, words)
 
     def test_labels_letters_and_envelopes(self):
         self.run_script("correspondence.jsonl", 0)

@@ -74,7 +74,9 @@ class ChartTest : public FormTest {
 
 TEST_F(ChartTest, BarsAreAsHighAsTheirFiguresOnBothSidesOfZeroAndTellThem) {
   Fill({{0}, {0}});
-  EXPECT_EQ(Dots(kBlue), 0) << "figures of 0 have no bars";
+  chart_.ShowLegend = true;
+  EXPECT_EQ(Dots(kBlue), 0) << "figures of 0 have no bars, a series without a name no legend";
+  chart_.ShowLegend = false;
   Fill({{300000}, {-100000}, {-100000}});
   const int both = Dots(kBlue);
   chart_.DataGrid.SetRowLabel(1, 1, "Apr 2024");
@@ -151,6 +153,13 @@ TEST_F(ChartTest, SeriesOfOneColourAreToldApartByTheirPatterns) {
     plain.insert(Dots(kBlue));
   }
   EXPECT_EQ(plain.size(), 6u) << "each pattern covers a share of its own";
+  chart_.chartType = MSChart::k3dLine;
+  Fill({{10, 30, 50}, {20, 40, 60}});
+  SetColor(1, kBlue);
+  const int first = BluishDots();
+  SetColor(1, kGreen);
+  SetColor(3, kBlue);
+  EXPECT_LT(BluishDots(), 0.9 * first) << "a ribbon has its pattern too";
 }
 
 TEST_F(ChartTest, APieHasASliceForEachPeriodAndALegendOfThem) {
@@ -161,6 +170,7 @@ TEST_F(ChartTest, APieHasASliceForEachPeriodAndALegendOfThem) {
   SetColor(1, kGreen);
   chart_.DataGrid.SetRowLabel(1, 1, "Apr-Jun");
   EXPECT_EQ(Pointed(kGreen), "Apr-Jun: 30");
+  EXPECT_EQ(Pointed(kBlue), "2: 10") << "without a label it goes by its number";
   const int slice = Dots(kGreen);
   chart_.ShowLegend = true;
   EXPECT_NE(Dots(kGreen), slice);

@@ -19,7 +19,9 @@ bool MSChart::IsMissing(int series, int period) const {
 }
 
 std::string MSChart::SeriesLabel(int series) const {
-  return Plot.DataSeriesInRow ? DataGrid.CompositeRowLabel(series) : DataGrid.CompositeColumnLabel(series);
+  const std::string label =
+      Plot.DataSeriesInRow ? DataGrid.CompositeRowLabel(series) : DataGrid.CompositeColumnLabel(series);
+  return label.empty() && SeriesCount() > 1 ? std::to_string(series) : label;
 }
 
 std::string MSChart::PeriodLabel(int period) const {

@@ -42,6 +42,8 @@ class MSChart : public Control {
   int PeriodCount() const;
   double Figure(int series, int period) const;
   bool IsMissing(int series, int period) const;
+
+  /// One of several series without a label goes by its number.
   std::string SeriesLabel(int series) const;
   std::string PeriodLabel(int period) const;
   bool IsPie() const { return chartType == k2dPie; }

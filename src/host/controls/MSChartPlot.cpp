@@ -9,8 +9,8 @@ namespace quillon {
 
 namespace {
 
-// Neighbours differ in lightness too, so that they differ in print.
-constexpr std::array<long, 12> kColors = {0xB5742E, 0x2E8AE8, 0x3F7F3A, 0x3434C4, 0x9A5C94, 0x2FBFD9,
+// The first ones bear white text, as a table of figures has it that is painted in them.
+constexpr std::array<long, 12> kColors = {0xB5742E, 0x1466B8, 0x3F7F3A, 0x3434C4, 0x9A5C94, 0x2FBFD9,
                                           0x5B5B5B, 0x9C9A30, 0x7C4A1F, 0x7FB46B, 0x8E7AE0, 0x1F4F8C};
 
 long OwnColor(int series) { return kColors.at(static_cast<std::size_t>(series - 1) % kColors.size()); }

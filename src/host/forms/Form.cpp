@@ -7,6 +7,7 @@
 #include "host/controls/Menu.h"
 #include "host/controls/TextBox.h"
 #include "host/forms/Runtime.h"
+#include "host/services/IApp.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -124,6 +125,15 @@ bool Form::FocusNext(bool backwards) {
   const std::size_t at = static_cast<std::size_t>(here - order.begin());
   const std::size_t next = backwards ? (at + order.size() - 1) % order.size() : (at + 1) % order.size();
   return UserFocus(*order[next]);
+}
+
+bool Form::OfferHotKey(KeyEvent& key) {
+  constexpr int kFirst = 48;
+  constexpr int kLast = 105;
+  const bool isHot =
+      key.Shift != 0 && (key.KeyCode == keys::kTab || (key.KeyCode >= kFirst && key.KeyCode <= kLast));
+  if (isHot) gApp->FormKeyDown(key.KeyCode, key.Shift, *this);
+  return isHot;
 }
 
 bool Form::PressCancelButton() {

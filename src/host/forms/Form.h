@@ -122,6 +122,10 @@ class Form : public Surface, public std::enable_shared_from_this<Form> {
   /// Enter moves on to the next field, unless the focus is where Enter means something else.
   void MoveOnAtEnter(int& character);
 
+  /// Offers the host a key that belongs to it: Tab, letters and digits while Shift, Ctrl or Alt is held. True
+  /// when it is one.
+  bool OfferHotKey(KeyEvent& key);
+
   /// Registers a public member under its name. Kinds: flags, whole numbers, Amount, Date, text, forms, year
   /// objects and other objects, bags of named values.
   template <class T>

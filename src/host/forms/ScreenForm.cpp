@@ -17,11 +17,6 @@ constexpr long kStripHeight = 360;
 constexpr long kBarHeight = 510;
 constexpr long kStandardButtonsWidth = 1200;
 
-/// The keys that belong to the host while Shift, Ctrl or Alt is held.
-bool IsHotKey(const KeyEvent& key) {
-  return key.Shift != 0 && (key.KeyCode == keys::kTab || (key.KeyCode >= 48 && key.KeyCode <= 105));
-}
-
 }  // namespace
 
 ScreenForm::ScreenForm(const ScreenSpec& spec, Origin origin)
@@ -140,11 +135,8 @@ void ScreenForm::OnUnload() {
 }
 
 void ScreenForm::OnKeyDown(KeyEvent& key) {
-  if (IsHotKey(key)) {
-    gApp->FormKeyDown(key.KeyCode, key.Shift, *this);
+  if (OfferHotKey(key) || key.Shift != 0 || key.KeyCode < spec_.firstKey || key.KeyCode > spec_.lastKey)
     return;
-  }
-  if (key.Shift != 0 || key.KeyCode < spec_.firstKey || key.KeyCode > spec_.lastKey) return;
   const int index = key.KeyCode - spec_.firstKey;
   key.KeyCode = 0;
   BtnBar1.PressByKey(index);

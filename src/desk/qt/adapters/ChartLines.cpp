@@ -64,11 +64,16 @@ class Curve {
 
   void PaintRibbon(const QPolygonF& line) {
     const QPointF back(field_.Depth, -field_.Depth);
-    field_.Painter.setPen(QPen(color_.darker(150), field_.Unit / 2));
     for (qsizetype i = 0; i + 1 < line.size(); ++i) {
       const bool rising = line[i + 1].y() < line[i].y();
-      field_.Painter.setBrush(rising ? color_.darker(115) : color_.lighter(125));
-      field_.Painter.drawPolygon(QPolygonF{line[i], line[i + 1], line[i + 1] + back, line[i] + back});
+      QPainterPath side;
+      side.addPolygon(QPolygonF{line[i], line[i + 1], line[i + 1] + back, line[i] + back});
+      side.closeSubpath();
+      ChartInk::Fill(field_.Painter, side, rising ? color_.darker(115) : color_.lighter(125), series_,
+                     field_.Unit);
+      field_.Painter.setBrush(Qt::NoBrush);
+      field_.Painter.setPen(QPen(color_.darker(150), field_.Unit / 2));
+      field_.Painter.drawPath(side);
     }
   }
 

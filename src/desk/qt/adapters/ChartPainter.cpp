@@ -95,8 +95,12 @@ void ChartPainter::PaintLegend() {
   double widest = 0;
   for (int series = 1; series <= chart_.SeriesCount(); ++series)
     widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdString(chart_.SeriesLabel(series))));
-  const double width = std::min(widest, room * kLegendNameShare) + 2.6 * line;
+  if (widest == 0) return;
   const int perColumn = std::max(1, static_cast<int>(field_.Place.height() / line));
+  double width = std::min(widest, room * kLegendNameShare) + 2.6 * line;
+  // Where not all have room, the last line says so.
+  if (chart_.SeriesCount() > perColumn)
+    width = std::max(width, metrics.horizontalAdvance(QStringLiteral(" and 999 more")));
   const int most = std::max(1, static_cast<int>(room * kLegendShare / width));
   const int columns = std::min(most, (chart_.SeriesCount() + perColumn - 1) / perColumn);
   const int shown = std::min(chart_.SeriesCount(), columns * perColumn);

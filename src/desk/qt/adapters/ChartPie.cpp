@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kTop = 90;           // degrees; slices go round from the top like the hands of a clock
 constexpr double kLeastNamed = 0.02;  // of the whole, a slice with its name beside it
+constexpr double kLeastEdged = 6;     // along the rim, a slice with an edge of its own
 constexpr double kGap = 6;
 
 /// One pie: the slices of a period.
@@ -86,9 +87,12 @@ class Pie {
       slice.closeSubpath();
     }
     ChartInk::Fill(field_.Painter, slice, field_.ColorOf(series), series, field_.Unit);
-    field_.Painter.setBrush(Qt::NoBrush);
-    field_.Painter.setPen(QPen(Theme::Surface(), field_.Unit));
-    field_.Painter.drawPath(slice);
+    // Edges would hide the slices of a pie of many.
+    if (-sweep * std::numbers::pi / 180 * radius_ >= kLeastEdged * field_.Unit) {
+      field_.Painter.setBrush(Qt::NoBrush);
+      field_.Painter.setPen(QPen(Theme::Surface(), field_.Unit));
+      field_.Painter.drawPath(slice);
+    }
     field_.Spots.push_back({slice, series, period_});
   }
 

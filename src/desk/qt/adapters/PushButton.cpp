@@ -1,5 +1,6 @@
 #include "desk/qt/adapters/PushButton.h"
 
+#include <QApplication>
 #include <QPainter>
 
 #include "desk/qt/adapters/Icons.h"
@@ -50,13 +51,20 @@ QSize PushButton::sizeHint() const {
   return {std::max(width, Scale::Px(1500)), metrics.height() + 3 * Gap()};
 }
 
+/// A button that its form coloured stands for the choice in force.
+QColor PushButton::Face() const {
+  return palette().color(QPalette::Button) == QApplication::palette().color(QPalette::Button)
+             ? Theme::Surface()
+             : palette().color(QPalette::Button);
+}
+
 void PushButton::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRect box = rect().adjusted(1, 1, -1, -1);
   if (isEnabled()) {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isDown() ? Theme::AccentSoft() : Theme::Surface());
+    painter.setBrush(isDown() ? Theme::AccentSoft() : Face());
     painter.drawRoundedRect(box, kCorner, kCorner);
     Theme::DrawEdge(painter, box, focused_ || hasFocus());
     if (isDefault()) {  // Enter presses it from every field

@@ -23,6 +23,8 @@ class PushButton : public QPushButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QColor Face() const;
+
   QString key_;
   QString words_;
   QString icon_;
