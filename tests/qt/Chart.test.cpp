@@ -3,6 +3,7 @@
 #include <set>
 
 #include "desk/qt/adapters/ChartAxis.h"
+#include "desk/qt/adapters/Scale.h"
 #include "tests/qt/FormTest.h"
 #include "tests/qt/frmEveryKind.h"
 
@@ -130,19 +131,28 @@ TEST_F(ChartTest, ValuesStandOnBothSidesAndAFootnoteBelow) {
   EXPECT_NE(inked(foot), without);
 }
 
-TEST_F(ChartTest, ThreeHundredAndSixtySixBarsStandApart) {
-  chart_.Width = 15000;
+TEST_F(ChartTest, ThreeHundredAndSixtySixBarsStandApartAndAreAlike) {
   Fill(std::vector<std::vector<double>>(366, {5}));
-  for (const int type : {MSChart::k2dBar, MSChart::k3dBar}) {
+  for (const auto& [percent, type] : {std::pair(100, MSChart::k2dBar),
+                                      {100, MSChart::k3dBar},
+                                      {90, MSChart::k2dBar},
+                                      {150, MSChart::k2dBar}}) {
+    Scale::SetDrawing(percent);
+    chart_.Width = 15000 + percent;
     chart_.chartType = type;
     const QImage picture = Picture();
-    int bars = 0;
+    const int y = picture.height() / 2;
+    std::vector<int> widths;
     for (int x = 1; x < picture.width(); ++x) {
-      const int y = picture.height() / 2;
-      bars += picture.pixel(x, y) == kBlue && picture.pixel(x - 1, y) != kBlue ? 1 : 0;
+      if (picture.pixel(x, y) != kBlue) continue;
+      if (picture.pixel(x - 1, y) != kBlue) widths.push_back(0);
+      ++widths.back();
     }
-    EXPECT_EQ(bars, 366) << type;
+    EXPECT_EQ(widths.size(), 366u) << percent << " % of type " << type;
+    const auto [least, most] = std::minmax_element(widths.begin(), widths.end());
+    EXPECT_LE(*most - *least, 1) << percent << " % of type " << type;
   }
+  Scale::SetDrawing(100);
 }
 
 TEST_F(ChartTest, SeriesOfOneColourAreToldApartByTheirPatterns) {
@@ -155,11 +165,11 @@ TEST_F(ChartTest, SeriesOfOneColourAreToldApartByTheirPatterns) {
   EXPECT_EQ(plain.size(), 6u) << "each pattern covers a share of its own";
   chart_.chartType = MSChart::k3dLine;
   Fill({{10, 30, 50}, {20, 40, 60}});
-  SetColor(1, kBlue);
-  const int first = BluishDots();
-  SetColor(1, kGreen);
-  SetColor(3, kBlue);
-  EXPECT_LT(BluishDots(), 0.9 * first) << "a ribbon has its pattern too";
+  const auto blue = [this](int series) {
+    for (int each = 1; each <= 3; ++each) SetColor(each, each == series ? kBlue : kGreen);
+    return Count([](QRgb dot) { return qBlue(dot) > std::max(qRed(dot), qGreen(dot)) + 150; });
+  };
+  EXPECT_LT(blue(3), 0.9 * blue(1)) << "a ribbon has its pattern too";
 }
 
 TEST_F(ChartTest, APieHasASliceForEachPeriodAndALegendOfThem) {

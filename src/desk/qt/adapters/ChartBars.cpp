@@ -9,10 +9,9 @@ namespace quillon {
 
 namespace {
 
-constexpr double kShare = 0.76;     // of its slot that a group of bars takes
-constexpr double kWideSlot = 8;     // from which on it leaves that share free
-constexpr double kLeastDeep = 4;    // narrower bars have no depth, which would hide their gaps
-constexpr double kClosestSlot = 2;  // below it no gap can be left between groups
+constexpr double kShare = 0.76;   // of its slot that a group of bars takes
+constexpr double kWideSlot = 8;   // from which on it leaves that share free
+constexpr double kLeastDeep = 4;  // narrower bars have no depth, which would hide their gaps
 
 QPainterPath Polygon(const QPolygonF& polygon) {
   QPainterPath path;
@@ -24,24 +23,27 @@ QPainterPath Polygon(const QPolygonF& polygon) {
 /// The left and right edges of the groups. Groups are told apart by whole pixels between them.
 class Groups {
  public:
-  explicit Groups(const ChartField& field) : field_(field), slot_(field.SlotWidth() / field.Unit) {}
+  explicit Groups(const ChartField& field)
+      : field_(field),
+        slot_(field.SlotWidth() / field.Unit),
+        gap_(std::min(std::max(1.0, std::floor(field.Unit)), std::floor(field.SlotWidth() / 2))) {}
 
   double Left(int period) const {
     if (slot_ >= kWideSlot) return field_.SlotLeft(period) + field_.SlotWidth() * (1 - kShare) / 2;
-    return Snapped(field_.SlotLeft(period));
+    return std::round(field_.SlotLeft(period));
   }
   double Width(int period) const {
     if (slot_ >= kWideSlot) return field_.SlotWidth() * kShare;
-    const double gap = slot_ >= kClosestSlot ? field_.Unit : 0;
-    return Snapped(field_.SlotLeft(period + 1)) - Snapped(field_.SlotLeft(period)) - gap;
+    return std::round(field_.SlotLeft(period + 1)) - std::round(field_.SlotLeft(period)) - gap_;
   }
-  bool Shaded(int period) const { return slot_ < kClosestSlot && period % 2 == 0; }
+
+  /// Where no gap can be left, every second group is darker.
+  bool Shaded(int period) const { return slot_ < kWideSlot && gap_ == 0 && period % 2 == 0; }
 
  private:
-  double Snapped(double x) const { return std::round(x / field_.Unit) * field_.Unit; }
-
   const ChartField& field_;
   double slot_;
+  double gap_;
 };
 
 void PaintDepth(ChartField& field, const QRectF& bar, const QColor& color, double depth) {

@@ -248,7 +248,9 @@ void ChartPainter::PaintZero() {
   painter_.setPen(QPen(Theme::Muted(), field_.Unit));
   const double y = field_.Y(0);
   painter_.drawLine(QPointF(field_.Place.left(), y), QPointF(field_.Place.right(), y));
-  painter_.drawLine(field_.Place.topLeft(), field_.Place.bottomLeft());
+  // Beside the first bar, which it would hide where bars are narrow.
+  const double left = field_.Place.left() - field_.Unit;
+  painter_.drawLine(QPointF(left, field_.Place.top()), QPointF(left, field_.Place.bottom()));
 }
 
 }  // namespace quillon
