@@ -85,8 +85,8 @@ void frmGraph::ConnectButtons() {
   for (auto& [index, button] : cmdCompare)
     button->Click = [this, comparison = index] { ChooseComparison(comparison); };
   cmbZoom.Click = [this] { Zoom(); };
-  HScroll1.Change = [this] { Graph.Left = -Short(HScroll1.Position * kScrollUnit); };
-  VScroll1.Change = [this] { Graph.Top = -Short(VScroll1.Position * kScrollUnit); };
+  HScroll1.Change = [this] { Graph.Left = -Short(HScroll1.Position() * kScrollUnit); };
+  VScroll1.Change = [this] { Graph.Top = -Short(VScroll1.Position() * kScrollUnit); };
   cmdPrint(0).Click = [this] { Print(); };
   cmdExit.Click = [this] { gRuntime->Unload(*this); };
 }

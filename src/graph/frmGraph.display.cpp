@@ -31,11 +31,11 @@ constexpr double kZooms[] = {2, 1.5, 1, 0.75, 0.5};
 const char* const kPeriods[] = {"Q", "M", "D"};
 
 /// Fits a scroll bar to what hangs over the viewport, in steps of so many twips; hidden where nothing does.
-void FitScrollBar(ScrollBar& bar, long whole, long seen, int unit) {
+void FitScrollBar(ScrollBar& bar, long whole, long seen, long unit) {
   bar.Position = 0;
   const bool needed = whole > seen;
   if (needed) {
-    const double steps = std::nearbyint(static_cast<double>(whole - seen) / unit);
+    const double steps = std::nearbyint(static_cast<double>(whole - seen) / static_cast<double>(unit));
     if (steps > INT16_MAX) throw OverflowError();
     bar.Max = static_cast<int>(steps);
     bar.LargeChange = 10;
@@ -104,6 +104,7 @@ void frmGraph::ShowChoices() {
 }
 
 void frmGraph::Zoom() {
+  if (cmbZoom.ListIndex() < 0) return;
   const double zoom = kZooms[static_cast<std::size_t>(cmbZoom.ListIndex())];
   const auto zoomed = [zoom](long length) { return std::lrint(static_cast<double>(length) * zoom); };
   Graph.Move(0, 0, zoomed(Picture2.Width), zoomed(Picture2.Height));

@@ -111,7 +111,7 @@ class frmGraph : public Form {
 
  private:
   /// Twips of one unit of the scroll bars.
-  static constexpr int kScrollUnit = 100;
+  static constexpr long kScrollUnit = 100;
 
   void DesignControls();
   void DesignPanel();

@@ -128,6 +128,14 @@ TEST_F(GraphTest, APartysYearByMonthQuarterAndDayBesideTheYearBefore) {
   EXPECT_EQ(runtime_.ActiveForm()->Name(), "frmAccount");
 }
 
+TEST_F(GraphTest, APeriodFromJanuaryIsCalledByItsYear) {
+  EnterBefore({"2024-01-05,-40", "2023-12-31,-5"});
+  OpenGraph("Graph", 201, "01-Jan-2025", "31-Mar-2025");
+  Press("cmdCompare", 1);
+  EXPECT_EQ(Titles(), (Texts{"2023-24", "2024-25"}));
+  EXPECT_EQ(Row(1), "23-24|0|0|0|0|0|0|0|0|0|40|0|0|40");
+}
+
 TEST_F(GraphTest, DebitsStandAgainstCreditsWhicheverWayTheGroupIsTurned) {
   Enter("2024-04-02", "700");
   Enter("2024-04-03", "-250.5");

@@ -9,6 +9,7 @@
 #include "desk/qt/adapters/Theme.h"
 #include "host/controls/CButton.h"
 #include "host/controls/CButtonBar.h"
+#include "host/controls/CommandButton.h"
 #include "host/forms/Form.h"
 
 /// A resource inside a static library has to be asked for, outside every namespace.
@@ -108,6 +109,9 @@ void KeysDialog::AddKeysOf(const Form& form) {
       }
     } else if (auto* dialogButton = dynamic_cast<CButton*>(control)) {
       add(dialogButton->Caption(), "", dialogButton->Enabled);
+    } else if (auto* button = dynamic_cast<CommandButton*>(control);
+               button != nullptr && button->Caption().find(':') != std::string::npos) {
+      add(button->Caption(), "", button->Enabled);
     }
   }
 }
