@@ -18,6 +18,7 @@ constexpr long kGroupHeading = 300;
 constexpr long kGroupGap = 90;
 constexpr int kTableRows = 4;
 constexpr int kHelp = 4;
+constexpr int kCentre = 2;
 
 const Font kTitleFont{"Tahoma", 9.75, true};
 const Font kHeadingFont{"Tahoma", 8.25, true};
@@ -73,6 +74,7 @@ void frmGraph::DesignControls() {
     label->Caption = headings[index];
     label->Height = kHeadingHeight;
     label->Font = kTitleFont;
+    label->Alignment = kCentre;
   }
   Picture1.Width = kPanelWidth;
   Picture1.BorderStyle = 0;

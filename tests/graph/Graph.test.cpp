@@ -1,3 +1,5 @@
+#include <numeric>
+
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {
@@ -72,8 +74,8 @@ class GraphTest : public DeskTest {
     return titles;
   }
   std::string Row(int row) {
-    std::vector<int> cols;
-    for (int col = 0; col < Table().Cols; ++col) cols.push_back(col);
+    std::vector<int> cols(static_cast<std::size_t>(Table().Cols()));
+    std::iota(cols.begin(), cols.end(), 0);
     return RowText(Table(), row, cols);
   }
 
@@ -90,7 +92,7 @@ TEST_F(GraphTest, APartysYearByMonthQuarterAndDayBesideTheYearBefore) {
   Enter("2024-05-06", "-9", 201, "0B");
   EnterBefore({"2023-04-10,-120000.75", "2024-02-29,-5", "2023-03-31,-7"});
   OpenGraph("Graph");
-  EXPECT_EQ(At<Label>(graph_, "lblTitle1", 1).Caption(), "  Asha Traders, Surat");
+  EXPECT_EQ(At<Label>(graph_, "lblTitle1", 1).Caption(), "Asha Traders, Surat");
   EXPECT_EQ(Row(0), "|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|Dec|Jan|Feb|Mar|Total");
   EXPECT_EQ(Row(1), "24-25|1000|0|0|-400|0|0|0|0|0|0|0|60000|60600") << "a creditor's credits stand upright";
   EXPECT_EQ(Chart().DataGrid.RowLabel(10), "Jan 2025");

@@ -156,13 +156,15 @@ TEST_F(ChartTest, ThreeHundredAndSixtySixBarsStandApartAndAreAlike) {
 }
 
 TEST_F(ChartTest, SeriesOfOneColourAreToldApartByTheirPatterns) {
-  Fill({{10, 10, 10, 10, 10, 10}});
+  constexpr int kMonths = 12;
+  chart_.Width = 18000;
+  Fill({std::vector<double>(kMonths, 10)});
   std::set<int> plain;
-  for (int shown = 1; shown <= 6; ++shown) {
-    for (int series = 1; series <= 6; ++series) SetColor(series, series == shown ? kBlue : kGreen);
+  for (int shown = 1; shown <= kMonths; ++shown) {
+    for (int series = 1; series <= kMonths; ++series) SetColor(series, series == shown ? kBlue : kGreen);
     plain.insert(Dots(kBlue));
   }
-  EXPECT_EQ(plain.size(), 6u) << "each pattern covers a share of its own";
+  EXPECT_EQ(plain.size(), 12u) << "each pattern covers a share of its own";
   chart_.chartType = MSChart::k3dLine;
   Fill({{10, 30, 50}, {20, 40, 60}});
   const auto blue = [this](int series) {

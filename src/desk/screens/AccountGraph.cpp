@@ -40,7 +40,7 @@ void AccountGraph::Show(const FormPtr& graph) const {
   const auto put = [&graph](int heading, const std::string& caption) {
     graph->ControlAt("lblTitle1", heading).Set("Caption", caption);
   };
-  put(1, "  " + statement_.Grid.Title());
+  put(1, statement_.Grid.Title());
   put(2, statement_.PeriodText());
   gApp->ShowForm(graph);
 }

@@ -9,7 +9,6 @@ namespace quillon {
 
 namespace {
 
-constexpr double kGap = 6;        // between the lines of a pattern
 constexpr double kNarrowest = 4;  // that shows one
 constexpr double kMark = 3.5;
 
@@ -37,18 +36,38 @@ void DrawHatch(QPainter& painter, const QRectF& box, const Hatch& hatch, double 
     painter.drawLine(QPointF(x, start), QPointF(x + box.height(), start + hatch.down * box.height()));
 }
 
-std::vector<Hatch> PatternOf(int series) {
-  switch ((series - 1) % 6) {
+/// The lines over a series, how far apart they are and how broad.
+struct Pattern {
+  std::vector<Hatch> Lines;
+  double Gap = 6;
+  double Breadth = 1;
+};
+
+/// Twelve of them, as many as a year has months.
+Pattern PatternOf(int series) {
+  switch ((series - 1) % 12) {
     case 1:
-      return {{1, -1}};
+      return {{{1, -1}}};
     case 2:
-      return {{1, 0}};
+      return {{{1, 0}}};
     case 3:
-      return {{1, 1}};
+      return {{{1, 1}}};
     case 4:
-      return {{1, -1}, {1, 1}};
+      return {{{1, -1}, {1, 1}}};
     case 5:
-      return {{0, 1}};
+      return {{{0, 1}}};
+    case 6:
+      return {{{1, 0}, {0, 1}}};
+    case 7:
+      return {{{1, -1}}, 10, 3};
+    case 8:
+      return {{{1, 0}}, 10, 3};
+    case 9:
+      return {{{1, 1}}, 10, 3};
+    case 10:
+      return {{{1, -1}, {1, 1}}, 10, 2};
+    case 11:
+      return {{{0, 1}}, 10, 3};
     default:
       return {};
   }
@@ -65,12 +84,12 @@ void ChartInk::Fill(QPainter& painter, const QPainterPath& area, const QColor& c
                     double unit) {
   painter.fillPath(area, color);
   const QRectF box = area.boundingRect();
-  const std::vector<Hatch> pattern = PatternOf(series);
-  if (pattern.empty() || std::min(box.width(), box.height()) < kNarrowest * unit) return;
+  const Pattern pattern = PatternOf(series);
+  if (pattern.Lines.empty() || std::min(box.width(), box.height()) < kNarrowest * unit) return;
   painter.save();
   painter.setClipPath(area, Qt::IntersectClip);
-  painter.setPen(QPen(Contrast(color), unit));
-  for (const Hatch& hatch : pattern) DrawHatch(painter, box, hatch, kGap * unit);
+  painter.setPen(QPen(Contrast(color), pattern.Breadth * unit));
+  for (const Hatch& hatch : pattern.Lines) DrawHatch(painter, box, hatch, pattern.Gap * unit);
   painter.restore();
 }
 
