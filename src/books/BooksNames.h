@@ -2,11 +2,13 @@
 
 #include <cstdint>
 
-/// Sentinels of the entries' columns.
+/// Sentinels of the columns of entries and accounts.
 namespace quillon::books {
 
 inline constexpr const char* kOpeningBook = "0B";      ///< dBook: an opening balance
 inline constexpr const char* kMemorandumBook = "MEM";  ///< dBook: in no balance and no statement
+
+inline constexpr std::int64_t kBankGroup = 47;  ///< mbshno: the accounts at banks
 
 /// dTrnNature: contra entries, which interest leaves out.
 inline constexpr std::int64_t kContraNatures[] = {5002, 5012, 5024, 5031, 5041, 5051};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "books/BooksNames.h"
 #include "books/SqlText.h"
 #include "host/data/TransactionScope.h"
 #include "host/forms/Busy.h"
@@ -26,8 +27,6 @@ constexpr ScreenSpec kScreen = {
     .lastKey = keys::kF9,
 };
 
-constexpr int kHostRuling = -1;
-constexpr int kBankGroup = 47;
 constexpr long kCancelledColor = 13359855;
 constexpr long long kLongestRun = 100;  // the last number less the first
 constexpr const char* kAddTitle = "Add Cheque Leaves";
@@ -122,8 +121,9 @@ bool frmChqLeaves::SelectBank() {
   CPickList banks;
   banks.Title("Select Bank");
   banks.AddColumn("Bank", 5400, kAlignLeft);
-  banks.Load("SELECT MHD,MCD FROM FAMASTER WHERE MBSHNO=" + books::SqlNumber(kBankGroup) + " ORDER BY MHD",
-             gSession->MainDb());
+  banks.Load(
+      "SELECT MHD,MCD FROM FAMASTER WHERE MBSHNO=" + books::SqlNumber(books::kBankGroup) + " ORDER BY MHD",
+      gSession->MainDb());
   if (!banks.Show()) return false;
   BankCode = static_cast<long>(banks.ItemData());
   return true;
@@ -240,7 +240,7 @@ void frmChqLeaves::Pressed(const std::string& key) {
 }
 
 void frmChqLeaves::Print(bool print) {
-  gReports->ShowGrid(Grid, nullptr, lblTitle.Caption, lblTitle2.Caption, kHostRuling, print);
+  gReports->ShowGrid(Grid, nullptr, lblTitle.Caption, lblTitle2.Caption, IReports::kHostRuling, print);
 }
 
 void frmChqLeaves::ExitPressed(bool& cancel) { cancel = ClosePanel(); }

@@ -26,8 +26,6 @@ constexpr ScreenSpec kScreen = {
     .lastKey = keys::kF9,
 };
 
-constexpr int kHostRuling = -1;
-
 namespace col {
 
 constexpr int kVoucherId = 0;
@@ -127,7 +125,7 @@ void frmChqRetReport::AddLines() {
 }
 
 void frmChqRetReport::Print(bool print) {
-  gReports->ShowGrid(Grid, nullptr, lblTitle.Caption, lblTitle2.Caption, kHostRuling, print, "",
+  gReports->ShowGrid(Grid, nullptr, lblTitle.Caption, lblTitle2.Caption, IReports::kHostRuling, print, "",
                      "Title2:=" + Grid.Title);
 }
 

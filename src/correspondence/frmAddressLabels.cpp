@@ -30,7 +30,6 @@ constexpr ScreenSpec kScreen = {
     .lastKey = keys::kF9,
 };
 
-constexpr int kHostRuling = -1;
 constexpr int kTextMode = 2;  // of IReports::PrinterMode, from there on
 constexpr int kMoreRows = 50;
 constexpr int kFurtherColumns = 3;  // behind the codes; the last holds the row's command
@@ -297,7 +296,7 @@ void frmAddressLabels::Print(bool print) {
   options.Settings.LineTopMargin = config.TopMargin();
   options.SetOption("CFLines", "0");
   options.SetOption("BottomMargin", "100");
-  gReports->ShowGrid(Grid, &options, "", "", kHostRuling, print, "",
+  gReports->ShowGrid(Grid, &options, "", "", IReports::kHostRuling, print, "",
                      "MainHeadForm1=,MainHeadForm2=,Heading=False,RulingChr1=,HeadingHorizontalLine1=,"
                      "HeadingHorizontalLine2=");
 }

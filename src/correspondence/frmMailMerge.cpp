@@ -25,7 +25,6 @@ constexpr ScreenSpec kScreen = {
     .lastKey = keys::kF9,
 };
 
-constexpr int kHostRuling = -1;
 constexpr int kDelete = 1;
 constexpr int kPrevious = 3;
 constexpr int kNext = 4;
@@ -227,7 +226,7 @@ void frmMailMerge::Print(bool print) {
   options.SetOption("MainHeadForm2", heading);
   options.SetColumnOption(1, "ColAlign", "J");
   FillGrid();
-  gReports->ShowGrid(Grid, &options, "", "", kHostRuling, print, "", "BottomLine=False");
+  gReports->ShowGrid(Grid, &options, "", "", IReports::kHostRuling, print, "", "BottomLine=False");
   Grid.Rows = 1;
 }
 

@@ -321,10 +321,9 @@ FormPtr frmAccount::ModuleScreen(const std::string& key) {
 }
 
 bool frmAccount::RequireBankAccount() const {
-  constexpr std::int64_t kBankGroup = 47;
   const Variant group =
       gSession->MainDb().Lookup("FAMaster", "mbshno", "mcd=" + books::SqlNumber(AccountCode));
-  if (group.ToInteger() == kBankGroup) return true;
+  if (group.ToInteger() == books::kBankGroup) return true;
   gStd->MsgBox("Only a bank account has cheque leaves.", "", "W");
   return false;
 }

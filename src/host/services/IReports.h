@@ -18,8 +18,10 @@ class IReports {
   IReports& operator=(const IReports&) = delete;
   virtual ~IReports() = default;
 
+  static constexpr int kHostRuling = -1;  ///< of ShowGrid: as the host rules its reports
+
   /// Shows the grid as a report, with the footer that a CGridPlus has. `print` false opens the preview, true
-  /// prints. `value` is the ruling asked for (-1 the host's own). `optionText` is "Name=Value,Name=Value".
+  /// prints. `value` is the ruling asked for. `optionText` is "Name=Value,Name=Value".
   virtual void ShowGrid(GridModel& grid, CReportOptions* options, const std::string& title,
                         const std::string& subtitle, int value, bool print, const std::string& heading = "",
                         const std::string& optionText = "") = 0;
