@@ -5,7 +5,7 @@
 #include "books/BooksNames.h"
 #include "books/SqlText.h"
 #include "host/data/TransactionScope.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyJob.h"
 #include "host/forms/Fields.h"
 #include "host/forms/GridFill.h"
 #include "host/forms/GridRows.h"

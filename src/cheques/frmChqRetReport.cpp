@@ -4,7 +4,7 @@
 
 #include "books/BooksNames.h"
 #include "books/SqlText.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyJob.h"
 #include "host/forms/GridFill.h"
 #include "host/forms/GridRows.h"
 #include "host/services/host_services.h"

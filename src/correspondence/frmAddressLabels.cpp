@@ -10,7 +10,7 @@
 #include "correspondence/frmMailMerge.h"
 #include "envelopes/frmEnvelopePrint.h"
 #include "host/controls/RedrawHold.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyJob.h"
 #include "host/forms/Progress.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"

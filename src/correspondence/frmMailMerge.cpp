@@ -4,7 +4,7 @@
 
 #include "books/SqlText.h"
 #include "host/controls/RedrawHold.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyJob.h"
 #include "host/forms/Fields.h"
 #include "host/forms/Progress.h"
 #include "host/services/host_services.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/forms/Busy.h"
+#include "host/forms/BusyPointer.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
 

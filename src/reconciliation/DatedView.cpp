@@ -2,7 +2,8 @@
 
 #include <utility>
 
-#include "host/forms/Busy.h"
+#include "host/forms/BusyJob.h"
+#include "host/forms/BusyPointer.h"
 #include "host/forms/Progress.h"
 #include "host/services/host_services.h"
 

@@ -4,6 +4,7 @@
 
 #include "books/BooksNames.h"
 #include "host/forms/GridFill.h"
+#include "host/forms/Progress.h"
 #include "host/forms/ScreenForm.h"
 #include "host/services/AccountColumns.h"
 #include "host/services/host_services.h"
@@ -111,8 +112,9 @@ void EntriesView::CopyRows() {
   const CGridPlus* const statement = account_.Statement();
   const int sourceRows = statement != nullptr ? statement->Rows() : 1;
   grid_.Rows = std::max(sourceRows, 2);
+  Progress progress("Taking over the entries", grid_);
   int row = 0;
-  for (int source = 1; source < sourceRows; ++source) {
+  for (int source = 1; source < sourceRows; ++source, progress.Step()) {
     const bool cleared = !ClearedOn(source).empty();
     if ((filter == kMarkedOnly && !cleared) || (filter == kUnmarkedOnly && cleared)) continue;
     if (statement->IsRowVisible(source)) CopyRow(++row, source);

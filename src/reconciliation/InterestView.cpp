@@ -1,7 +1,7 @@
 #include "reconciliation/InterestView.h"
 
 #include "books/SqlText.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyPointer.h"
 #include "host/forms/GridColumns.h"
 #include "host/forms/GridFill.h"
 #include "host/services/AccountColumns.h"

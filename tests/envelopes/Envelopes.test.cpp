@@ -1,4 +1,3 @@
-#include "desk/services/Users.h"
 #include "envelopes/FromBlock.h"
 #include "host/values/Text.h"
 #include "tests/support/DeskFixture.h"
@@ -175,17 +174,13 @@ TEST_F(Envelopes, APartyIsAskedForOnce) {
 }
 
 TEST_F(Envelopes, TheRightIsAskedForEachTimeTheScreenComesUp) {
-  CDbLink& common = gSession->CommonDb();
-  common.Execute("insert into Users (UserName,UserLevel) values ('Clerk',3)");
-  common.Execute("insert into Users (UserName,UserLevel) values ('Owner',9)");
-  Grant(common, "Clerk", "mst.envelopes", "N");
-  const std::string firm = desk_.Session().Books().Folder().string();
-  desk_.OpenFirm(firm, "Clerk");
+  OpenAsClerk();
+  Grant("Clerk", "mst.envelopes", "N");
   const FormPtr form = Open();
   const FormPtr other = Open(202);
   AnswerMessage();
   Key(*other, keys::kF9);
-  Grant(gSession->CommonDb(), "Clerk", "mst.envelopes", "");
+  Grant("Clerk", "mst.envelopes", "");
   AnswerMessage();
   Key(*other, keys::kEscape);
   EXPECT_EQ(Messages(),

@@ -235,10 +235,7 @@ TEST_F(StandingScreens, AViewThatFailedShowsNoTotalsAndIsNeitherPrintedNorReckon
 
 TEST_F(StandingScreens, ARightThatCannotBeReadIsNone) {
   Do([&] { runtime_.Unload(*bench_); });
-  gSession->CommonDb().Execute("insert into Users (UserName,UserLevel) values ('Clerk',3)");
-  gSession->CommonDb().Execute("insert into Users (UserName,UserLevel) values ('Owner',9)");
-  const std::string firm = desk_.Session().Books().Folder().string();
-  desk_.OpenFirm(firm, "Clerk");
+  OpenAsClerk();
   statement_ = ShowStatement();
   gSession->CommonDb().Execute("drop table UserRights");
   const FormPtr bench = desk_.Module().GetForm("acreconciliation");

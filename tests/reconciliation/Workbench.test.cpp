@@ -1,7 +1,6 @@
 #include <random>
 
 #include "desk/services/DeskApp.h"
-#include "desk/services/Users.h"
 #include "host/values/Text.h"
 #include "tests/support/BankTest.h"
 
@@ -475,11 +474,7 @@ TEST_F(Workbench, KeysGoToTheHostTheBarAndTheVoucher) {
 }
 
 TEST_F(Workbench, AUserWithoutTheRightIsTurnedAway) {
-  CDbLink& common = gSession->CommonDb();
-  common.Execute("insert into Users (UserName,UserLevel) values ('Clerk',3)");
-  common.Execute("insert into Users (UserName,UserLevel) values ('Owner',9)");
-  const std::string firm = desk_.Session().Books().Folder().string();
-  desk_.OpenFirm(firm, "Clerk");
+  OpenAsClerk();
   statement_ = ShowStatement();
   const FormPtr denied = desk_.Module().GetForm("acreconciliation");
   denied->CallingForm = statement_;
@@ -491,14 +486,14 @@ TEST_F(Workbench, AUserWithoutTheRightIsTurnedAway) {
     EXPECT_FALSE(denied->IsLoaded());
     EXPECT_EQ(desk_.App().Windows().size(), 1U);
   }
-  Grant(gSession->CommonDb(), "Clerk", "acst.reconciliation", "N");
+  Grant("Clerk", "acst.reconciliation", "N");
   bench_ = ShowWorkbench(statement_);
   ASSERT_EQ(bench_->Name(), "frmAcReconciliation");
   AnswerMessage();
   Do([&] { Bar().UserPress("Print"); });
   EXPECT_EQ(Messages().size(), 1U);
   EXPECT_EQ(Events("report").size(), 0U);
-  Grant(gSession->CommonDb(), "Clerk", "acst.reconciliation", "NP");
+  Grant("Clerk", "acst.reconciliation", "NP");
   Do([&] { Bar().UserPress("Preview"); });
   EXPECT_EQ(Events("report").size(), 1U);
 }

@@ -1,7 +1,6 @@
 #include "desk/screens/DeskMenu.h"
 
 #include "books/Right.h"
-#include "desk/services/Users.h"
 #include "tests/support/DeskFixture.h"
 
 namespace quillon {
@@ -66,18 +65,14 @@ TEST_F(MenuOfDesk, HasTheLinesOfTheModulesFormsAndOpensThem) {
 }
 
 TEST_F(MenuOfDesk, ALineIsOffForWhoHasNoRight) {
-  const std::string folder = MakeFirm();
-  desk_.OpenFirm(folder);
-  CDbLink& common = gSession->CommonDb();
-  common.Execute("insert into Users (UserName,UserLevel) values ('Joshi',9)");
-  common.Execute("insert into Users (UserName,UserLevel) values ('Clerk',3)");
-  desk_.OpenFirm(folder, "Clerk");
+  OpenNewFirm();
+  OpenAsClerk();
   DeskMenu menu(module_, desk_.Session(), kLines);
   EXPECT_EQ(Shown(menu), (std::vector<std::string>{"Rates", "Envelopes off"}));
   Refuses([&] { menu.Pick("Envelopes"); }, "The user has no right to \"Envelopes\"");
-  Grant(gSession->CommonDb(), "Clerk", "mst.envelopes", "P");
+  Grant("Clerk", "mst.envelopes", "P");
   EXPECT_EQ(Shown(menu).back(), "Envelopes off") << "printing is another right";
-  Grant(gSession->CommonDb(), "Clerk", "mst.envelopes", "N");
+  Grant("Clerk", "mst.envelopes", "N");
   EXPECT_EQ(Shown(menu).back(), "Envelopes");
 }
 

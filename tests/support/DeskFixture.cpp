@@ -89,6 +89,20 @@ void DeskTest::AddVoucher(const Voucher& voucher) {
   Db().Execute("insert into FADocs (VoucherID) values (" + id + ")");
 }
 
+void DeskTest::OpenAsClerk() {
+  for (const char* user : {"'Clerk',3", "'Owner',9"}) {
+    gSession->CommonDb().Execute("insert into Users (UserName,UserLevel) values (" + std::string(user) + ")");
+  }
+  const std::string firm = desk_.Session().Books().Folder().string();
+  desk_.OpenFirm(firm, "Clerk");
+}
+
+void DeskTest::Grant(const std::string& user, const std::string& rightKey, const std::string& actions) {
+  gSession->CommonDb().Execute("update or insert into UserRights (UserName,RightKey,Actions) values (" +
+                               books::SqlString(user) + "," + books::SqlString(rightKey) + "," +
+                               books::SqlString(actions) + ")");
+}
+
 std::string DeskTest::Stored(int voucher, int line) const {
   return Db()
       .Lookup("FAData", "dBankDate",

@@ -30,6 +30,9 @@ class DeskTest : public testing::Test {
 
   /// The firm of MakeFirm, the year 2024, with the session open.
   void OpenNewFirm();
+
+  /// The same firm anew for a user of level 3, "Clerk", beside an owner of level 9.
+  void OpenAsClerk();
   CDbLink& Db() const { return gSession->MainDb(); }
 
   void AddAccount(int code, const std::string& head, int group = 140, const std::string& station = "");
@@ -48,6 +51,9 @@ class DeskTest : public testing::Test {
     int line = 1;
   };
   void AddVoucher(const Voucher& voucher);
+
+  /// Grants the user exactly these actions ("N" open, "P" print) on a right.
+  static void Grant(const std::string& user, const std::string& rightKey, const std::string& actions);
 
   /// The cleared date of a voucher's line as the books have it.
   std::string Stored(int voucher, int line = 1) const;

@@ -135,7 +135,6 @@ void FirebirdLink::Send(const std::string& sql, Aim aim, Action action) {
         [&] {
           const EngineWatch::Call call(address_, Handle());
           Attach();
-          RequirePlace();
           Repeat(action);
           RequirePlace();
         },

@@ -9,7 +9,7 @@
 #include "books/SqlText.h"
 #include "desk/services/NarrationTexts.h"
 #include "host/forms/AccountPicker.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyPointer.h"
 #include "host/forms/GridFill.h"
 #include "host/forms/GridRows.h"
 #include "host/forms/Progress.h"

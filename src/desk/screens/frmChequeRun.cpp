@@ -5,7 +5,7 @@
 #include <thread>
 
 #include "books/SqlText.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyPointer.h"
 #include "host/forms/GridFill.h"
 #include "host/forms/GridRows.h"
 #include "host/forms/Progress.h"

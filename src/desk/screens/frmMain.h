@@ -8,10 +8,7 @@ namespace quillon {
 /// The host's main form: what a screen from the main menu has as its caller.
 class frmMain : public Form {
  public:
-  frmMain() : Form("frmMain", Origin::Desk), lblTitle(*this, "lblTitle") {
-    Caption = "Quillon";
-    lblTitle.Caption = "   Quillon";
-  }
+  frmMain();
 
   Label lblTitle;
 };

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "host/data/CDataSet.h"
+#include "host/forms/Progress.h"
 
 namespace quillon {
 
@@ -42,13 +43,14 @@ void ExpectedSides::ReadHeads() {
 
 void ExpectedSides::Read() {
   ReadHeads();
+  Progress progress("Reading the other sides", 0);
   CDataSet lines;
   for (
       lines.Open(
           "Select l.VoucherID,l.dVchSubNo,l.dcd,l.dAmt from FAData a join FAData l on l.VoucherID=a.VoucherID and l.dVchSubNo<>a.dVchSubNo where " +
               condition_ + " and ((a.dAmt>0 and l.dAmt<0) or (a.dAmt<0 and l.dAmt>0))",
           db_);
-      !lines.Eof(); lines.MoveNext()) {
+      !lines.Eof(); lines.MoveNext(), progress.Step()) {
     const std::int64_t code = lines.Field(std::size_t{2}).ToInteger();
     const auto head = heads_.find(code);
     if (head == heads_.end()) continue;

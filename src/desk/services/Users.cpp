@@ -29,11 +29,4 @@ bool MayDo(CDbLink& common, const User& user, const std::string& rightKey, const
   return granted.find(action) != std::string::npos;
 }
 
-void Grant(CDbLink& common, const std::string& user, const std::string& rightKey,
-           const std::string& actions) {
-  common.Execute("Update or insert into UserRights (UserName,RightKey,Actions) values (" +
-                 books::SqlString(user) + "," + books::SqlString(rightKey) + "," + books::SqlString(actions) +
-                 ")");
-}
-
 }  // namespace quillon

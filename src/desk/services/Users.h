@@ -22,7 +22,4 @@ User FindUser(CDbLink& common, const std::string& name);
 /// what stands in the rights of the user.
 bool MayDo(CDbLink& common, const User& user, const std::string& rightKey, const std::string& action);
 
-/// Grants exactly these actions.
-void Grant(CDbLink& common, const std::string& user, const std::string& rightKey, const std::string& actions);
-
 }  // namespace quillon

@@ -8,7 +8,7 @@ namespace quillon {
 
 namespace {
 
-constexpr std::chrono::milliseconds kBetween{80};
+constexpr std::chrono::milliseconds kBetween{60};
 
 /// More rows than any screen has.
 constexpr std::int64_t kScreenful = 150;

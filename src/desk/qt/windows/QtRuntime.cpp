@@ -18,6 +18,7 @@
 #include "desk/qt/windows/FormView.h"
 #include "host/forms/ScreenForm.h"
 #include "host/services/ISession.h"
+#include "host/values/FlagHold.h"
 
 namespace quillon {
 
@@ -204,12 +205,11 @@ void QtRuntime::Repaint() {
 }
 
 void QtRuntime::Wait(const std::function<bool()>& done) {
-  ++waits_;
+  const FlagHold waits(waits_);
   const PointerRest rest(*this);
   QEventLoop loop;
   Settle();
   while (!done()) loop.processEvents(QEventLoop::WaitForMoreEvents);
-  --waits_;
 }
 
 }  // namespace quillon

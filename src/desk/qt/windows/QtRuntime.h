@@ -46,7 +46,7 @@ class QtRuntime : public Runtime, private PrintObserver {
   QWidget* TopWindow() const;
 
   /// Whether a handler waits for a window, so that the desk must stay.
-  bool IsWaiting() const { return waits_ > 0; }
+  bool IsWaiting() const { return waits_; }
 
   /// All windows anew, after the zoom has changed.
   void Replace();
@@ -110,7 +110,7 @@ class QtRuntime : public Runtime, private PrintObserver {
   DeskArea* area_ = nullptr;
   std::map<const Form*, FormView*> views_;
   std::weak_ptr<Form> top_;
-  int waits_ = 0;
+  bool waits_ = false;
 };
 
 }  // namespace quillon

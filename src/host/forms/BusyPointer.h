@@ -1,9 +1,6 @@
 #pragma once
 
-#include <string>
-
 #include "host/forms/Runtime.h"
-#include "host/services/IApp.h"
 
 namespace quillon {
 
@@ -17,15 +14,6 @@ class BusyPointer {
 
  private:
   int before_;
-};
-
-/// The host's busy state for the length of a block.
-class BusyJob {
- public:
-  explicit BusyJob(const std::string& text = "") { gApp->BeginBusy(text); }
-  BusyJob(const BusyJob&) = delete;
-  BusyJob& operator=(const BusyJob&) = delete;
-  ~BusyJob() { gApp->EndBusy(); }
 };
 
 }  // namespace quillon
