@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "host/controls/RedrawHold.h"
 #include "host/forms/BusyJob.h"
 #include "host/forms/BusyPointer.h"
 #include "host/forms/Progress.h"
@@ -48,9 +49,22 @@ void DatedView::Save(int row, const std::string& dateText) {
   if (row < 1) throw SubscriptError("row " + std::to_string(row));
   if (date.IsEmpty() && !dateText.empty()) throw HostError("This is no date: " + dateText);
   const books::EntryKey entry = EntryOf(row);
-  account_.StoreClearedDate(entry, date);
+  account_.StoreClearedDate(entry, Date::Parse(grid_.TextMatrix(row, columns_.Cleared)), date);
   grid_.SetTextMatrix(row, columns_.Cleared, date.Text());
   Stored(entry, row, date.Text());
+}
+
+std::vector<int> DatedView::RowsOf(const books::EntryKey& entry) {
+  if (!rows_) rows_ = std::make_unique<books::EntryRows>(grid_, columns_.Voucher, columns_.Line);
+  return rows_->Find(entry);
+}
+
+void DatedView::TakeStored(const std::vector<ClearedDates::Change>& changes) {
+  const RedrawHold hold(grid_);
+  for (const ClearedDates::Change& change : changes) {
+    for (const int row : RowsOf(change.Entry))
+      grid_.SetTextMatrix(row, columns_.Cleared, change.After.Text());
+  }
 }
 
 bool DatedView::IsSource(int row) const {
@@ -68,6 +82,7 @@ void DatedView::FillDown(int row, std::string& text) {
   grid_.EndEdit();
   const BusyJob job;
   const std::string date = grid_.TextMatrix(from, columns_.Cleared);
+  const ClearedDates::Act act(account_.Dates);
   Progress progress("Filling dates", row - from);
   for (int next = from + 1; next <= row; ++next, progress.Step()) {
     if (grid_.IsRowVisible(next) && EntryOf(next).IsEntry()) Save(next, date);

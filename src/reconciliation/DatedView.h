@@ -1,6 +1,8 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "reconciliation/WorkbenchView.h"
 
@@ -14,6 +16,9 @@ class DatedView : public WorkbenchView {
   /// Stores the cleared date of a row and shows it; an empty text removes it. Throws SubscriptError for a row
   /// that is not there, and HostError for a row that is no entry and for a text that is no date.
   void Save(int row, const std::string& dateText);
+
+  /// Cleared dates of the account were stored elsewhere: those of After.
+  virtual void TakeStored(const std::vector<ClearedDates::Change>& changes);
 
  protected:
   struct Columns {
@@ -33,6 +38,10 @@ class DatedView : public WorkbenchView {
   /// A date was stored for this entry; the row shows it already.
   virtual void Stored(const books::EntryKey& entry, int row, const std::string& dateText) = 0;
 
+  /// The rows that show an entry; holds until LetRowsGo.
+  std::vector<int> RowsOf(const books::EntryKey& entry);
+  void LetRowsGo() { rows_.reset(); }
+
   void ForgetEdit() { cellEdited_ = false; }
 
   /// Whether the editor was typed in since it opened; asking ends the edit.
@@ -44,6 +53,7 @@ class DatedView : public WorkbenchView {
   bool IsSource(int row) const;
 
   Columns columns_;
+  std::unique_ptr<books::EntryRows> rows_;  // made when asked for
   bool cellEdited_ = false;
 };
 

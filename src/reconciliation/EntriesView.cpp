@@ -54,7 +54,7 @@ void EntriesView::FillFilter() {
 }
 
 void EntriesView::LetGo() {
-  rows_.reset();
+  LetRowsGo();
   ownDates_.clear();
   ownReturned_.clear();
 }
@@ -107,7 +107,7 @@ void EntriesView::SetColumns() {
 
 void EntriesView::CopyRows() {
   marked_.Forget();
-  rows_.reset();
+  LetRowsGo();
   const int filter = filter_.ListIndex();
   const CGridPlus* const statement = account_.Statement();
   const int sourceRows = statement != nullptr ? statement->Rows() : 1;

@@ -36,8 +36,7 @@ class EntriesView : public DatedView {
   /// already stay.
   void MassMark(bool unmark);
 
-  /// A cleared date of the account was stored in another view.
-  void TakeStored(const books::EntryKey& entry, const std::string& dateText);
+  void TakeStored(const std::vector<ClearedDates::Change>& changes) override;
 
   void LetGo();
   void ZoomRow() override;
@@ -76,7 +75,6 @@ class EntriesView : public DatedView {
   CheckBox& returned_;
   const Control& plain_;
   MarkedTotals marked_;
-  std::unique_ptr<books::EntryRows> rows_;  // of the grid, made when asked for
   std::unordered_map<books::EntryKey, OwnMark, books::EntryKeyHash> ownDates_;
   std::unordered_map<std::int64_t, OwnMark> ownReturned_;
 };

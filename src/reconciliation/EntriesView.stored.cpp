@@ -47,14 +47,13 @@ void EntriesView::Remember(const books::EntryKey& entry, const std::string& date
   ownDates_[entry] = {dateText, account_.MarksRead()};
 }
 
-void EntriesView::TakeStored(const books::EntryKey& entry, const std::string& dateText) {
-  if (!rows_) rows_ = std::make_unique<books::EntryRows>(grid_, kVoucherId, kVchSubNo);
-  for (const int row : rows_->Find(entry)) {
-    grid_.SetTextMatrix(row, kClearedEdit, dateText);
-    marked_.Recount(grid_, row);
+void EntriesView::TakeStored(const std::vector<ClearedDates::Change>& changes) {
+  DatedView::TakeStored(changes);
+  for (const ClearedDates::Change& change : changes) {
+    for (const int row : RowsOf(change.Entry)) marked_.Recount(grid_, row);
+    account_.Echo(change.Entry, change.After.Text());
+    Remember(change.Entry, change.After.Text());
   }
-  account_.Echo(entry, dateText);
-  Remember(entry, dateText);
 }
 
 void EntriesView::AfterEdit(int row) {
@@ -77,9 +76,13 @@ void EntriesView::MassMark(bool unmark) {
     period.SingleDate(false);
     period.SetDate1(account_.First());
     period.SetDate2(account_.Last());
-    if (!period.Show() || !gStd->AskYesNo(unmark ? kAskUnmark : kAskMark, "Q", IStd::kNo)) return;
+    if (!period.Show()) return;
+    const std::string title =
+        period.Date1().Format("dd/MM/yyyy") + " to " + period.Date2().Format("dd/MM/yyyy");
+    if (!gStd->AskYesNo(unmark ? kAskUnmark : kAskMark, "Q", IStd::kNo, title)) return;
     // Neither the footer nor the statement follows: both stand as they were until they are refreshed.
     marked_.Forget();
+    const ClearedDates::Act act(account_.Dates);
     Progress progress(unmark ? "Removing dates" : "Filling dates", grid_.Rows - 1);
     std::string day;
     Date date;
@@ -98,7 +101,7 @@ void EntriesView::MassMark(bool unmark) {
 
 void EntriesView::MassMarkRow(int row, Date date) {
   const books::EntryKey entry = EntryOf(row);
-  account_.StoreClearedDate(entry, date);
+  account_.StoreClearedDate(entry, Date::Parse(grid_.Cell(row, kClearedEdit)), date);
   grid_.SetTextMatrix(row, kClearedEdit, date.Text());
   Remember(entry, date.Text());
 }

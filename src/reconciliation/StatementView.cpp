@@ -137,6 +137,7 @@ Amount StatementView::ShowBooksBalance() {
 
 void StatementView::Fill() {
   SetColumns();
+  LetRowsGo();
   const Amount balance = ShowBooksBalance();
   const std::string account = books::SqlNumber(account_.Code());
   const std::string date = gStd->SqlDate(asOn_);
@@ -223,7 +224,7 @@ void StatementView::BeforeEdit(int row, int column, bool& cancel, std::string& a
 }
 
 void StatementView::Stored(const books::EntryKey& entry, int /*row*/, const std::string& dateText) {
-  if (DateStored) DateStored(entry, dateText);
+  if (DateStored) DateStored({entry, {}, Date::Parse(dateText)});
 }
 
 void StatementView::RowChange(int row) {

@@ -14,7 +14,7 @@ class StatementView : public DatedView {
   StatementView(WorkbenchAccount& account, CGridPlus& grid);
 
   /// A cleared date was stored from here.
-  std::function<void(const books::EntryKey&, const std::string&)> DateStored;
+  std::function<void(const ClearedDates::Change&)> DateStored;
 
   void SetAsOn(Date date) { asOn_ = date; }
 

@@ -16,6 +16,7 @@ void WorkbenchAccount::StandOn(CGridPlus& grid) { statement_ = &grid; }
 void WorkbenchAccount::LetGo() {
   statement_ = nullptr;
   statementRows_.reset();
+  Dates.Forget();
 }
 
 std::int64_t WorkbenchAccount::MarksRead() const {
@@ -40,11 +41,12 @@ void WorkbenchAccount::Echo(const books::EntryKey& entry, const std::string& dat
   }
 }
 
-void WorkbenchAccount::StoreClearedDate(const books::EntryKey& entry, Date date) const {
+void WorkbenchAccount::StoreClearedDate(const books::EntryKey& entry, Date before, Date date) {
   if (!entry.IsEntry()) throw HostError("This row is no entry, so it can have no cleared date");
   books::StoreEntry(gSession->Year().Db(), entry.Voucher,
                     "Update FAData set dBankDate=" + books::SqlDateOrNull(date) + " where VoucherID=" +
                         books::SqlNumber(entry.Voucher) + " and dVchSubNo=" + books::SqlNumber(entry.Line));
+  Dates.Note({entry, before, date});
 }
 
 std::string WorkbenchAccount::NarrationWithReference(CDataSet& line) const {

@@ -9,6 +9,7 @@
 #include "host/controls/CMStrip.h"
 #include "host/data/CDataSet.h"
 #include "host/forms/Form.h"
+#include "reconciliation/ClearedDates.h"
 
 namespace quillon {
 
@@ -38,8 +39,12 @@ class WorkbenchAccount {
   /// Puts a cleared date into the statement's row of that entry, if it has one.
   void Echo(const books::EntryKey& entry, const std::string& dateText);
 
-  /// Stores the cleared date of an entry; an empty date removes it. Throws HostError for what is no entry.
-  void StoreClearedDate(const books::EntryKey& entry, Date date) const;
+  /// Stores the cleared date of an entry that had another one; an empty date is none. Throws HostError for
+  /// what is no entry.
+  void StoreClearedDate(const books::EntryKey& entry, Date before, Date date);
+
+  /// What was stored from here.
+  ClearedDates Dates;
 
   bool ShowsReferences = true;
 

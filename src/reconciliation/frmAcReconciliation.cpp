@@ -51,10 +51,12 @@ frmAcReconciliation::frmAcReconciliation()
   MemberPeriod(*this);
   Member("bCalcInt", bCalcInt);
   RegisterRoutines();
-  statement_.DateStored = [this](const books::EntryKey& entry, const std::string& dateText) {
-    entries_.TakeStored(entry, dateText);
-  };
+  statement_.DateStored = [this](const ClearedDates::Change& change) { entries_.TakeStored({change}); };
   mmMarking.Click = [this](int item) { MassMarking(item == kUnmarkItem); };
+  for (CGridPlus* const dated : {&Grid, &GridStatement}) {
+    dated->Undo = [this] { ShowTurned(account_.Dates.TakeBack(gSession->Year().Db()), "taken back"); };
+    dated->Redo = [this] { ShowTurned(account_.Dates.PutBack(gSession->Year().Db()), "put back"); };
+  }
 }
 
 /// The routines that a host may call late.
@@ -116,6 +118,16 @@ void frmAcReconciliation::UnloadScreen() {
   interest_.LetGo();
   entries_.LetGo();
   account_.LetGo();
+}
+
+/// The dates that came back go to both views and to the calling statement, rows that a filter hides included.
+void frmAcReconciliation::ShowTurned(const std::optional<ClearedDates::Outcome>& outcome, const char* done) {
+  if (outcome) {
+    entries_.TakeStored(outcome->Done);
+    UpdateMarkedTotals();
+    if (statement_.IsShown()) statement_.TakeStored(outcome->Done);
+  }
+  gRuntime->Say(WordsOf(outcome, done));
 }
 
 // --- The views

@@ -79,6 +79,7 @@ class frmAcReconciliation : public ScreenForm, public AccountPeriod {
   void RegisterRoutines();
   void DesignControls();
   void TakeCaller();
+  void ShowTurned(const std::optional<ClearedDates::Outcome>& outcome, const char* done);
   void PopupMarking();
   void ShowReferences();
   void PressInterest();

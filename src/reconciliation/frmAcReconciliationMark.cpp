@@ -44,6 +44,19 @@ constexpr int kWholeDate = 99;  // a selection past the end of any date
 constexpr std::int64_t kMostEntries = 10;
 constexpr std::size_t kListNarration = 30;
 
+/// The dates that the voucher's lines lose when its mark is removed.
+std::vector<ClearedDates::Change> MarksOf(CDbLink& db, std::int64_t voucher) {
+  std::vector<ClearedDates::Change> marks;
+  CDataSet lines;
+  for (lines.Open("SELECT DVCHSUBNO,DBANKDATE FROM FADATA WHERE DBANKDATE IS NOT NULL AND VOUCHERID=" +
+                      books::SqlNumber(voucher),
+                  db);
+       !lines.Eof(); lines.MoveNext()) {
+    marks.push_back({{voucher, lines.Field("DVCHSUBNO").ToInteger()}, lines.Field("DBANKDATE").ToDate(), {}});
+  }
+  return marks;
+}
+
 }  // namespace
 
 frmAcReconciliationMark::frmAcReconciliationMark()
@@ -77,6 +90,8 @@ void frmAcReconciliationMark::ConnectGrid() {
   };
   Grid.RowChange = [this](int row) { ShowParty(row); };
   Grid.KeyDown = [this](KeyEvent& key) { Grid_KeyDown(key); };
+  Grid.Undo = [this] { TakeBack(); };
+  Grid.Redo = [this] { PutBack(); };
 }
 
 void frmAcReconciliationMark::LoadScreen() {
@@ -253,12 +268,13 @@ void frmAcReconciliationMark::MarkEntry(const CDataSet& entry, int row) {
     gRuntime->Beep();
     return;
   }
-  const std::int64_t voucher = entry.Field("VOUCHERID").ToInteger();
+  const books::EntryKey key{entry.Field("VOUCHERID").ToInteger(), entry.Field("DVCHSUBNO").ToInteger()};
+  const Date date = Date::Parse(Grid.TextMatrix(row, col::kClearDate));
   books::StoreEntry(
-      FYear->Db(), voucher,
-      "UPDATE FADATA SET DBANKDATE=" + gStd->SqlDate(Date::Parse(Grid.TextMatrix(row, col::kClearDate))) +
-          " WHERE DCD=" + books::SqlNumber(AccountCode) + " AND VOUCHERID=" + books::SqlNumber(voucher) +
-          " AND DVCHSUBNO=" + books::SqlNumber(entry.Field("DVCHSUBNO").ToInteger()));
+      FYear->Db(), key.Voucher,
+      "UPDATE FADATA SET DBANKDATE=" + gStd->SqlDate(date) + " WHERE DCD=" + books::SqlNumber(AccountCode) +
+          " AND VOUCHERID=" + books::SqlNumber(key.Voucher) + " AND DVCHSUBNO=" + books::SqlNumber(key.Line));
+  dates_.Note({key, {}, date});
 }
 
 void frmAcReconciliationMark::FillRow(const CDataSet& entry, int row) {
@@ -297,14 +313,36 @@ void frmAcReconciliationMark::RemoveMark() {
   if (row < 1 || !IsMatched(row)) return;
   if (!gStd->AskYesNo("Do you want to remove mark date of this entry?")) return;
   const std::int64_t voucher = ValInteger(Grid.Cell(row, col::kVoucherId));
+  const std::vector<ClearedDates::Change> marks = MarksOf(FYear->Db(), voucher);
   books::StoreEntry(FYear->Db(), voucher,
                     "UPDATE FADATA SET DBANKDATE=NULL WHERE VOUCHERID=" + books::SqlNumber(voucher));
+  const ClearedDates::Act act(dates_);
+  for (const ClearedDates::Change& mark : marks) dates_.Note(mark);
+  RemoveRow(row);
+}
+
+void frmAcReconciliationMark::RemoveRow(int row) {
   Grid.CancelEdit();
   Grid.RemoveItem(row);
   if (Grid.Rows < 2) Grid.Rows = 2;  // there is always a row to key in
   Grid.Row = std::max(Grid.Row(), 1);
   ShowParty(Grid.Row);
 }
+
+/// A match that was taken back leaves the page.
+void frmAcReconciliationMark::TakeBack() {
+  const auto outcome = dates_.TakeBack(FYear->Db());
+  if (outcome) {
+    for (const ClearedDates::Change& change : outcome->Done) {
+      for (int row = Grid.Rows - 1; row >= 1 && change.After.IsEmpty(); --row) {
+        if (ValInteger(Grid.Cell(row, col::kVoucherId)) == change.Entry.Voucher) RemoveRow(row);
+      }
+    }
+  }
+  gRuntime->Say(WordsOf(outcome, "taken back"));
+}
+
+void frmAcReconciliationMark::PutBack() { gRuntime->Say(WordsOf(dates_.PutBack(FYear->Db()), "put back")); }
 
 /// A new page; what was marked stays marked.
 void frmAcReconciliationMark::ClearPage() {
@@ -315,7 +353,7 @@ void frmAcReconciliationMark::ClearPage() {
 }
 
 void frmAcReconciliationMark::Print(bool print) {
-  gReports->ShowGrid(Grid, nullptr, Grid.Title, lblTitle.Caption, -1, print);
+  gReports->ShowGrid(Grid, nullptr, Grid.Title, lblTitle.Caption, IReports::kHostRuling, print);
 }
 
 }  // namespace quillon

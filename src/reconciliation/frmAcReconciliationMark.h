@@ -10,6 +10,7 @@
 #include "host/data/CDataSet.h"
 #include "host/forms/ScreenForm.h"
 #include "host/services/FinYear.h"
+#include "reconciliation/ClearedDates.h"
 
 namespace quillon {
 
@@ -68,7 +69,12 @@ class frmAcReconciliationMark : public ScreenForm, public AccountPeriod {
   void FindParty(int row);
 
   void RemoveMark();
+  void RemoveRow(int row);
   void ClearPage();
+  void TakeBack();
+  void PutBack();
+
+  ClearedDates dates_;
 };
 
 }  // namespace quillon

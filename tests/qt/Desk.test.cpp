@@ -228,6 +228,23 @@ TEST_F(DeskTest, AStoreThatWaitsForAnotherProgramSaysSo) {
   EXPECT_EQ(grid.TextMatrix(row, kCleared).substr(0, 3), "05-") << "it went on when the other was done";
 }
 
+TEST_F(DeskTest, EnterGoesFromDateToDateAndAcceptsInTheLast) {
+  OpenStatement();
+  Soon([&] {
+    auto* const dialog = dynamic_cast<DateDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    QTest::keyClicks(dialog->focusWidget(), "1/5");
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    ASSERT_TRUE(dialog->isVisible()) << "the second date was not looked at yet";
+    QTest::keyClicks(dialog->focusWidget(), "30/6");
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+  });
+  Press(Qt::Key_F3);
+  EXPECT_EQ(dynamic_cast<Label&>(Top().ControlAt("lblTitle1", 2)).Caption(),
+            "Period: 01/05/2024 to 30/06/2024");
+}
+
 TEST_F(DeskTest, TheStatementIsAskedForADateAndShownOnPages) {
   OpenWorkbench();
   Soon([&] {

@@ -44,8 +44,13 @@ TEST_F(Account, RowsBalanceAndFooter) {
 
 TEST_F(Account, APeriodBeginsWithAllThatLiesBeforeIt) {
   const FormPtr form = ShowStatement();
+  for (const auto& [from, to] : {std::pair{"31/3/2024", "31/5/2024"}, {"1/5/2024", "1/4/2025"}}) {
+    AnswerPeriod(from, to);
+    AnswerMessage();
+  }
   AnswerPeriod("1/5/2024", "31/5/2024");
   Key(*form, keys::kF3);
+  EXPECT_EQ(Told(), Texts(2, "W: The year runs from 01-Apr-2024 to 31-Mar-2025."));
   EXPECT_EQ(Rows(form), (Texts{"|0B|||1|01-May-2024|0B|Opening Balance|500.25||500.25 Dr.|",
                                "3|BNK||1|2|03-May-2024|BNK|Out||200.00|300.25 Dr.|Y"}));
   const FormPtr bare = gApp->GetForm("account");

@@ -39,6 +39,7 @@ class DriverRuntime : public Runtime {
   long ScreenWidth() const override { return 1366 * kTwipsPerPixel; }
   long ScreenHeight() const override { return 768 * kTwipsPerPixel; }
   void Beep() override { log_.Write({{"event", "beep"}}); }
+  void Say(const std::string& text) override { log_.Write({{"event", "said"}, {"text", text}}); }
   void ShowBusy(bool on, const std::string& text) override;
   void ShowWaiting(bool on) override;
   long TextWidth(const Font& font, const std::string& text) const override;

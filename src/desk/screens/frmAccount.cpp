@@ -38,6 +38,15 @@ constexpr ScreenSpec kScreen = {
 
 namespace col = account_col;
 
+/// The books of a year know nothing of the days before and after it, its opening balances included.
+bool IsInYear(const CDateDialog& period) {
+  const FinYear& year = gSession->Year();
+  if (period.Date1() >= year.StartDate() && period.Date2() <= year.EndDate()) return true;
+  gStd->MsgBox("The year runs from " + year.StartDate().Text() + " to " + year.EndDate().Text() + ".", "",
+               "W");
+  return false;
+}
+
 }  // namespace
 
 struct frmAccount::Sums {
@@ -155,7 +164,9 @@ void frmAccount::AskPeriod() {
   dialog.DateCaption("From");
   dialog.SetDate1(Date1);
   dialog.SetDate2(Date2);
-  if (!dialog.Show()) return;
+  do {
+    if (!dialog.Show()) return;
+  } while (!IsInYear(dialog));
   Date1 = dialog.Date1();
   Date2 = dialog.Date2();
   FillGrid();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/forms/Form.h"
+#include "host/forms/Runtime.h"
 #include "host/values/FlagHold.h"
 
 namespace quillon {
@@ -195,8 +196,22 @@ bool EditableGrid::HandleEditKey(const KeyEvent& key) {
   }
 }
 
+/// As if the person had opened the cell, deleted its text and left it.
+void EditableGrid::EmptyCell() {
+  if (!Selection().IsOneCell()) {
+    gRuntime->Say("Del empties one cell at a time.");
+  } else if (SetCell(Row, Col)) {
+    EditBox.UserType("");
+    EndEdit();
+  }
+}
+
 bool EditableGrid::HandleKey(const KeyEvent& key) {
   if (editing_) return HandleEditKey(key);
+  if (key.KeyCode == keys::kDelete && key.Shift == 0 && BeforeEdit) {
+    EmptyCell();
+    return true;
+  }
   const bool opens = key.KeyCode == keys::kEnter || key.KeyCode == keys::kF2;
   if (opens && key.Shift == 0 && BeforeEdit) {
     OpenFrom(Row, Col);

@@ -84,6 +84,7 @@ class EditableGrid : public GridModel {
   void Close();
   bool OpenFrom(int row, int col);
   void MoveOn();
+  void EmptyCell();
   bool HandleEditKey(const KeyEvent& key);
   bool IsCandidate(int col) const;
 

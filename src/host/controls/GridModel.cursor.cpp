@@ -147,6 +147,14 @@ bool GridModel::MoveByKey(int keyCode, CellAt& to) const {
 }
 
 bool GridModel::HandleKey(const KeyEvent& key) {
+  if (key.AsksUndo() && Undo) {
+    Undo.Raise();
+    return true;
+  }
+  if (key.AsksRedo() && Redo) {
+    Redo.Raise();
+    return true;
+  }
   const bool extends = key.Shift == keys::kShift;
   if (key.Shift != 0 && key.Shift != keys::kCtrl && !extends) return false;
   CellAt to = extends ? CellAt{RowSel, ColSel} : CellAt{Row, Col};

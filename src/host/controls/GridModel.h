@@ -64,6 +64,10 @@ class GridModel : public Control {
   Event<int> RowChange;
   Event<> DblClick;
 
+  /// The user takes back what he did last here (Ctrl+Z), or puts it back (Ctrl+Y, Ctrl+Shift+Z).
+  Event<> Undo;
+  Event<> Redo;
+
   /// The selected cells, as SelectionMode widens them; rows above the first that scrolls are never taken by
   /// it.
   struct Rectangle {

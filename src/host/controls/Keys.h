@@ -52,6 +52,12 @@ constexpr int CodeOfCharacter(int character) {
 struct KeyEvent {
   int KeyCode = 0;
   int Shift = 0;
+
+  bool AsksUndo() const { return KeyCode == 'Z' && Shift == keys::kCtrl; }
+  bool AsksRedo() const {
+    return (KeyCode == 'Y' && Shift == keys::kCtrl) ||
+           (KeyCode == 'Z' && Shift == (keys::kCtrl | keys::kShift));
+  }
 };
 
 }  // namespace quillon

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/values/FlagHold.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -31,6 +32,8 @@ std::string TextBox::Accepted(const std::string& text) const {
 
 void TextBox::UserType(const std::string& text) {
   if (Locked) throw Refused(Name() + " is locked");
+  RememberTyped();
+  const FlagHold typing(typing_);
   // The first key stroke has replaced what stood there, so the same text typed again is a change too.
   if (Text == text) Text = "";
   Text = Accepted(text);
@@ -55,11 +58,32 @@ void TextBox::EnterFocus() {
   Control::EnterFocus();
 }
 
+void TextBox::RememberTyped() {
+  typed_.push_back(AsItIs());
+  takenBack_.clear();
+}
+
+bool TextBox::TurnTyped(std::vector<Typed>& from, std::vector<Typed>& to) {
+  if (from.empty() || Locked) return true;
+  to.push_back(AsItIs());
+  const Typed turned = std::move(from.back());
+  from.pop_back();
+  const FlagHold typing(typing_);
+  Text = turned.text;
+  SelStart = turned.start;
+  SelLength = turned.length;
+  indent_ = -1;
+  if (Companion != nullptr) Companion->CompanionTyped(Text);
+  return true;
+}
+
 void TextBox::Replace(int start, int length, const std::string& with) {
+  const FlagHold typing(typing_);
   const auto from = static_cast<std::size_t>(start);
   const std::string text =
       text::Left(Text(), from) + with + text::Mid(Text(), from + static_cast<std::size_t>(length) + 1);
   const std::string taken = Accepted(text);
+  if (taken != Text()) RememberTyped();
   Text = taken;
   SelStart = std::min(start + static_cast<int>(text::Length(with)), static_cast<int>(text::Length(taken)));
   SelLength = 0;
@@ -76,6 +100,8 @@ bool TextBox::HandleKey(const KeyEvent& key) {
     SelectAll();
     return true;
   }
+  if (key.AsksUndo()) return TurnTyped(typed_, takenBack_);
+  if (key.AsksRedo()) return TurnTyped(takenBack_, typed_);
   if (HandleMove(key)) return true;
   switch (key.KeyCode) {
     case keys::kBack:
@@ -203,7 +229,12 @@ void TextBox::HandleChar(int character) {
 
 void TextBox::PropertyChanged(const PropertyBase& property) {
   Control::PropertyChanged(property);
-  if (&property == &Text) Change.Raise();
+  if (&property != &Text) return;
+  if (!typing_) {
+    typed_.clear();
+    takenBack_.clear();
+  }
+  Change.Raise();
 }
 
 }  // namespace quillon

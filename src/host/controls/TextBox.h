@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/controls/Control.h"
 #include "host/controls/TextLines.h"
@@ -97,6 +98,19 @@ class TextBox : public Control {
 
   /// How far from the left Up and Down began; below 0 when another key was the last.
   long indent_ = -1;
+
+  /// Ctrl+Z and Ctrl+Y: what was typed since the text was last put in by code.
+  struct Typed {
+    std::string text;
+    int start;
+    int length;
+  };
+  Typed AsItIs() const { return {Text(), SelStart, SelLength}; }
+  void RememberTyped();
+  bool TurnTyped(std::vector<Typed>& from, std::vector<Typed>& to);
+  std::vector<Typed> typed_;
+  std::vector<Typed> takenBack_;
+  bool typing_ = false;
 
   struct Laid {
     std::string text;

@@ -182,6 +182,9 @@ class Runtime {
   virtual void ShowProgress(const std::string& /*text*/, std::int64_t /*done*/, std::int64_t /*whole*/) {}
   virtual void HideProgress() {}
 
+  /// Tells what was done, in a word that nobody need answer.
+  virtual void Say(const std::string& /*text*/) {}
+
   /// A statement waits for what another program is changing, or no longer. It may be called on another thread
   /// than the forms'.
   virtual void ShowWaiting(bool /*on*/) {}

@@ -35,8 +35,9 @@ class IStd {
   static constexpr int kNo = 2;  ///< of AskYesNo: No is the default
 
   /// A question with Yes and No; true for Yes. Leaving the box is No.
-  bool AskYesNo(const std::string& text, const std::string& icon = "Q", int defaultButton = 0) {
-    return MsgBox(text, "2", icon, "", defaultButton) == 1;
+  bool AskYesNo(const std::string& text, const std::string& icon = "Q", int defaultButton = 0,
+                const std::string& title = "") {
+    return MsgBox(text, "2", icon, title, defaultButton) == 1;
   }
 
   /// Queues keys, "{TAB}" and the like; they arrive after the event at hand, or at the next DoEvents.

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 
 #include "desk/qt/adapters/PushButton.h"
@@ -63,10 +64,24 @@ void DeskDialog::Confirm() {
   if (Check()) accept();
 }
 
+/// From a field of text to the next one below it; false when there is none.
+bool DeskDialog::MoveOn() {
+  const auto* const field = qobject_cast<QLineEdit*>(focusWidget());
+  if (field == nullptr) return false;
+  const QList<QLineEdit*> fields = findChildren<QLineEdit*>();
+  const auto next = fields.indexOf(field) + 1;
+  if (next >= fields.size()) return false;
+  fields.at(next)->setFocus(Qt::TabFocusReason);
+  fields.at(next)->selectAll();
+  return true;
+}
+
 void DeskDialog::keyPressEvent(QKeyEvent* event) {
-  if (hasOk_ && event->key() == Qt::Key_F7 && event->modifiers() == Qt::NoModifier) {
+  const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (hasOk_ && plain && event->key() == Qt::Key_F7) {
     Confirm();
-  } else {
+  } else if (!(plain && enter && MoveOn())) {
     QDialog::keyPressEvent(event);
   }
 }

@@ -10,7 +10,8 @@ namespace quillon {
 
 class PushButton;
 
-/// A dialog of the desk: its content above a row of buttons. F7 is OK, Esc is Cancel.
+/// A dialog of the desk: its content above a row of buttons. F7 is OK, Esc is Cancel; Enter moves on from
+/// field to field and is OK in the last one.
 class DeskDialog : public QDialog {
  public:
   DeskDialog(const QString& title, QWidget* parent);
@@ -38,6 +39,7 @@ class DeskDialog : public QDialog {
 
  private:
   void Confirm();
+  bool MoveOn();
 
   QVBoxLayout* content_;
   QHBoxLayout* buttons_;

@@ -10,6 +10,7 @@
 #include <QStackedLayout>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QToolButton>
 #include <filesystem>
 
 #include "desk/firm/FirmFile.h"
@@ -36,6 +37,7 @@ namespace {
 
 constexpr int kWidth = 1280;
 constexpr int kHeight = 760;
+constexpr int kSaidFor = 8000;  // milliseconds
 
 }  // namespace
 
@@ -44,6 +46,8 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
       area_(new DeskArea(this)),
       start_(new StartPage(this)),
       firm_(new QLabel(this)),
+      year_(new QToolButton(this)),
+      user_(new QLabel(this)),
       busy_(new QLabel(this)) {
   setWindowIcon(Icons::Of(QStringLiteral("desk")));
   auto* const middle = new QWidget(this);
@@ -52,12 +56,21 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   pages->addWidget(area_);
   setCentralWidget(middle);
   middle->installEventFilter(this);
-  statusBar()->addWidget(firm_, 1);
+  year_->setAutoRaise(true);
+  year_->setFocusPolicy(Qt::NoFocus);
+  year_->setToolTip(QStringLiteral("Another financial year"));
+  connect(year_, &QToolButton::clicked, this, &DeskWindow::AskYear);
+  statusBar()->addWidget(firm_);
+  statusBar()->addWidget(year_);
+  statusBar()->addWidget(user_, 1);
   statusBar()->addPermanentWidget(busy_);
   statusBar()->setSizeGripEnabled(false);
   BuildMenus();
   runtime_.SetArea(area_);
   runtime_.OnBusy = [this](bool on, const std::string& text) { ShowBusy(on, text); };
+  runtime_.OnSaid = [this](const std::string& text) {
+    statusBar()->showMessage(QString::fromStdString(text), kSaidFor);
+  };
   runtime_.OnProgress = [this](const std::string& text) { busy_->setText(QString::fromStdString(text)); };
   runtime_.OnWaiting = [this](bool on) { ShowWaiting(on); };
   start_->OnOpen = [this] { AskFirm(); };
@@ -81,6 +94,7 @@ DeskWindow::~DeskWindow() {
   desk_->CloseFirm();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   runtime_.OnBusy = {};
+  runtime_.OnSaid = {};
   runtime_.OnProgress = {};
   runtime_.OnWaiting = {};
   runtime_.OnTopChanged = {};
@@ -274,18 +288,20 @@ void DeskWindow::ShowWaiting(bool on) {
 void DeskWindow::ShowState() {
   const bool open = desk_->HasFirm();
   for (QAction* act : firmActs_) act->setEnabled(open);
+  year_->setVisible(open);
   ShowMenuLines();
   if (!open) {
     firm_->clear();
+    user_->clear();
     start_->ShowFirm(QString());
     ShowPage();
     return;
   }
   DeskSession& session = desk_->Session();
   const QString name = QString::fromStdString(session.FirmName());
-  firm_->setText(QStringLiteral(" %1     F.Y. %2     %3")
-                     .arg(name, QString::fromStdString(YearName(session.Year().StartYear())),
-                          QString::fromStdString(session.CurrentUser().Name)));
+  firm_->setText(QStringLiteral(" %1   ").arg(name));
+  year_->setText(QStringLiteral("F.Y. %1").arg(QString::fromStdString(YearName(session.Year().StartYear()))));
+  user_->setText(QStringLiteral("   ") + QString::fromStdString(session.CurrentUser().Name));
   start_->ShowFirm(name);
   ShowPage();
 }

@@ -10,6 +10,7 @@
 #include "desk/shell/Desk.h"
 
 class QLabel;
+class QToolButton;
 class QMenu;
 
 namespace quillon {
@@ -87,6 +88,8 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   DeskArea* area_;
   StartPage* start_;
   QLabel* firm_;
+  QToolButton* year_;
+  QLabel* user_;
   QLabel* busy_;
   QString beforeWaiting_;  // what busy_ told
   QString folder_;

@@ -40,8 +40,7 @@ void DeskWindow::BuildFirmMenu() {
       ->setIcon(Icons::ForMenu(QStringLiteral("open")));
   AddAct(menu, QStringLiteral("&Sample Firm"), {}, &DeskWindow::OpenSample);
   menu.addSeparator();
-  firmActs_ << AddAct(menu, QStringLiteral("&Year …"), QKeySequence(Qt::CTRL | Qt::Key_Y),
-                      &DeskWindow::AskYear)
+  firmActs_ << AddAct(menu, QStringLiteral("&Year …"), {}, &DeskWindow::AskYear)
             << AddAct(menu, QStringLiteral("&User …"), QKeySequence(Qt::CTRL | Qt::Key_U),
                       &DeskWindow::AskUser)
             << AddAct(menu, QStringLiteral("&Printer …"), {}, &DeskWindow::AskPrinter);

@@ -91,6 +91,10 @@ void QtRuntime::HideProgress() {
   if (OnProgress) OnProgress("");
 }
 
+void QtRuntime::Say(const std::string& text) {
+  if (OnSaid) OnSaid(text);
+}
+
 void QtRuntime::ShowWaiting(bool on) {
   if (QThread::currentThread() != qApp->thread()) {
     const auto show = [on] {

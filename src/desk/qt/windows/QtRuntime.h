@@ -35,6 +35,9 @@ class QtRuntime : public Runtime, private PrintObserver {
   /// Called when a statement begins or ends to wait for another program.
   std::function<void(bool on)> OnWaiting;
 
+  /// Called with what was done and is told in passing.
+  std::function<void(const std::string& text)> OnSaid;
+
   /// Called with the words for how far a job has come, and with none at its end.
   std::function<void(const std::string& text)> OnProgress;
 
@@ -57,6 +60,7 @@ class QtRuntime : public Runtime, private PrintObserver {
   void ShowBusy(bool on, const std::string& text) override;
   void ShowProgress(const std::string& text, std::int64_t done, std::int64_t whole) override;
   void HideProgress() override;
+  void Say(const std::string& text) override;
   void ShowWaiting(bool on) override;
   long TextWidth(const Font& font, const std::string& text) const override;
   std::string ClipboardText() const override;

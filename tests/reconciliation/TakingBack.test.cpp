@@ -1,0 +1,144 @@
+#include "tests/support/BankTest.h"
+
+namespace quillon {
+namespace {
+
+constexpr int kCleared = 27;
+
+/// What was stored of cleared dates is taken back and put back, act by act.
+class TakingBack : public BankTest {
+ protected:
+  void SetUp() override {
+    BankTest::SetUp();
+    AddVoucher({.id = 2, .date = "2024-04-05", .amount = "1500", .narration = "Cheque 470251"});
+    AddVoucher({.id = 3, .date = "2024-04-08", .amount = "-2500", .cleared = "2024-04-10", .other = 202});
+    AddVoucher({.id = 4, .date = "2024-04-12", .amount = "700"});
+    AddVoucher({.id = 5, .date = "2024-05-02", .amount = "-900"});
+    OpenBench();
+  }
+
+  std::string Books() { return Stored(2) + "|" + Stored(3) + "|" + Stored(4) + "|" + Stored(5); }
+  Texts Said() {
+    Texts said;
+    for (const Json& event : Events("said")) said.push_back(event["text"]);
+    return said;
+  }
+  void Back() { Key(*runtime_.ActiveForm(), 'Z', keys::kCtrl); }
+  void Again() { Key(*runtime_.ActiveForm(), 'Y', keys::kCtrl); }
+  std::string MarkedBalance() { return Entries().Footer.TextMatrix(1, 26); }
+};
+
+TEST_F(TakingBack, EachActGoesByItselfWithAllThatItStored) {
+  const std::string balance = MarkedBalance();
+  Back();
+  EXPECT_EQ(Said(), Texts{"There is no date to be taken back."});
+  EXPECT_TRUE(EditCell(Entries(), 1, kCleared, "6"));
+  EXPECT_TRUE(EditCell(Entries(), 2, kCleared, ""));
+  EXPECT_TRUE(EditCell(Entries(), 4, kCleared, "00"));
+  EXPECT_EQ(Books(), "06-Apr-2024|06-Apr-2024|06-Apr-2024|06-Apr-2024");
+  Back();
+  EXPECT_EQ(Books(), "06-Apr-2024|||") << "the fill-down was one act";
+  EXPECT_EQ(Source().TextMatrix(3, 4), "");
+  Back();
+  EXPECT_EQ(Books(), "06-Apr-2024|10-Apr-2024||");
+  EXPECT_EQ(Entries().TextMatrix(2, kCleared), "10-Apr-2024");
+  EXPECT_EQ(Source().TextMatrix(2, 4), "10-Apr-2024");
+  Back();
+  EXPECT_EQ(Books(), "|10-Apr-2024||");
+  EXPECT_EQ(MarkedBalance(), balance);
+  Again();
+  Key(*bench_, 'Z', keys::kCtrl | keys::kShift);
+  EXPECT_EQ(Books(), "06-Apr-2024|||");
+  EXPECT_EQ(Said(), (Texts{"3 dates taken back.", "1 date taken back.", "1 date taken back.",
+                           "1 date put back.", "1 date put back."}));
+  EXPECT_TRUE(EditCell(Entries(), 3, kCleared, "15"));
+  Again();
+  EXPECT_EQ(Said(), Texts{"There is no date to be put back."}) << "something else was stored since";
+  EXPECT_EQ(Books(), "06-Apr-2024||15-Apr-2024|");
+  Do([&] { Entries().UserMoveTo(3, kCleared); });
+  Key(*bench_, keys::kDelete);
+  EXPECT_EQ(Stored(4), "") << "Del is an edit like another";
+  Back();
+  EXPECT_EQ(Stored(4), "15-Apr-2024");
+}
+
+TEST_F(TakingBack, WhatSomebodyElseHasChangedSinceStays) {
+  runtime_.Laid.Add({{"to", "date"}, {"date1", "01-Apr-2024"}, {"date2", "31-Mar-2025"}});
+  runtime_.Laid.Add({{"to", "message"}, {"button", 1}});
+  Do([&] { bench_->Call("MassMarking", {false}); });
+  EXPECT_EQ(Events("message").at(0)["title"], "01/04/2024 to 31/03/2025");
+  EXPECT_EQ(Books(), "05-Apr-2024|10-Apr-2024|12-Apr-2024|02-May-2024");
+  Db().Execute("update FAData set dBankDate='2024-04-30' where VoucherID=4 and dVchSubNo=1");
+  Choose(2);
+  ASSERT_EQ(Entries().Rows(), 2) << "all are marked, so none is shown";
+  Do([&] { bench_->UserFocus(Entries()); });
+  Back();
+  EXPECT_EQ(Said(), Texts{"2 dates taken back, 1 had been changed since."});
+  EXPECT_EQ(Books(), "|10-Apr-2024|30-Apr-2024|");
+  Choose(2);
+  EXPECT_EQ(RowTexts(Entries(), {0}), (Texts{"2", "5"})) << "rows that the filter had hidden follow too";
+  Do([&] { bench_->UserFocus(Entries()); });
+  Again();
+  EXPECT_EQ(Books(), "05-Apr-2024|10-Apr-2024|30-Apr-2024|02-May-2024");
+
+  Db().Execute(
+      "create trigger Keeps for FAData before update as declare x integer; begin if (old.VoucherID=2) then x=1/0; end");
+  Back();
+  EXPECT_EQ(Errors().size(), 1U);
+  EXPECT_EQ(Books(), "05-Apr-2024|10-Apr-2024|30-Apr-2024|02-May-2024") << "an act goes whole or not at all";
+  Db().Execute("drop trigger Keeps");
+  Back();
+  EXPECT_EQ(Books(), "|10-Apr-2024|30-Apr-2024|");
+}
+
+TEST_F(TakingBack, TheViewsShareTheListAndAnEditorKeepsItsOwn) {
+  EXPECT_TRUE(EditCell(Entries(), 1, kCleared, "6"));
+  AnswerDate("30-Apr-2024");
+  Key(*bench_, keys::kF6);
+  const int row = 3;  // below "Amounts Debited by us only:-"
+  ASSERT_EQ(StatementRows().TextMatrix(row, 10), "4");
+  EXPECT_TRUE(EditCell(StatementRows(), row, 6, "2/5"));
+  Do([&] { ASSERT_TRUE(StatementRows().UserEnterCell(row, 6)); });
+  TypeKeys(*bench_, "39");
+  Back();
+  EXPECT_EQ(StatementRows().EditBox.Text(), "3");
+  Back();
+  EXPECT_EQ(StatementRows().EditBox.Text(), "02-May-2024");
+  Again();
+  EXPECT_EQ(StatementRows().EditBox.Text(), "3");
+  Key(*bench_, keys::kEscape);
+  EXPECT_EQ(Stored(4), "02-May-2024");
+  Back();
+  EXPECT_EQ(Stored(4), "");
+  EXPECT_EQ(StatementRows().TextMatrix(row, 6), "");
+  EXPECT_EQ(Entries().TextMatrix(3, kCleared), "");
+  Back();
+  EXPECT_EQ(Stored(2), "");
+  EXPECT_EQ(Entries().TextMatrix(1, kCleared), "");
+}
+
+TEST_F(TakingBack, AMatchAndARemovedMarkInTheMarkings) {
+  Db().Execute("update FAData set dBankDate='2024-04-20' where VoucherID=2 and dcd=201");
+  const FormPtr page = desk_.Module().GetForm("acreconciliationmark");
+  page->Set("AccountCode", 101);
+  Do([&] { gApp->ShowForm(page); });
+  CGridPlus& rows = At<CGridPlus>(page, "Grid");
+  EXPECT_TRUE(EditCell(rows, 1, 2, "8/4/2024"));
+  EXPECT_TRUE(EditCell(rows, 1, 3, "470251"));
+  Key(*page, keys::kEscape);
+  EXPECT_EQ(Stored(2), "08-Apr-2024");
+  Do([&] { rows.UserMoveTo(1, 5); });
+  AnswerMessage();
+  Key(*page, keys::kF3);
+  EXPECT_EQ(Stored(2) + Stored(2, 2), "");
+  Back();
+  EXPECT_EQ(Stored(2) + "|" + Stored(2, 2), "08-Apr-2024|20-Apr-2024") << "every line that lost its mark";
+  Back();
+  EXPECT_EQ(Stored(2) + "|" + Stored(2, 2), "|20-Apr-2024");
+  Again();
+  EXPECT_EQ(Stored(2), "08-Apr-2024");
+  EXPECT_EQ(Said(), (Texts{"2 dates taken back.", "1 date taken back.", "1 date put back."}));
+}
+
+}  // namespace
+}  // namespace quillon
