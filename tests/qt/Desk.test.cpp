@@ -1,6 +1,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <algorithm>
@@ -273,12 +274,46 @@ TEST_F(DeskTest, TheStatementIsAskedForADateAndShownOnPages) {
     ASSERT_NE(preview, nullptr);
     pages = preview->Pages().Pages();
     found = preview->Pages().FindNext(QStringLiteral("balance"));
+    QTest::keyClick(preview, Qt::Key_F2);
+    EXPECT_NEAR(preview->Pages().width(), preview->Pages().parentWidget()->width(), 20) << "fits the width";
+    QTest::keyClick(preview, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_NE(dynamic_cast<QLineEdit*>(preview->focusWidget()), nullptr);
     QTest::keyClick(preview, Qt::Key_Escape);
   });
   QApplication::processEvents();
   EXPECT_GE(pages, 1U);
   EXPECT_TRUE(found);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(DeskTest, AnotherUserClosesTheScreensOnlyAfterAQuestion) {
+  OpenStatement();
+  const FormPtr first = runtime_.ActiveForm();
+  EXPECT_FALSE(window_.windowTitle().contains(QStringLiteral("Asha")));
+  const FormPtr second = gApp->GetForm("Account");
+  second->Set("AccountCode", gSession->MainDb().Lookup("FAMaster", "min(mcd)", "mhd like '%Traders%'"));
+  Acts::Run([&] { gApp->ShowForm(second); });
+  const std::string head = second->Get("FAMaster").ToObject()->Get("AcHead").ToText();
+  EXPECT_TRUE(window_.windowTitle().contains(QString::fromStdString(head)))
+      << "two of a kind tell whose they are";
+  QAction* act = nullptr;
+  for (QAction* each : window_.findChildren<QAction*>()) {
+    if (each->text() == QStringLiteral("&User …")) act = each;
+  }
+  ASSERT_NE(act, nullptr);
+  for (const Qt::Key answer : {Qt::Key_Escape, Qt::Key_Return}) {
+    QString asked;
+    Soon([&] {
+      auto* const users = dynamic_cast<QListWidget*>(QApplication::activeModalWidget()->focusWidget());
+      ASSERT_NE(users, nullptr);
+      QTest::keyClick(users, users->currentRow() == 0 ? Qt::Key_Down : Qt::Key_Up);
+      Soon([&] { asked = AnswerMessage(answer); });
+      QTest::keyClick(users, Qt::Key_F7);
+    });
+    act->trigger();
+    EXPECT_EQ(asked.toStdString(), "2 open screens are closed when another user goes on. Go on?");
+    EXPECT_EQ(first->IsLoaded() && second->IsLoaded(), answer == Qt::Key_Escape);
+  }
 }
 
 TEST_F(DeskTest, AFirmThatDoesNotOpenIsToldInPlainWords) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "books/SqlText.h"
 #include "desk/services/CrossReference.h"
 #include "desk/services/DateText.h"
 #include "desk/services/DeskStd.h"
@@ -89,6 +90,19 @@ void DeskApp::ShowForm(const FormPtr& form) { gRuntime->Show(form); }
 void DeskApp::RegisterForm(Form& form, const std::string& title, const std::string& iconKey) {
   windows_.push_back({&form, title, iconKey});
   form.QuillonForm = std::make_shared<WindowHandle>(title, iconKey);
+}
+
+std::string DeskApp::AccountBeside(Form& form) const {
+  constexpr const char* kMember = "AccountCode";
+  if (!form.HasMember(kMember)) return {};
+  const std::vector<FormPtr> forms = gRuntime->AllForms();
+  const auto alike = std::count_if(forms.begin(), forms.end(), [&](const FormPtr& other) {
+    return other->IsShownToUser() && other->Name() == form.Name();
+  });
+  if (alike < 2) return {};
+  return gSession->MainDb()
+      .Lookup("FAMaster", "mhd", "mcd=" + books::SqlNumber(form.Get(kMember).ToInteger()))
+      .ToText();
 }
 
 void DeskApp::UnregisterForm(Form& form) {

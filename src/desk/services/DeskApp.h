@@ -66,6 +66,9 @@ class DeskApp : public IApp {
 
   const std::vector<OpenWindow>& Windows() const { return windows_; }
 
+  /// The account of a screen where another one of its kind is open; else empty.
+  std::string AccountBeside(Form& form) const;
+
  private:
   class Window : public HostApp {
    public:

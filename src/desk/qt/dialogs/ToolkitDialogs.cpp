@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QSettings>
 
 #include "desk/qt/adapters/Scale.h"
 
@@ -12,6 +13,8 @@ namespace {
 
 constexpr long kWidth = 10200;
 constexpr long kHeight = 6600;
+
+QString LastFolder() { return QStringLiteral("lastFolder"); }
 
 /// Whether the user took something.
 bool Ask(QDialog& dialog, QWidget* below) {
@@ -23,10 +26,19 @@ bool Ask(QDialog& dialog, QWidget* below) {
 
 QString AskFiles(QFileDialog& dialog, QWidget* below) {
   if (!Ask(dialog, below)) return {};
-  return dialog.selectedFiles().value(0);
+  const QString file = dialog.selectedFiles().value(0);
+  QSettings().setValue(LastFolder(), QFileInfo(file).absolutePath());
+  return file;
 }
 
+/// A bare name lies where the user was last.
 void StartAt(QFileDialog& dialog, const QString& start) {
+  const QString last = QSettings().value(LastFolder()).toString();
+  if (!last.isEmpty() && QFileInfo(start).fileName() == start && QFileInfo(last).isDir()) {
+    dialog.setDirectory(last);
+    if (!start.isEmpty()) dialog.selectFile(start);
+    return;
+  }
   if (start.isEmpty()) return;
   const QFileInfo place(start);
   if (place.isDir()) {
@@ -60,7 +72,8 @@ QString ToolkitDialogs::Folder(QWidget* below, const QString& title) {
   QFileDialog dialog(below, title);
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
-  return AskFiles(dialog, below);
+  if (!Ask(dialog, below)) return {};
+  return dialog.selectedFiles().value(0);
 }
 
 bool ToolkitDialogs::ChooseFont(QWidget* below, QFont& font) {

@@ -199,6 +199,19 @@ void DeskWindow::AskFirm() {
   OpenFirmDialog([this](const QString& folder) { return OpenFirm(folder); }, this).exec();
 }
 
+/// With screens open the user is asked whether they may go.
+bool DeskWindow::MayCloseScreens(const std::string& why) {
+  const std::size_t open = desk_->App().Windows().size();
+  if (open == 0) return true;
+  const std::string screens = open == 1 ? "The open screen is" : std::to_string(open) + " open screens are";
+  MessageRequest request;
+  request.Text = screens + " closed when " + why + ". Go on?";
+  request.Icon = "Q";
+  request.Buttons = {"Yes", "No"};
+  request.Title = "Quillon";
+  return runtime_.AskMessage(request) == 1;
+}
+
 void DeskWindow::AskYear() {
   const std::vector<int> years = desk_->Session().Books().Years();
   const int open = desk_->Session().Year().StartYear();
@@ -209,7 +222,8 @@ void DeskWindow::AskYear() {
     lines << QString::fromStdString(YearName(year));
   }
   ChoiceDialog dialog(QStringLiteral("Financial Year"), lines, chosen, this);
-  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.exec() != QDialog::Accepted || dialog.Line() == chosen) return;
+  if (!MayCloseScreens("another year is opened")) return;
   const QString fault = OpenFirm(folder_, QString::fromStdString(desk_->Session().CurrentUser().Name),
                                  years[static_cast<std::size_t>(dialog.Line())]);
   if (!fault.isEmpty()) Tell(fault);
@@ -226,7 +240,8 @@ void DeskWindow::AskUser() {
   users.Close();
   if (names.isEmpty()) names << now;
   ChoiceDialog dialog(QStringLiteral("User"), names, static_cast<int>(names.indexOf(now)), this);
-  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.exec() != QDialog::Accepted || names[dialog.Line()] == now) return;
+  if (!MayCloseScreens("another user goes on")) return;
   const QString fault = OpenFirm(folder_, names[dialog.Line()], desk_->Session().Year().StartYear());
   if (!fault.isEmpty()) Tell(fault);
 }
@@ -316,6 +331,10 @@ void DeskWindow::ShowPage() {
   // The title names the screen, so that the list of windows and a screen reader tell where one is.
   QStringList parts;
   if (screen) parts << area_->Top()->windowTitle().simplified();
+  if (screen && top && desk_ && desk_->HasFirm()) {
+    const std::string account = desk_->App().AccountBeside(*top);
+    if (!account.empty()) parts << QString::fromStdString(account);
+  }
   if (desk_ && desk_->HasFirm()) parts << QString::fromStdString(desk_->Session().FirmName());
   parts << QStringLiteral("Quillon");
   setWindowTitle(parts.join(QStringLiteral(" - ")));

@@ -78,6 +78,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   void ShowBusy(bool on, const std::string& text);
   void ShowWaiting(bool on);
   void ShowState();
+  bool MayCloseScreens(const std::string& why);
   void ShowPage();
   void TakeArea();
   void Tell(const QString& text);

@@ -118,7 +118,9 @@ void DeskWindow::FillWindows(QMenu& menu) {
   int number = 0;
   for (const OpenWindow& open : desk_->App().Windows()) {
     const FormPtr form = open.Window->Self();
-    const QString title = QString::fromStdString(open.Title).replace(QLatin1Char('&'), QLatin1String("&&"));
+    const std::string account = desk_->App().AccountBeside(*open.Window);
+    const QString title = QString::fromStdString(account.empty() ? open.Title : open.Title + ": " + account)
+                              .replace(QLatin1Char('&'), QLatin1String("&&"));
     QAction* const act = menu.addAction(Icons::ForMenu(QString::fromStdString(open.IconKey)),
                                         QStringLiteral("&%1   %2").arg(++number).arg(title));
     act->setCheckable(true);

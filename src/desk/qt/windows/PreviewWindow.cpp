@@ -1,12 +1,16 @@
 #include "desk/qt/windows/PreviewWindow.h"
 
+#include <QDesktopServices>
 #include <QFile>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSaveFile>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QUrl>
+#include <QWheelEvent>
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -17,6 +21,8 @@
 #include "desk/qt/adapters/ElidedLabel.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
+#include "desk/qt/dialogs/InputDialog.h"
+#include "desk/qt/dialogs/MessageDialog.h"
 #include "desk/qt/dialogs/PrintDialog.h"
 #include "desk/qt/dialogs/ToolkitDialogs.h"
 #include "desk/qt/windows/PageView.h"
@@ -42,14 +48,16 @@ PreviewWindow::PreviewWindow(ReportCopy report, QWidget* parent)
   AddTool(QStringLiteral("F9: Print"), QStringLiteral("print"), [this] { Print(); });
   AddTool(QStringLiteral("F5: Save as PDF"), QStringLiteral("save"), [this] { SavePdf(); });
   AddTool(QStringLiteral("F6: Save as CSV"), QStringLiteral("acstatement"), [this] { SaveCsv(); });
-  search_->setPlaceholderText(QStringLiteral("Search (F3: next)"));
+  search_->setPlaceholderText(QStringLiteral("Ctrl+F: Search, F3: next"));
   search_->setAccessibleName(QStringLiteral("Search"));
   search_->setMaximumWidth(Scale::Px(3300));
+  area_->viewport()->installEventFilter(this);
   // A long path must neither widen the window nor take the room of the search.
   state_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   search_->setMinimumWidth(Scale::Px(1800));
   Tools().addWidget(search_);
   Tools().addWidget(state_, 1);
+  AddTool(QStringLiteral("F2: Width"), QString(), [this] { FitWidth(); });
   AddTool(QStringLiteral("F7: Smaller"), QString(), [this] { Zoom(-1); });
   AddTool(QStringLiteral("F8: Larger"), QString(), [this] { Zoom(1); });
   AddTool(QStringLiteral("Esc: Close"), QStringLiteral("close"), [this] { reject(); });
@@ -70,10 +78,28 @@ void PreviewWindow::Tell(const QString& text) {
   state_->setToolTip(text);
 }
 
+void PreviewWindow::TellFailure(const QString& text) {
+  MessageRequest request;
+  request.Text = text.toStdString();
+  request.Icon = "E";
+  request.Buttons = {"OK"};
+  request.Title = windowTitle().toStdString();
+  MessageDialog(request, this).exec();
+}
+
+void PreviewWindow::FitWidth() {
+  const int room = area_->viewport()->width();
+  pages_->SetPercent(
+      std::clamp(pages_->Percent() * room / std::max(pages_->width(), 1), kZooms.front(), kZooms.back()));
+  ShowState();
+}
+
 void PreviewWindow::Zoom(int step) {
-  const auto here = std::find(kZooms.begin(), kZooms.end(), pages_->Percent());
-  const auto at = std::clamp<std::ptrdiff_t>(here - kZooms.begin() + step, 0, std::ssize(kZooms) - 1);
-  pages_->SetPercent(kZooms[static_cast<std::size_t>(at)]);
+  // Fitted to the width it may stand between two steps.
+  const auto* next = step > 0 ? std::upper_bound(kZooms.begin(), kZooms.end(), pages_->Percent())
+                              : std::lower_bound(kZooms.begin(), kZooms.end(), pages_->Percent());
+  if (step > 0 ? next == kZooms.end() : next == kZooms.begin()) return;
+  pages_->SetPercent(step > 0 ? *next : *std::prev(next));
   ShowState();
 }
 
@@ -91,8 +117,21 @@ void PreviewWindow::Find() {
 
 void PreviewWindow::GoToPage(int step) {
   const auto here = static_cast<int>(pages_->PageAt(area_->verticalScrollBar()->value() + 1));
-  const int page = std::clamp(here + step, 0, static_cast<int>(pages_->Pages()) - 1);
-  area_->verticalScrollBar()->setValue(pages_->PageTop(static_cast<std::size_t>(page)));
+  ShowPage(here + step);
+}
+
+void PreviewWindow::ShowPage(int page) {
+  const int shown = std::clamp(page, 0, static_cast<int>(pages_->Pages()) - 1);
+  area_->verticalScrollBar()->setValue(pages_->PageTop(static_cast<std::size_t>(shown)));
+}
+
+void PreviewWindow::AskPage() {
+  InputRequest request;
+  request.Prompt = "Page, 1 to " + std::to_string(pages_->Pages());
+  request.Title = "Go to Page";
+  InputDialog dialog(request, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  if (const int page = QString::fromStdString(dialog.Text()).toInt(); page > 0) ShowPage(page - 1);
 }
 
 void PreviewWindow::Print() {
@@ -121,7 +160,7 @@ void PreviewWindow::Print() {
     Tell(QString::fromStdString("Sent to " + printer +
                                 (corrected.empty() ? "" : ", corrected by " + corrected)));
   } catch (const HostError& error) {
-    Tell(QString::fromStdString(error.what()));
+    TellFailure(QString::fromStdString(error.what()));
   }
 }
 
@@ -163,8 +202,20 @@ void PreviewWindow::Write(const QString& file, const QByteArray& bytes) {
   QSaveFile out(file);
   const bool written =
       out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size() && out.flush() && out.commit();
-  Tell(written ? QStringLiteral("Saved as %1").arg(file)
-               : QStringLiteral("%1 cannot be written: %2").arg(file, out.errorString()));
+  if (!written) {
+    TellFailure(QStringLiteral("%1 cannot be written: %2").arg(file, out.errorString()));
+    return;
+  }
+  saved_ = file;
+  Tell(QStringLiteral("Saved as %1   (F4: its folder)").arg(file));
+}
+
+void PreviewWindow::OpenFolder() {
+  if (saved_.isEmpty()) {
+    Tell(QStringLiteral("Nothing is saved yet."));
+  } else if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(saved_).absolutePath()))) {
+    TellFailure(QStringLiteral("No program shows folders here. The file is %1").arg(saved_));
+  }
 }
 
 void PreviewWindow::SavePdf() { SavePages(report_.File); }
@@ -172,7 +223,7 @@ void PreviewWindow::SavePdf() { SavePages(report_.File); }
 void PreviewWindow::SavePages(const std::string& file) {
   QFile pages(QString::fromStdString(file));
   if (!pages.open(QIODevice::ReadOnly)) {
-    Tell(QStringLiteral("The pages cannot be read: %1").arg(pages.errorString()));
+    TellFailure(QStringLiteral("The pages cannot be read: %1").arg(pages.errorString()));
     return;
   }
   Write(AskName(QStringLiteral("Save as PDF"), QStringLiteral(".pdf")), pages.readAll());
@@ -183,8 +234,32 @@ void PreviewWindow::SaveCsv() {
         QByteArray::fromStdString(report_.Csv));
 }
 
+bool PreviewWindow::GoByKey(const QKeyEvent& event) {
+  const bool held = event.modifiers() == Qt::ControlModifier;
+  if (held && event.key() == Qt::Key_F) {
+    search_->setFocus();
+    search_->selectAll();
+  } else if (held && event.key() == Qt::Key_G) {
+    AskPage();
+  } else if (event.key() == Qt::Key_Home) {
+    ShowPage(0);
+  } else if (event.key() == Qt::Key_End) {
+    ShowPage(static_cast<int>(pages_->Pages()) - 1);
+  } else {
+    return false;
+  }
+  return true;
+}
+
 void PreviewWindow::keyPressEvent(QKeyEvent* event) {
+  if (GoByKey(*event)) return;
   switch (event->key()) {
+    case Qt::Key_F2:
+      FitWidth();
+      break;
+    case Qt::Key_F4:
+      OpenFolder();
+      break;
     case Qt::Key_F3:
       Find();
       break;
@@ -215,6 +290,26 @@ void PreviewWindow::keyPressEvent(QKeyEvent* event) {
     default:
       QDialog::keyPressEvent(event);
   }
+}
+
+void PreviewWindow::wheelEvent(QWheelEvent* event) {
+  if (event->modifiers() != Qt::ControlModifier || event->angleDelta().y() == 0) {
+    QDialog::wheelEvent(event);
+  } else {
+    Zoom(event->angleDelta().y() > 0 ? 1 : -1);
+  }
+}
+
+/// With Ctrl the wheel is not the scroll bar's.
+bool PreviewWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Wheel) {
+    auto* const wheel = static_cast<QWheelEvent*>(event);
+    if (wheel->modifiers() == Qt::ControlModifier) {
+      wheelEvent(wheel);
+      return true;
+    }
+  }
+  return PagesWindow::eventFilter(watched, event);
 }
 
 void PreviewWindow::done(int result) {

@@ -18,19 +18,33 @@ class PreviewWindow : public PagesWindow {
 
   PageView& Pages() { return *pages_; }
   void Zoom(int step);
+  void FitWidth();
   void Find();
+
+  /// By so many pages from the one at the top.
   void GoToPage(int step);
+
+  /// To a page, counted from 0; the last one for a number behind it.
+  void ShowPage(int page);
+  void AskPage();
   void Print();
   void SavePdf();
   void SaveCsv();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void done(int result) override;
 
  private:
   void ShowState();
   void Tell(const QString& text);
+
+  /// What failed, in a box that waits to be read.
+  void TellFailure(const QString& text);
+  bool GoByKey(const QKeyEvent& event);
+  void OpenFolder();
 
   /// The chosen name, or nothing.
   QString AskName(const QString& title, const QString& suffix);
@@ -45,6 +59,7 @@ class PreviewWindow : public PagesWindow {
   ReportCopy report_;
   QLineEdit* search_;
   QLabel* state_;
+  QString saved_;  // the file written last
 };
 
 }  // namespace quillon
