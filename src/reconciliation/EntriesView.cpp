@@ -210,10 +210,14 @@ void EntriesView::ZoomRow() { OpenVoucherOf(kVoucherId); }
 void EntriesView::RowChange(int row) {
   ForgetEdit();
   if (row < 1) return;
-  // Read as plain numbers, so up to the first comma.
-  account_.ShowOtherSide(ValInteger(grid_.Cell(row, kVoucherId)),
-                         Amount::OfText(grid_.Cell(row, kDebit)) - Amount::OfText(grid_.Cell(row, kCredit)));
+  ShowOtherSide();
   ShowReturned();
+}
+
+/// Read as plain numbers, so up to the first comma.
+WorkbenchView::Sided EntriesView::SidedOf(int row) const {
+  return {ValInteger(grid_.Cell(row, kVoucherId)),
+          Amount::OfText(grid_.Cell(row, kDebit)) - Amount::OfText(grid_.Cell(row, kCredit))};
 }
 
 /// The box shows the row under the cursor; while it is hidden, setting it stores nothing.

@@ -44,6 +44,7 @@ class EntriesView : public DatedView {
  protected:
   bool IsAccepted(Date date) const override;
   void Stored(const books::EntryKey& entry, int row, const std::string& dateText) override;
+  Sided SidedOf(int row) const override;
 
  private:
   /// What was stored from here, and how often the statement had read its marks by then.

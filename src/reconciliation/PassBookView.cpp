@@ -29,7 +29,9 @@ void ShowAmount(CGridPlus& grid, int row, Amount inBooks) {
 }  // namespace
 
 PassBookView::PassBookView(WorkbenchAccount& account, CGridPlus& grid) : WorkbenchView(account, grid) {
-  grid_.RowChange = [this](int row) { RowChange(row); };
+  grid_.RowChange = [this](int row) {
+    if (row >= 1) ShowOtherSide();
+  };
   grid_.DblClick = [this] { ZoomRow(); };
   grid_.KeyDown = [this](KeyEvent& key) {
     if (key.KeyCode != keys::kEnter || key.Shift != 0) return;
@@ -129,11 +131,10 @@ void PassBookView::AddBalances() {
   grid_.Footer.SetTextMatrix(0, kBalance, gStd->FormatAmount(withdrawals - deposits, "c2"));
 }
 
-void PassBookView::RowChange(int row) {
-  if (row < 1) return;
-  // Read as plain numbers, so up to the first comma.
-  const Amount amount = Amount::OfText(grid_.Cell(row, kCredit)) - Amount::OfText(grid_.Cell(row, kDebit));
-  account_.ShowOtherSide(ValInteger(grid_.Cell(row, kVoucherId)), amount);
+/// Read as plain numbers, so up to the first comma.
+WorkbenchView::Sided PassBookView::SidedOf(int row) const {
+  return {ValInteger(grid_.Cell(row, kVoucherId)),
+          Amount::OfText(grid_.Cell(row, kCredit)) - Amount::OfText(grid_.Cell(row, kDebit))};
 }
 
 }  // namespace quillon

@@ -16,13 +16,15 @@ class PassBookView : public WorkbenchView {
   /// Opens the row's voucher.
   void ZoomRow() override;
 
+ protected:
+  Sided SidedOf(int row) const override;
+
  private:
   void SetColumns();
   void Fill();
   int AddOpening(Amount opening);
   void AddEntry(CDataSet& entry, int row);
   void AddBalances();
-  void RowChange(int row);
 };
 
 }  // namespace quillon

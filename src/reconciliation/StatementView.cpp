@@ -229,11 +229,13 @@ void StatementView::Stored(const books::EntryKey& entry, int /*row*/, const std:
 
 void StatementView::RowChange(int row) {
   ForgetEdit();
-  if (row < 1) return;
-  // The sign column is empty in the third and fourth sections, which makes the amount 0 there.
-  const Amount amount =
-      Amount::OfText(grid_.Cell(row, col::kAmount)) * ValInteger(grid_.Cell(row, col::kSign));
-  account_.ShowOtherSide(EntryOf(row).Voucher, amount);
+  if (row >= 1) ShowOtherSide();
+}
+
+/// The sign column is empty in the third and fourth sections, which makes the amount 0 there.
+WorkbenchView::Sided StatementView::SidedOf(int row) const {
+  return {EntryOf(row).Voucher,
+          Amount::OfText(grid_.Cell(row, col::kAmount)) * ValInteger(grid_.Cell(row, col::kSign))};
 }
 
 void StatementView::ZoomRow() {

@@ -32,6 +32,7 @@ class StatementView : public DatedView {
 
  protected:
   void Stored(const books::EntryKey& entry, int row, const std::string& dateText) override;
+  Sided SidedOf(int row) const override;
 
  private:
   struct Section;

@@ -13,6 +13,12 @@ void WorkbenchView::Report(CReportOptions& options, const std::string& subtitle,
   gReports->ShowGrid(grid_, &options, grid_.Title, subtitle, kRuling, print);
 }
 
+void WorkbenchView::ShowOtherSide() {
+  const bool hasRow = grid_.Row >= 1 && grid_.Row < grid_.Rows;
+  const Sided sided = hasRow ? SidedOf(grid_.Row) : Sided();
+  account_.ShowOtherSide(sided.Voucher, sided.Side);
+}
+
 void WorkbenchView::OpenVoucherOf(int voucherColumn) const {
   if (grid_.Row >= 1) account_.OpenVoucher(ValInteger(grid_.Cell(grid_.Row, voucherColumn)));
 }

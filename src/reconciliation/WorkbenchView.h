@@ -19,10 +19,20 @@ class WorkbenchView {
   /// Goes on from the current row: to its voucher, or to its cleared date.
   virtual void ZoomRow() {}
 
+  /// The other side of the current row, by the view's own rule; none where there is no row.
+  void ShowOtherSide();
+
   /// Hands the grid to the report, with its title.
   virtual void Report(CReportOptions& options, const std::string& subtitle, bool print);
 
  protected:
+  /// Whose other side a row asks for: the voucher, and on which side the row itself stands.
+  struct Sided {
+    std::int64_t Voucher = 0;
+    Amount Side;
+  };
+  virtual Sided SidedOf(int /*row*/) const { return {}; }
+
   /// Opens the voucher that stands in that column of the current row.
   void OpenVoucherOf(int voucherColumn) const;
 

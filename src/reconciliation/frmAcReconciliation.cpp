@@ -166,6 +166,7 @@ void frmAcReconciliation::ShowView(WorkbenchView& view, const char* button) {
   }
   view.Grid().Visible = true;
   view.Grid().SetFocus();
+  view.ShowOtherSide();
   BtnBar1.Buttons(button).SetEnabled(false);
   UpdateRefButton();
 }
@@ -209,6 +210,7 @@ void frmAcReconciliation::ZoomRow() {
 void frmAcReconciliation::ShowEntries() {
   HideGrids();
   entries_.Show();
+  entries_.ShowOtherSide();
   interest_.SetSource(account_.Statement(), false);
   BtnBar1.EnableButtons({0, 1, 2, 3, 4, 5});
   UpdateRefButton();
