@@ -25,6 +25,7 @@ constexpr ScreenSpec kScreen = {
     .iconKey = "Modify",
     .firstKey = keys::kF2,
     .lastKey = keys::kF9,
+    .helpContext = 13,
 };
 
 constexpr long kCancelledColor = 13359855;
@@ -295,6 +296,10 @@ void frmChqLeaves::ConfirmRange() {
 
 bool frmChqLeaves::AddLeaves() {
   if (txpRecDate.Text->empty()) return Refuse(txpRecDate, "Enter rct. date");
+  if (!txpRecDate.MayLeave()) {
+    txpRecDate.SetFocus();
+    return false;
+  }
   CDbLink& db = gSession->MainDb();
   const std::string bank = books::SqlNumber(BankCode);
   const std::string existing = db.Lookup("CHQLEAVES", "LIST(CHQNO)",

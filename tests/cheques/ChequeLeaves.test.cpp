@@ -121,7 +121,13 @@ TEST_F(ChequeLeaves, ABookIsReceivedWholeOrNotAtAll) {
     EXPECT_TRUE(At<CTextPlus>(form_, each.field).HasFocus()) << each.why;
   }
   AnswerMessage();
-  Run("9", "12", "5/4");
+  Do([&] { At<CTextPlus>(form_, "txpRecDate").TextBox.UserType("31/2"); });
+  Key(*form_, keys::kF7);
+  EXPECT_EQ(Messages(), Texts{"Invalid Date"});
+  EXPECT_TRUE(At<CTextPlus>(form_, "txpRecDate").HasFocus());
+  Type("txpRecDate", "5/4");
+  AnswerMessage();
+  Run("9", "12");
   EXPECT_EQ(Messages(), Texts{"Following cheque no. already exists: \r\n9"});
   EXPECT_EQ(Count(), 3);
   AnswerMessage();
@@ -208,7 +214,8 @@ TEST_F(ChequeLeaves, AFilterIsKeptUntilItIsChanged) {
   Type("txpChqNo1", "");
   Type("txpChqNo2", "8");
   runtime_.Laid.Add({{"to", "parties"}, {"clause", "M.mst='Surat'"}, {"caption", "Station: Surat"}});
-  Do([&] { At<CTextPlus>(form_, "txpParties").UserPickButton(); });
+  Do([&] { form_->UserFocus(At<CTextPlus>(form_, "txpParties")); });
+  Key(*form_, keys::kDown);
   EXPECT_EQ(At<CTextPlus>(form_, "txpParties").Text(), "Station: Surat");
   Key(*form_, keys::kF7);
   EXPECT_EQ(Numbers(), "8 ");

@@ -18,6 +18,14 @@ bool IsOfTheBox(const std::string& member) {
 CTextPlus::CTextPlus(Control& parent, std::string name, int index)
     : Control(parent, std::move(name), index), TextBox(*this, "TextBox", kNoIndex, false) {}
 
+/// The arrow down is the pick button's, where the field has one.
+bool CTextPlus::HandleKey(const KeyEvent& key) {
+  if (TextBox.HandleKey(key)) return true;
+  if (!PickButton || key.KeyCode != keys::kDown || key.Shift != 0) return false;
+  UserPickButton();
+  return true;
+}
+
 void CTextPlus::EnterFocus() {
   TextBox.SelectAll();
   Control::EnterFocus();

@@ -37,7 +37,7 @@ class CTextPlus : public Control {
   bool CanTakeFocus() const override { return true; }
   bool KeepsEnter() const override { return SuppressEnter || TextBox.KeepsEnter(); }
   quillon::TextBox* TypedBox() override { return &TextBox; }
-  bool HandleKey(const KeyEvent& key) override { return TextBox.HandleKey(key); }
+  bool HandleKey(const KeyEvent& key) override;
   void HandleChar(int character) override { TextBox.HandleChar(character); }
   void EnterFocus() override;
   void LeaveFocus() override;

@@ -20,6 +20,7 @@ TextFieldAdapter::TextFieldAdapter(CTextPlus& model, QWidget* parent)
   pick_->setFocusPolicy(Qt::NoFocus);
   pick_->setIcon(Icons::Of(QStringLiteral("search")));
   pick_->setAccessibleName(QStringLiteral("Pick"));
+  pick_->setToolTip(QStringLiteral("Arrow down"));
   connect(pick_, &QToolButton::clicked, this, [this] { Acts::Run([this] { field_.UserPickButton(); }); });
   field_.TextBox.AddListener(*this);
 }
