@@ -17,12 +17,23 @@ constexpr long kIcon = 480;
 constexpr long kWidest = 7500;
 constexpr long kNarrowest = 3000;
 constexpr long kDetails = 1800;
+constexpr qsizetype kLongestUnbroken = 60;
+constexpr char16_t kBreak = u'\u200B';
 
 QString PictureOf(const std::string& icon) {
   if (icon == "Q") return QStringLiteral("question");
   if (icon == "W") return QStringLiteral("warning");
   if (icon == "E") return QStringLiteral("error");
   return QStringLiteral("information");
+}
+
+/// Lists and paths without blanks may break behind their commas and slashes.
+QString WithBreaks(const QString& text) {
+  QString shown = text;
+  if (text.size() > kLongestUnbroken) {
+    for (const char16_t mark : {u',', u'/'}) shown.replace(QChar(mark), QString(QChar(mark)) + QChar(kBreak));
+  }
+  return shown;
 }
 
 }  // namespace
@@ -36,7 +47,7 @@ MessageDialog::MessageDialog(const MessageRequest& request, QWidget* parent)
   icon->setAccessibleName(PictureOf(request.Icon));
   line->addWidget(icon, 0, Qt::AlignTop);
   line->addSpacing(Scale::Px(kIcon) / 3);
-  auto* const text = new QLabel(QString::fromStdString(request.Text), this);
+  auto* const text = new QLabel(WithBreaks(QString::fromStdString(request.Text)), this);
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -45,7 +56,7 @@ MessageDialog::MessageDialog(const MessageRequest& request, QWidget* parent)
   text->setMinimumSize(std::max(needed.width() + 2, Scale::Px(kNarrowest)), needed.height());
   line->addWidget(text, 1, Qt::AlignVCenter);
   Content().addLayout(line);
-  setAccessibleDescription(text->text());
+  setAccessibleDescription(QString::fromStdString(request.Text));
   if (!request.Details.empty()) AddDetails(QString::fromStdString(request.Details));
   for (std::size_t i = 0; i < request.Buttons.size(); ++i) {
     const int number = static_cast<int>(i) + 1;

@@ -1,5 +1,6 @@
 #include "desk/qt/windows/PagesWindow.h"
 
+#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -27,7 +28,7 @@ PagesWindow::PagesWindow(const QString& title, QWidget* parent)
   area_->setBackgroundRole(QPalette::Mid);
   area_->setFocusPolicy(Qt::StrongFocus);
   all->addWidget(area_, 1);
-  resize(Scale::Px(kWidth), Scale::Px(kHeight));
+  resize(QSize(Scale::Px(kWidth), Scale::Px(kHeight)).boundedTo(screen()->availableSize()));
 }
 
 void PagesWindow::ShowPages(const ReportPages& pages) {
