@@ -120,6 +120,29 @@ TEST_F(FormsTest, AMessageTakesItsDefaultByEnterAndTheLastButtonByEsc) {
   EXPECT_EQ(runtime_.AskMessage(first), 1);
 }
 
+TEST_F(FormsTest, AMessageStaysOnTheScreenWhateverItLists) {
+  MessageRequest request{"Following cheque no. already exists: \r\n470301", "W", {"OK"}, "Quillon", 1};
+  for (int number = 470302; number < 470402; ++number) request.Text += "," + std::to_string(number);
+  QRect needed;
+  Soon([&] {
+    needed = QApplication::activeModalWidget()->geometry();
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+  });
+  runtime_.AskMessage(request);
+  EXPECT_LT(needed.width(), 700);
+  EXPECT_LT(needed.height(), 400);
+}
+
+TEST_F(FormsTest, AFontThatNobodyChangesIsAnsweredAsItWas) {
+  for (const Font& given :
+       {Font{"Tahoma", 9.75, true, false, false}, Font{"Times New Roman", 8.25, false, true, true}}) {
+    Font font = given;
+    Soon([] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_F7); });
+    ASSERT_TRUE(runtime_.AskFont(font));
+    EXPECT_EQ(font, given);
+  }
+}
+
 TEST_F(FormsTest, WhatOnlyAnExpertReadsStandsBehindDetails) {
   MessageRequest request{"The books cannot be reached.", "E", {"Try again", "Cancel"}, "Quillon", 1};
   request.Details = "SQLSTATE 08006: connection lost";

@@ -2,7 +2,6 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDialog>
 #include <QSettings>
 
 #include "desk/qt/adapters/Scale.h"
@@ -74,13 +73,6 @@ QString ToolkitDialogs::Folder(QWidget* below, const QString& title) {
   dialog.setOption(QFileDialog::ShowDirsOnly);
   if (!Ask(dialog, below)) return {};
   return dialog.selectedFiles().value(0);
-}
-
-bool ToolkitDialogs::ChooseFont(QWidget* below, QFont& font) {
-  QFontDialog dialog(font, below);
-  if (!Ask(dialog, below)) return false;
-  font = dialog.selectedFont();
-  return true;
 }
 
 }  // namespace quillon

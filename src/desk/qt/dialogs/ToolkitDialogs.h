@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QFont>
 #include <QString>
 
 class QWidget;
 
 namespace quillon {
 
-/// The toolkit's dialogs for files and fonts, at the size of the desk's zoom. Afterwards the window below has
+/// The toolkit's dialogs for files, at the size of the desk's zoom. Afterwards the window below has
 /// the keys again, which they leave nowhere where no window manager is.
 class ToolkitDialogs {
  public:
@@ -17,9 +16,6 @@ class ToolkitDialogs {
 
   /// An existing folder, or nothing.
   static QString Folder(QWidget* below, const QString& title);
-
-  /// False when the user took none.
-  static bool ChooseFont(QWidget* below, QFont& font);
 };
 
 }  // namespace quillon

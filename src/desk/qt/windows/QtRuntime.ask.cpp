@@ -5,6 +5,7 @@
 #include "desk/print/Fonts.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/dialogs/DateDialog.h"
+#include "desk/qt/dialogs/FontDialog.h"
 #include "desk/qt/dialogs/InputDialog.h"
 #include "desk/qt/dialogs/KeysDialog.h"
 #include "desk/qt/dialogs/MessageDialog.h"
@@ -63,14 +64,9 @@ bool QtRuntime::AskFile(const FileRequest& request, std::string& path) {
 
 bool QtRuntime::AskFont(Font& font) {
   const PointerRest rest(*this);
-  QFont chosen(QString::fromStdString(font.Name));
-  chosen.setPointSizeF(font.Size);
-  chosen.setBold(font.Bold);
-  chosen.setItalic(font.Italic);
-  chosen.setUnderline(font.Underline);
-  if (!ToolkitDialogs::ChooseFont(TopWindow(), chosen)) return false;
-  font = {chosen.family().toStdString(), chosen.pointSizeF(), chosen.bold(), chosen.italic(),
-          chosen.underline()};
+  FontDialog dialog(font, TopWindow());
+  if (dialog.exec() != QDialog::Accepted) return false;
+  font = dialog.Chosen();
   return true;
 }
 
