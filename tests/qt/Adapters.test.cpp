@@ -80,6 +80,17 @@ TEST_F(AdaptersTest, TakePlaceColourAndStateFromTheModels) {
   runtime_.Replace();
 }
 
+TEST_F(AdaptersTest, ATickedFieldShowsThatItHasTheFocus) {
+  for (Control* field : std::initializer_list<Control*>{&form_->chkOn, &form_->optFirst}) {
+    auto& widget = WidgetOf<QWidget>(*field);
+    form_->txtLine.SetFocus();
+    const QImage before = widget.grab().toImage();
+    field->SetFocus();
+    runtime_.ViewOf(*form_)->Settle();
+    EXPECT_NE(widget.grab().toImage(), before) << field->Name();
+  }
+}
+
 TEST_F(AdaptersTest, MouseReachesTheModels) {
   int clicks = 0;
   form_->lblText.Click = [&] { ++clicks; };

@@ -80,6 +80,11 @@ TEST_F(SurfacesTest, LinesLieBehindTheTextsAndAreTakenAway) {
   EXPECT_EQ(Dot(1440, 1350), Theme::Accent()) << "the chosen text covers the line";
   QLabel& label = WidgetOf<QLabel>(form_->Lbl(1));
   EXPECT_EQ(label.palette().color(QPalette::WindowText), Theme::Surface());
+  form_->Lbl(1).BackColor = 0xFFFFFF;
+  form_->Lbl(0).BackColor = colors::kHighlight;
+  form_->Lbl(0).Top = 1050;
+  EXPECT_EQ(Dot(1440, 1350), Theme::Accent()) << "and the other texts";
+  form_->Lbl(0).Top = 300;
   form_->Lbl(1).Left = 6000;
   EXPECT_EQ(Dot(1440, 1350), QColor(0xFF, 0x96, 0x96)) << "moved, it leaves the line as it was";
   form_->ClearLines();
@@ -92,8 +97,13 @@ TEST_F(SurfacesTest, TextsOfSeveralLinesStandFromTheTopAndStayInTheirPlace) {
   EXPECT_GT(Ink(300, 300, 3000, 210), 40);
   EXPECT_GT(Ink(300, 510, 3000, 210), 40) << "the second line";
   EXPECT_EQ(Ink(300, 900, 3000, 150), 0) << "what does not fit is cut at the label's edge";
-  form_->Lbl(0).Height = 1800;
   form_->Lbl(1).Visible = false;
+  form_->Lbl(0).Caption =
+      "From: -\r\n   Harbour Mills\r\n   12, Dock Road\r\n   East\r\n   Kandla\r\n   Gujarat\r\n   12345";
+  form_->Lbl(0).Height = 1365;
+  EXPECT_GT(Ink(300, 1590, 3000, 60), 5) << "the foot of the seventh line";
+  form_->Lbl(0).Caption = "Harbour Mills\r\n12, Dock Road\r\nKandla\r\nGujarat";
+  form_->Lbl(0).Height = 1800;
   EXPECT_GT(Ink(300, 930, 3000, 210), 40);
   EXPECT_GT(Ink(330, 3180, 3000, 210), 40);
   EXPECT_GT(Ink(330, 3390, 3000, 210), 40);

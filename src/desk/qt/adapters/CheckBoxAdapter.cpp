@@ -2,10 +2,12 @@
 
 #include <QCheckBox>
 
+#include "desk/qt/adapters/MarkedField.h"
+
 namespace quillon {
 
 CheckBoxAdapter::CheckBoxAdapter(CheckBox& model, QWidget* parent)
-    : Adapter(model, new QCheckBox(parent)), box_(model) {
+    : Adapter(model, new MarkedField<QCheckBox>(model, parent)), box_(model) {
   TakeClicks();
 }
 

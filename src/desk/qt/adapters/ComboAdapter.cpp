@@ -3,37 +3,15 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
-#include <QPainter>
 
 #include "desk/qt/adapters/Acts.h"
-#include "desk/qt/adapters/Theme.h"
+#include "desk/qt/adapters/MarkedField.h"
 #include "host/forms/Form.h"
 
 namespace quillon {
 
-namespace {
-
-/// The list of a combo box, with the desk's mark of the focus.
-class ComboField : public QComboBox {
- public:
-  ComboField(const ComboBox& model, QWidget* parent) : QComboBox(parent), model_(model) {}
-
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    QComboBox::paintEvent(event);
-    if (!model_.HasFocus()) return;
-    QPainter painter(this);
-    Theme::DrawEdge(painter, rect(), true);
-  }
-
- private:
-  const ComboBox& model_;
-};
-
-}  // namespace
-
 ComboAdapter::ComboAdapter(ComboBox& model, QWidget* parent)
-    : Adapter(model, new ComboField(model, parent)), combo_(model) {
+    : Adapter(model, new MarkedField<QComboBox>(model, parent)), combo_(model) {
   auto& shown = static_cast<QComboBox&>(Widget());
   Widget().installEventFilter(this);
   connect(&shown, &QComboBox::activated, this, [this](int item) {

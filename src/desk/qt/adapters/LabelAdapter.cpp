@@ -5,6 +5,7 @@
 #include "desk/qt/adapters/Acts.h"
 #include "desk/qt/adapters/ElidedLabel.h"
 #include "desk/qt/adapters/Theme.h"
+#include "host/controls/Colors.h"
 
 namespace quillon {
 
@@ -50,6 +51,17 @@ void LabelAdapter::Draw() {
   shown.setText(caption);
   shown.setWordWrap(label_.WordWrap);
   shown.setAlignment(AlignmentOf(label_.Alignment) | (fromTop ? Qt::AlignTop : Qt::AlignVCenter));
+}
+
+/// An object that is chosen among others lies above them, and below all that is no label.
+void LabelAdapter::Settle() {
+  if (label_.BackColor != colors::kHighlight) return;
+  const QObjectList& siblings = Widget().parentWidget()->children();
+  for (qsizetype at = siblings.indexOf(&Widget()) + 1; at < siblings.size(); ++at) {
+    if (!siblings[at]->isWidgetType() || dynamic_cast<ElidedLabel*>(siblings[at]) != nullptr) continue;
+    Widget().stackUnder(static_cast<QWidget*>(siblings[at]));
+    return;
+  }
 }
 
 void LabelAdapter::Clicked() {

@@ -10,6 +10,8 @@ class LabelAdapter : public Adapter {
  public:
   LabelAdapter(Label& model, QWidget* parent);
 
+  void Settle() override;
+
  protected:
   void Draw() override;
   void Dress() override;

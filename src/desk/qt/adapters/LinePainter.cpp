@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QTextLayout>
+#include <QtMath>
 #include <algorithm>
 #include <cmath>
 
@@ -26,6 +27,11 @@ QStringList Wrapped(const QString& text, const QFont& font, int width) {
   return lines.isEmpty() ? QStringList{QString()} : lines;
 }
 
+/// Not rounded to dots: over several lines they stand as far apart as on paper.
+double ExactHeight(const QFont& font) {
+  return std::max(QFontMetricsF(font).lineSpacing(), QFontInfo(font).pixelSize() * kLineOfFont);
+}
+
 }  // namespace
 
 int LinePainter::LineHeight(const QFont& font) {
@@ -37,17 +43,18 @@ void LinePainter::Draw(QPainter& painter, const QRect& place, Qt::Alignment acro
                        bool wraps) {
   const QFont font = painter.font();
   const QFontMetrics metrics(font);
-  const int height = LineHeight(font);
+  const double height = ExactHeight(font);
+  double top = place.top();
   painter.save();
   painter.setClipRect(place, Qt::IntersectClip);
-  QRect line(place.left(), place.top(), place.width(), height);
   for (const QString& whole : text.split(QLatin1Char('\n'))) {
     const QString plain = QString(whole).remove(QLatin1Char('\r'));
     for (const QString& part : wraps ? Wrapped(plain, font, place.width()) : QStringList{plain}) {
       const QString shown = wraps ? part : metrics.elidedText(part, Qt::ElideRight, place.width());
+      const QRect line(place.left(), qRound(top), place.width(), qCeil(height));
       painter.drawText(line, static_cast<int>(across | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
-      line.translate(0, height);
-      if (line.top() > place.bottom()) break;
+      top += height;
+      if (top > place.bottom()) break;
     }
   }
   painter.restore();

@@ -2,10 +2,12 @@
 
 #include <QRadioButton>
 
+#include "desk/qt/adapters/MarkedField.h"
+
 namespace quillon {
 
 OptionAdapter::OptionAdapter(OptionButton& model, QWidget* parent)
-    : Adapter(model, new QRadioButton(parent)), option_(model) {
+    : Adapter(model, new MarkedField<QRadioButton>(model, parent)), option_(model) {
   static_cast<QRadioButton&>(Widget()).setAutoExclusive(false);  // the models clear one another
   TakeClicks();
 }
