@@ -21,6 +21,7 @@ constexpr ScreenSpec kScreen = {
     .iconKey = "Cheque",
     .firstKey = keys::kF3,
     .lastKey = keys::kF9,
+    .helpContext = 9,
 };
 
 constexpr const char* kLastBank = "ChqPrinting.LastBankCode";
@@ -60,6 +61,7 @@ frmChqPrint::frmChqPrint()
       lblSignatory2(picCheque, "lblSignatory2"),
       lblPayeesAc2(picCheque, "lblPayeesAc2"),
       lblRemarks2(picCheque, "lblRemarks2"),
+      lblRemarks20(picCheque, "lblRemarks20"),
       picOpt(*this, "picOpt"),
       Check1(picOpt, "Check1"),
       Check2(picOpt, "Check2"),
@@ -106,9 +108,7 @@ frmChqPrint::frmChqPrint()
 
 void frmChqPrint::LoadScreen() {
   DesignPreview();
-  if (!Narration.empty()) Caption = "Cheque Printing - " + Narration;
-  lblTitle.Caption = "   " + Caption;
-  lblPreview.Caption = lblTitle.Caption;
+  if (!fDataForm) BtnBar1.DisableButtons({0, 1});
   if (BankCode == 0) {
     picBankName.Visible = true;
     BankCode = static_cast<long>(ValInteger(gApp->GetUserSetting(kLastBank)));
@@ -193,7 +193,16 @@ std::string frmChqPrint::NotExceedingText() const {
   return "NOT EXCEEDING Rs. " + gStd->FormatAmount(Amount::OfInteger(Amount.Floor() + 1), "c0") + "/-";
 }
 
+/// The number that is taken out of a narration stays in the caption.
+void frmChqPrint::ShowCaption() {
+  if (narrationLeft_ == Narration) return;
+  Caption = Narration.empty() ? "Cheque Printing" : "Cheque Printing - " + Narration;
+  lblTitle.Caption = "   " + Caption;
+  lblPreview.Caption = lblTitle.Caption;
+}
+
 void frmChqPrint::UpdateLabels() {
+  ShowCaption();
   if (text::Upper(text::Trim(PayTo)) == "CASH") PayTo = "SELF";
   if (const std::size_t at = Narration.find("::"); at != std::string::npos) {
     PayTo = Narration.substr(at + 2);
@@ -235,6 +244,7 @@ void frmChqPrint::ShowSigners() {
 
 void frmChqPrint::ShowChqNo() {
   gStd->ChqNoFromNarration(Narration, ChqNo);
+  narrationLeft_ = Narration;
   lblChqNo2.Visible = !ChqNo.empty();
   if (!ChqNo.empty()) lblChqNo2.Caption = "Chq.No: " + ChqNo;
 }

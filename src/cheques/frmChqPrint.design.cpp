@@ -16,6 +16,8 @@ constexpr long kChequeLine = 0xC0B8A8;
 constexpr long kChequeWidth = 11400;
 constexpr long kChequeHeight = 4800;
 constexpr long kOptionsHeight = 2700;
+constexpr long kHintLeft = 10920;
+constexpr long kHintWidth = 3300;
 constexpr int kRight = 1;
 
 const Font kObjectFont{"Tahoma", 9.75, true, false, false};
@@ -101,6 +103,7 @@ void frmChqPrint::DesignPreview() {
   picOpt.BackColor = colors::kButtonFace;
   picOpt.Move(0, Height - kOptionsHeight, Width, kOptionsHeight);
   picOpt.Visible = false;
+  lblHint.Move(kHintLeft, kEdge, std::min(kHintWidth, Width - kHintLeft - kEdge), 6 * kRow);
 }
 
 void frmChqPrint::DesignCheque() {
@@ -126,7 +129,9 @@ void frmChqPrint::DesignCheque() {
   lblAcNo20.Caption = "A/c No.";
   Place(lblAcNo20, 300, 2940, 900);
   Place(lblAcNo2, 1260, 2940, 4200, 9.75, true);
-  Place(lblRemarks2, 300, 3420, 5600, 9.75, true);
+  lblRemarks20.Caption = "Remarks";
+  Place(lblRemarks20, 300, 3420, 900);
+  Place(lblRemarks2, 1260, 3420, 4640, 9.75, true);
   Place(lblChqNo2, 300, 4260, 3600);
   Place(lblFor2, 6000, 2940, 5100, 9.75, true);
   Place(lblSignatory2, 6000, 4080, 5100, 9.75, true);
@@ -212,7 +217,6 @@ void frmChqPrint::DesignButtons() {
       "Click an item, or choose it by Page Down, and move it by the arrow keys; with Ctrl it moves finely. The lines are inches and "
       "eighths of an inch from the leaf's upper left corner.";
   lblHint.WordWrap = true;
-  lblHint.Move(10920, kEdge, 3300, 6 * kRow);
 }
 
 }  // namespace quillon

@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "host/controls/CButton.h"
@@ -112,6 +113,7 @@ class frmChqPrint : public ScreenForm {
   Label lblSignatory2;
   Label lblPayeesAc2;
   Label lblRemarks2;
+  Label lblRemarks20;
 
   FocusPanel picOpt;
   CheckBox Check1;
@@ -157,6 +159,7 @@ class frmChqPrint : public ScreenForm {
   void ConnectButtons();
 
   // --- The captions
+  void ShowCaption();
   void ShowPayTo();
   void ShowAmounts();
   void ShowSigners();
@@ -185,6 +188,7 @@ class frmChqPrint : public ScreenForm {
   void LeaveToPanel();
   LayoutBoard::Limits Limits() const;
 
+  std::optional<std::string> narrationLeft_;  ///< what the captions leave of the narration
   LayoutBoard board_{*this, Lbl};
 };
 

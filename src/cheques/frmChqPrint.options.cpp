@@ -19,6 +19,7 @@ constexpr long kHiddenColor = 0x808080;
 constexpr double kWidestWords = 10;    // inches
 constexpr double kNarrowestWords = 2;  // inches
 constexpr std::size_t kLongestFileName = 40;
+constexpr const char* kDefFolders[] = {"Def", "ChqDef"};
 constexpr const char* kFileFilter = "XML Files (*.xml)|*.xml|All Files (*.*)|*.*";
 
 long ColorOf(bool shown) { return shown ? kShownColor : kHiddenColor; }
@@ -75,6 +76,7 @@ void frmChqPrint::ConnectPreview() {
   acts(lblAcNo2, [this] { AskAcNo(); });
   acts(lblAcNo20, [this] { AskAcNo(); });
   acts(lblRemarks2, [this] { AskRemarks(); });
+  acts(lblRemarks20, [this] { AskRemarks(); });
 }
 
 void frmChqPrint::ConnectButtons() {
@@ -210,7 +212,7 @@ void frmChqPrint::SaveChqDef() {
   if (!gApp->InputBox(name, "Enter def. filename")) return;
   IFiles& files = gStd->Files();
   std::string folder = gApp->MainWindow().DataFolder();
-  for (const char* part : {"Def", "ChqDef"}) {
+  for (const char* part : kDefFolders) {
     folder = files.Combine(folder, part);
     if (!files.FolderExists(folder)) files.CreateFolder(folder);
   }
@@ -225,8 +227,11 @@ void frmChqPrint::SaveChqDef() {
 }
 
 void frmChqPrint::ImportChqDef() {
+  std::string folder = gApp->MainWindow().DataFolder();
+  for (const char* part : kDefFolders) folder = gStd->Files().Combine(folder, part);
+  if (!gStd->Files().FolderExists(folder)) folder.clear();
   std::string file;
-  if (!gRuntime->AskFile({.Save = false, .Title = "", .Filter = kFileFilter, .Path = ""}, file)) return;
+  if (!gRuntime->AskFile({.Save = false, .Title = "", .Filter = kFileFilter, .Path = folder}, file)) return;
   if (!ChequeDefinition(*this).Read(file)) {
     gStd->MsgBox("Invalid Cheque Definition file: " + file, "", "W");
   }

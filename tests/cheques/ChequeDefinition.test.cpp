@@ -52,6 +52,8 @@ TEST_F(ChequeDefinitionFile, AFileTakesTheLayoutToAnotherBank) {
   const FormPtr other = ShowLayout(102);
   Click(At<CheckBox>(other, "chkBankDetails"));
   Import(other, folder_.File("copy.xml"));
+  EXPECT_EQ(Events("file").back().at("path"), InFirm("").substr(0, InFirm("").size() - 1))
+      << "where files are saved they are looked for";
   EXPECT_EQ(Object(other, 4).Left(), 5100);
   EXPECT_EQ(At<CTextPlus>(other, "txpLeftMargin").Text(), "0.3");
   EXPECT_EQ(At<CheckBox>(other, "Check3").CheckValue(), 0) << "the names of this mark differ";

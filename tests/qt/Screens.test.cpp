@@ -125,6 +125,8 @@ TEST_F(ScreensTest, EveryActOfTheMenusHasAKeyAndTheWindowsAreAmongThem) {
   statement->trigger();
   EXPECT_EQ(Top().Name(), "frmAccount");
   EXPECT_TRUE(window_.windowTitle().startsWith(QStringLiteral("A/c Statement - Sharda")));
+  Top().Caption = "Another cheque";
+  EXPECT_TRUE(window_.windowTitle().startsWith(QStringLiteral("Another cheque - Sharda")));
 }
 
 TEST_F(ScreensTest, TheStripsFollowTheCursor) {

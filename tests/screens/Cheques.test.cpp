@@ -45,6 +45,8 @@ TEST_F(ChequesOfTheDesk, AVouchersChequeIsShownAndTheBanksOthersFollow) {
   EXPECT_EQ(gApp->GetUserSetting("ChqPrinting.LastBankCode"), "101");
   Key(*cheque, keys::kF4);
   EXPECT_EQ(Shown(cheque), "Bharat Mills|**300.00|21-Apr-2024|777");
+  EXPECT_EQ(cheque->Caption().find("000123"), std::string::npos)
+      << "the title is this cheque's: " << cheque->Caption();
   Key(*cheque, keys::kF4);
   EXPECT_EQ(Shown(cheque), "Bharat Mills|**300.00|21-Apr-2024|777") << "there is no further one";
   Key(*cheque, keys::kF3);

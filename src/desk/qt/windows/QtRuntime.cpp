@@ -139,6 +139,10 @@ void QtRuntime::ShowView(Form& form) {
         Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
     view = screen ? new FormView(form.Self(), area_)
                   : new FormView(form.Self(), area_ ? area_->window() : nullptr, window);
+    // The desk's title names the screen.
+    QObject::connect(view, &QWidget::windowTitleChanged, view, [this] {
+      if (OnTopChanged) OnTopChanged();
+    });
   }
   if (screen) {
     area_->Bring(*view);
