@@ -21,6 +21,7 @@ constexpr ScreenSpec kScreen = {
     .firstKey = keys::kF4,
     .lastKey = keys::kF9,
     .rightEachTime = true,
+    .helpContext = 10,
 };
 
 constexpr const char* kModeSetting = "Envelope.PostMode";
@@ -182,6 +183,9 @@ void frmEnvelopePrint::FillParty(CPartyInfo& party) {
   };
   const std::string contact = field("mName");
   Lbl(1).Caption = contact.empty() ? field("mhd") : contact;
+  // Without a contact the party's name stands at the head already.
+  if (contact.empty() && !lines.empty() && lines.front() == text::Trim(field("mhd")))
+    lines.erase(lines.begin());
   Lbl(2).Caption = text::Join(lines, kLineEnd);
   Lbl(3).Caption = Labelled("Phone : ", field("mPhoneOff"));
   Lbl(4).Caption = Labelled("Mobile : ", field("mCellNo"));
@@ -237,6 +241,11 @@ void frmEnvelopePrint::ChooseFont(Label& object) {
 void frmEnvelopePrint::OnKeyDown(KeyEvent& key) {
   if (!Frame1.Visible && board_.TakeKey(key, Limits())) {
     key.KeyCode = 0;
+    return;
+  }
+  if (key.KeyCode == keys::kSpace && key.Shift == 0 && Picture1.HasFocus() && board_.Selected() != nullptr) {
+    key.KeyCode = 0;
+    ChooseFont(*board_.Selected());
     return;
   }
   if (key.KeyCode == keys::kEscape && key.Shift == 0) {

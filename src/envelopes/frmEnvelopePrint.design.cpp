@@ -48,6 +48,7 @@ constexpr const char* kModes[] = {"AIR MAIL",        "BOOK POST",  "BY COURIER",
                                   "REGISTERED POST", "SPEED POST", "U.P.C.",     "-None-"};
 constexpr const char* kSizes[] = {"Small", "Medium", "Large", "Custom"};
 constexpr int kNoMode = 8;
+constexpr int kCustomCheck = 6;
 constexpr int kMedium = 1;
 
 }  // namespace
@@ -84,7 +85,9 @@ void frmEnvelopePrint::DesignControls() {
   lblSize.Caption = "Envelope";
   btnConfig.Caption = "Config ...";
   lblHint.Caption =
-      "Click an item, or choose it by Page Down, and move it by the arrow keys, with Ctrl finely; a double click chooses its font.";
+      "Page Down or a click chooses an item, the arrow keys move it, with Ctrl finely; Space or a double click "
+      "changes its font.";
+  lblHint.WordWrap = true;
   DesignFrame();
 }
 
@@ -100,7 +103,7 @@ void frmEnvelopePrint::PlaceControls() {
   lblSize.Move(4560, kTop, 900, kLine);
   Combo2.Move(5520, kTop, 1800, kLine);
   btnConfig.Move(7560, kTop, 1500, kLine);
-  lblHint.Move(9420, kTop, Width - 9420 - kEdge, kLine);
+  lblHint.Move(9420, kTop, Width - 9420 - kEdge, kPanelHeight - kTop);
   Frame1.Move((Width - kFrameWidth) / 2, (Height - kFrameHeight) / 2, kFrameWidth, kFrameHeight);
 }
 
@@ -114,7 +117,9 @@ void frmEnvelopePrint::DesignFrame() {
   for (auto& [index, check] : Check1) {
     check->Caption = kChecks[index];
     check->CheckValue = Lbl(index).Visible.Own() ? 1 : 0;
-    check->Move(kEdge, 720 + index * kRow, kRight - 2 * kEdge, kLine);
+    const bool isAboveLines = index == kCustomCheck;
+    check->Move(isAboveLines ? kRight : kEdge, 720 + (isAboveLines ? 0 : index) * kRow, kRight - 2 * kEdge,
+                kLine);
   }
   for (auto& [index, line] : Text1) {
     line->Move(kRight, 720 + (index + 1) * kRow, kFrameWidth - kRight - kEdge, kLine);
