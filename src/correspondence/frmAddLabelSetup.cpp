@@ -59,6 +59,7 @@ void frmAddLabelSetup::DesignControls() {
 
 void frmAddLabelSetup::LoadDialog() {
   for (auto& [index, field] : txp1) field->Text = Config.Item(field->FieldName);
+  txp1(0).SetFocus();
 }
 
 bool frmAddLabelSetup::Confirm() {

@@ -28,6 +28,7 @@ constexpr ScreenSpec kScreen = {
     .iconKey = "List",
     .firstKey = keys::kF3,
     .lastKey = keys::kF9,
+    .helpContext = 11,
 };
 
 constexpr int kTextMode = 2;  // of IReports::PrinterMode, from there on
@@ -246,6 +247,8 @@ void frmAddressLabels::RemoveLabels() {
   }
   Grid.Row = std::min(taken.firstRow, Grid.Rows - 1);
   Grid.Col = taken.firstCol;
+  Grid.RowSel = Grid.Row();
+  Grid.ColSel = Grid.Col();
   ShowCursor();
 }
 

@@ -23,6 +23,7 @@ constexpr ScreenSpec kScreen = {
     .iconKey = "Account",
     .firstKey = keys::kF2,
     .lastKey = keys::kF9,
+    .helpContext = 12,
 };
 
 constexpr int kDelete = 1;

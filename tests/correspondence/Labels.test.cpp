@@ -116,10 +116,12 @@ TEST_F(Labels, TheSheetShowsTheChosenPartiesInReadingOrder) {
 
 TEST_F(Labels, LabelsAreTakenOutAndTheRestClosesUp) {
   Open();
-  Select(1, 1, 0, 1);
+  Select(0, 1, 1, 1);
   Key(*form_, keys::kF3);
   EXPECT_EQ(Sheet(), "A1C3/E5F6/G7-/");
   EXPECT_EQ(Code(), 203) << "the cursor stands where the selection began";
+  EXPECT_EQ(Grid().RowSel(), 0) << "the same key does not take out more";
+  EXPECT_EQ(Grid().ColSel(), 1);
   Select(2, 0, 2, 1);
   Key(*form_, keys::kF3);
   EXPECT_EQ(Sheet(), "A1C3/E5F6/");
