@@ -26,6 +26,7 @@ constexpr ScreenSpec kScreen = {
     .iconKey = "Cheque",
     .firstKey = keys::kF2,
     .lastKey = keys::kF9,
+    .helpContext = 14,
 };
 
 constexpr const char* kMark = "Y";

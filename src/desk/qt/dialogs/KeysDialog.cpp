@@ -7,7 +7,6 @@
 #include "desk/qt/adapters/PushButton.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
-#include "host/controls/CButton.h"
 #include "host/controls/CButtonBar.h"
 #include "host/controls/CommandButton.h"
 #include "host/forms/Form.h"
@@ -92,7 +91,8 @@ void KeysDialog::AddKey(const QString& key, const QString& what, bool enabled) {
 
 void KeysDialog::AddKeysOf(const Form& form) {
   const auto add = [this](const std::string& caption, const std::string& more, bool enabled) {
-    const QString all = QString::fromStdString(caption);
+    const QString all = QString::fromStdString(caption).remove(QLatin1Char('&'));
+    if (!all.contains(QLatin1Char(':'))) return;
     const QString what = all.section(QLatin1Char(':'), 1).trimmed();
     const QString told = QString::fromStdString(more);
     AddKey(all.section(QLatin1Char(':'), 0, 0).trimmed(), told.isEmpty() || told == what ? what : told,
@@ -107,10 +107,7 @@ void KeysDialog::AddKeysOf(const Form& form) {
         if (button.Visible() && !button.Caption().empty())
           add(button.Caption(), button.ToolTip(), button.Enabled());
       }
-    } else if (auto* dialogButton = dynamic_cast<CButton*>(control)) {
-      add(dialogButton->Caption(), "", dialogButton->Enabled);
-    } else if (auto* button = dynamic_cast<CommandButton*>(control);
-               button != nullptr && button->Caption().find(':') != std::string::npos) {
+    } else if (auto* button = dynamic_cast<CommandButton*>(control)) {
       add(button->Caption(), "", button->Enabled);
     }
   }
