@@ -56,8 +56,7 @@ void Place(Label& label, long left, long top, long width, double size = 9.75, bo
 
 void frmChqPrint::BuildBar() {
   BtnBar1.AddButtons({"Prev,F3: Prev,LeftArrow", "Next,F4: Next,RightArrow", "F5",
-                      "Settings,F6: Settings,Config", "F7", "F8", "Print,F9: Print,Print",
-                      "Exit,Esc: Exit,Close"});
+                      "Settings,F6: Settings,Config", "F7", "F8", "Print,F9: Print,Print", "Exit,Esc: Exit"});
   BtnBar1.HideButtons({"F5", "F7", "F8"});
 }
 

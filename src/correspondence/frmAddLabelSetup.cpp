@@ -59,8 +59,9 @@ void frmAddLabelSetup::DesignControls() {
 
 void frmAddLabelSetup::LoadDialog() {
   for (auto& [index, field] : txp1) field->Text = Config.Item(field->FieldName);
-  txp1(0).SetFocus();
 }
+
+void frmAddLabelSetup::OnActivate() { txp1(0).SetFocus(); }
 
 bool frmAddLabelSetup::Confirm() {
   if (!txp1(kColumns).MayLeave()) {

@@ -19,6 +19,7 @@ class frmAddLabelSetup : public DialogForm {
 
  protected:
   void LoadDialog() override;
+  void OnActivate() override;
   bool Confirm() override;
 
  private:

@@ -61,6 +61,7 @@ class Labels : public PartiesTest {
     runtime_.NextCommand = [this, values] {
       const FormPtr setup = runtime_.ActiveForm();
       EXPECT_EQ(setup->Name(), "frmAddLabelSetup");
+      EXPECT_TRUE(At<CTextPlus>(setup, "txp1", 0).HasFocus());
       for (const auto& [index, text] : values) {
         auto& field = At<CTextPlus>(setup, "txp1", index);
         Do([&] { setup->UserFocus(field); });

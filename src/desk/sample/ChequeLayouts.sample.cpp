@@ -75,7 +75,7 @@ void WriteLayouts(FirebirdLink& common) {
         {"PrintStation", "1"},
         {"NotExceeding", "1"},
         {"Remarks", "Against bills"}},
-       {{"PayTo", 990, 960}, {"Date", 8850, 300}, {"Amount", 8700, 1680}, {"NotExceeding", 870, 3240}});
+       {{"PayTo", 990, 780}, {"Date", 8850, 300}, {"Amount", 8700, 1680}, {"NotExceeding", 870, 3660}});
 }
 
 }  // namespace

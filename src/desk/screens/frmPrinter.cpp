@@ -50,6 +50,10 @@ void frmPrinter::LoadDialog() {
   }
 }
 
+void frmPrinter::OnActivate() {
+  if (cmbPrinter.ListCount() > 0) cmbPrinter.SetFocus();
+}
+
 void frmPrinter::ShowPrinter() {
   const Calibration calibration = Calibration::Of(cmbPrinter.Text());
   const Calibration::Measured& measured = calibration.Measures();
