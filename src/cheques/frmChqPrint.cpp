@@ -108,7 +108,6 @@ frmChqPrint::frmChqPrint()
 
 void frmChqPrint::LoadScreen() {
   DesignPreview();
-  if (!fDataForm) BtnBar1.DisableButtons({0, 1});
   if (BankCode == 0) {
     picBankName.Visible = true;
     BankCode = static_cast<long>(ValInteger(gApp->GetUserSetting(kLastBank)));
@@ -119,6 +118,11 @@ void frmChqPrint::LoadScreen() {
   }
   UpdateLabels();
   DrawGrid();
+}
+
+/// Without a caller there is no other cheque to go to.
+void frmChqPrint::FirstShow() {
+  if (!fDataForm) BtnBar1.DisableButtons({0, 1});
 }
 
 void frmChqPrint::UnloadScreen() { fDataForm.reset(); }
