@@ -13,6 +13,7 @@
 
 #include "desk/qt/adapters/GridWidget.h"
 #include "desk/qt/adapters/Scale.h"
+#include "desk/qt/dialogs/KeysDialog.h"
 #include "desk/qt/windows/FormPicture.h"
 #include "tests/qt/FormTest.h"
 #include "tests/qt/frmEveryKind.h"
@@ -89,6 +90,14 @@ TEST_F(AdaptersTest, ATickedFieldShowsThatItHasTheFocus) {
     runtime_.ViewOf(*form_)->Settle();
     EXPECT_NE(widget.grab().toImage(), before) << field->Name();
   }
+}
+
+TEST_F(AdaptersTest, TheListOfKeysReadsAsTheButtonsDo) {
+  form_->cmdGo.Caption = "F7: &Save";
+  const KeysDialog keys(form_.get(), 0, nullptr);
+  QStringList words;
+  for (const QLabel* label : keys.findChildren<QLabel*>()) words << label->text();
+  EXPECT_TRUE(words.contains(QStringLiteral("Save")));
 }
 
 TEST_F(AdaptersTest, MouseReachesTheModels) {

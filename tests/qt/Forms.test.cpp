@@ -6,6 +6,7 @@
 #include "desk/qt/dialogs/DateDialog.h"
 #include "desk/qt/dialogs/MessageDialog.h"
 #include "desk/qt/windows/PageView.h"
+#include "desk/qt/windows/SightWindow.h"
 #include "host/controls/CButton.h"
 #include "host/controls/ControlArray.h"
 #include "host/controls/TextBox.h"
@@ -120,7 +121,7 @@ TEST_F(FormsTest, AMessageTakesItsDefaultByEnterAndTheLastButtonByEsc) {
   EXPECT_EQ(runtime_.AskMessage(first), 1);
 }
 
-TEST_F(FormsTest, AMessageStaysOnTheScreenWhateverItLists) {
+TEST_F(FormsTest, MessagesAndPagesStayOnTheScreen) {
   MessageRequest request{"Following cheque no. already exists: \r\n470301", "W", {"OK"}, "Quillon", 1};
   for (int number = 470302; number < 470402; ++number) request.Text += "," + std::to_string(number);
   QRect needed;
@@ -131,6 +132,10 @@ TEST_F(FormsTest, AMessageStaysOnTheScreenWhateverItLists) {
   runtime_.AskMessage(request);
   EXPECT_LT(needed.width(), 700);
   EXPECT_LT(needed.height(), 400);
+  ReportPages pages;
+  pages.Pages.resize(1);
+  const SightWindow sight(pages, "PDF file", nullptr);
+  EXPECT_LE(sight.width(), sight.screen()->availableSize().width());
 }
 
 TEST_F(FormsTest, AFontThatNobodyChangesIsAnsweredAsItWas) {
