@@ -7,7 +7,7 @@
 namespace quillon {
 
 CheckBoxAdapter::CheckBoxAdapter(CheckBox& model, QWidget* parent)
-    : Adapter(model, new MarkedField<QCheckBox>(model, parent)), box_(model) {
+    : Adapter(model, new MarkedField<QCheckBox, QStyleOptionButton>(model, parent)), box_(model) {
   TakeClicks();
 }
 

@@ -11,7 +11,7 @@
 namespace quillon {
 
 ComboAdapter::ComboAdapter(ComboBox& model, QWidget* parent)
-    : Adapter(model, new MarkedField<QComboBox>(model, parent)), combo_(model) {
+    : Adapter(model, new MarkedField<QComboBox, QStyleOptionComboBox>(model, parent)), combo_(model) {
   auto& shown = static_cast<QComboBox&>(Widget());
   Widget().installEventFilter(this);
   connect(&shown, &QComboBox::activated, this, [this](int item) {

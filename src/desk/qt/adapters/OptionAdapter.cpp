@@ -7,7 +7,7 @@
 namespace quillon {
 
 OptionAdapter::OptionAdapter(OptionButton& model, QWidget* parent)
-    : Adapter(model, new MarkedField<QRadioButton>(model, parent)), option_(model) {
+    : Adapter(model, new MarkedField<QRadioButton, QStyleOptionButton>(model, parent)), option_(model) {
   static_cast<QRadioButton&>(Widget()).setAutoExclusive(false);  // the models clear one another
   TakeClicks();
 }
