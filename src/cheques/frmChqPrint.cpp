@@ -120,11 +120,6 @@ void frmChqPrint::LoadScreen() {
   DrawGrid();
 }
 
-/// Without a caller there is no other cheque to go to.
-void frmChqPrint::FirstShow() {
-  if (!fDataForm) BtnBar1.DisableButtons({0, 1});
-}
-
 void frmChqPrint::UnloadScreen() { fDataForm.reset(); }
 
 LayoutBoard::Limits frmChqPrint::Limits() const {

@@ -141,7 +141,6 @@ class frmChqPrint : public ScreenForm {
  protected:
   void BuildBar() override;
   void LoadScreen() override;
-  void FirstShow() override;
   void UnloadScreen() override;
   void Pressed(const std::string& key) override;
   void Print(bool print) override;
