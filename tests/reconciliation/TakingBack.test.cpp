@@ -18,11 +18,7 @@ class TakingBack : public BankTest {
   }
 
   std::string Books() { return Stored(2) + "|" + Stored(3) + "|" + Stored(4) + "|" + Stored(5); }
-  Texts Said() {
-    Texts said;
-    for (const Json& event : Events("said")) said.push_back(event["text"]);
-    return said;
-  }
+  Texts Said() { return Take("said", "text"); }
   void Back() { Key(*runtime_.ActiveForm(), 'Z', keys::kCtrl); }
   void Again() { Key(*runtime_.ActiveForm(), 'Y', keys::kCtrl); }
   std::string MarkedBalance() { return Entries().Footer.TextMatrix(1, 26); }
@@ -63,10 +59,10 @@ TEST_F(TakingBack, EachActGoesByItselfWithAllThatItStored) {
 }
 
 TEST_F(TakingBack, WhatSomebodyElseHasChangedSinceStays) {
-  runtime_.Laid.Add({{"to", "date"}, {"date1", "01-Apr-2024"}, {"date2", "31-Mar-2025"}});
-  runtime_.Laid.Add({{"to", "message"}, {"button", 1}});
+  AnswerPeriod("01-Apr-2024", "31-Mar-2025");
+  AnswerMessage();
   Do([&] { bench_->Call("MassMarking", {false}); });
-  EXPECT_EQ(Events("message").at(0)["title"], "01/04/2024 to 31/03/2025");
+  One("message", {{"title", "01/04/2024 to 31/03/2025"}});
   EXPECT_EQ(Books(), "05-Apr-2024|10-Apr-2024|12-Apr-2024|02-May-2024");
   Db().Execute("update FAData set dBankDate='2024-04-30' where VoucherID=4 and dVchSubNo=1");
   Choose(2);

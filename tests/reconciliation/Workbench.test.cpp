@@ -72,18 +72,9 @@ TEST_F(Workbench, OpensOnTheStatementWithItsRowsTitlesAndTotals) {
   Open();
   EXPECT_EQ(At<Label>(bench_, "lblTitle").Caption(), "   Statement of Account -> Reconciliation");
   EXPECT_EQ(At<Label>(bench_, "lblTitle1", 0).Caption(), "   Reconciliation");
-  for (const int item : {1, 2}) {
-    EXPECT_FALSE(At<Label>(bench_, "lblTitle1", item).Caption().empty());
-    EXPECT_EQ(At<Label>(bench_, "lblTitle1", item).Caption(),
-              At<Label>(statement_, "lblTitle1", item).Caption());
-  }
-  EXPECT_EQ(bench_->Get("AccountCode").ToInteger(), 101);
-  EXPECT_EQ(bench_->Get("Date2").ToText(), "31-Mar-2025");
+  EXPECT_EQ(At<Label>(bench_, "lblTitle1", 2).Caption(), "Period: 01/04/2024 to 31/03/2025");
   EXPECT_EQ(At<CMStrip>(bench_, "MStrip1").Code(), 101);
-  EXPECT_EQ(Grid().Title(), "Reconciliation Workings");
   EXPECT_EQ(Grid().Rows(), 6) << "the opening balance and four entries; the memorandum is none";
-  EXPECT_EQ(Grid().Cols(), Source().Cols() + 1);
-  EXPECT_EQ(Grid().BackColor(), 0xC0FFFF);
   ExpectColumns(Grid(), {{8, {"Date", 12}},
                          {9, {"Book", 4}},
                          {11, {"Narration", 25}},
@@ -91,10 +82,7 @@ TEST_F(Workbench, OpensOnTheStatementWithItsRowsTitlesAndTotals) {
                          {25, {"Credit", 11}},
                          {26, {"Balance", 14}},
                          {27, {"Cleared On", 12}}});
-  for (int row = 0; row < Grid().Rows; ++row) EXPECT_EQ(Grid().RowHeight(row), 350) << row;
-  EXPECT_EQ(Grid().TextMatrix(3, kCleared), "10-Apr-2024");
-  EXPECT_EQ(Grid().TextMatrix(3, 29), "3");
-  EXPECT_EQ(Grid().Footer.TextMatrix(0, 11), "Totals");
+  EXPECT_EQ(RowText(Grid(), 3, {kCleared, 29}), "10-Apr-2024|3");
   EXPECT_EQ(Grid().Footer.TextMatrix(0, 24), "12,46,067.89");
   EXPECT_EQ(Grid().Footer.TextMatrix(0, 26), Source().Footer.TextMatrix(0, 26));
   ExpectTotals("at the start");
@@ -102,16 +90,14 @@ TEST_F(Workbench, OpensOnTheStatementWithItsRowsTitlesAndTotals) {
   EXPECT_EQ(Grid().Row(), 5);
   EXPECT_EQ(Grid().Col(), kCleared);
   EXPECT_TRUE(Grid().HasFocus());
-  EXPECT_EQ(At<CMStrip>(bench_, "MStrip2").Code(), 201) << "the other side of the row under the cursor";
-  EXPECT_EQ(desk_.App().Windows().back().Title, "Reconciliation");
-  EXPECT_EQ(desk_.App().Windows().back().IconKey, "AcStatement");
-  std::vector<bool> enabled;
-  Texts captions;
-  for (int i = 0; i < Bar().Count(); ++i) {
-    enabled.push_back(Bar().Buttons(i).Enabled());
-    captions.push_back(Bar().Buttons(i).Caption());
+  CMStrip& strip = At<CMStrip>(bench_, "MStrip2");
+  EXPECT_EQ(strip.Code(), 201) << "the other side of the row under the cursor";
+  for (const auto& [row, code] : {std::pair{3, 202}, {4, 201}, {1, 0}}) {
+    Do([&] { Grid().UserMoveTo(row, 8); });
+    EXPECT_EQ(strip.Code(), code) << row;
   }
-  EXPECT_EQ(enabled, std::vector<bool>(8, true));
+  Texts captions;
+  for (int i = 0; i < Bar().Count(); ++i) captions.push_back(Bar().Buttons(i).Caption());
   EXPECT_EQ(captions, (Texts{"F3: Mass Mark", "", "F5 : Interest", "F6 : Statement", "F7 : Pass Book",
                              "F8 : Preview", "F9 : Print", "Esc : Exit"}));
 }
@@ -143,22 +129,14 @@ TEST_F(Workbench, AnAcceptedDateIsStoredAtOnceAndEchoed) {
   EXPECT_EQ(Stored(2), "") << "the opening row above has no date";
   EXPECT_EQ(Source().TextMatrix(2, 4), "");
   ExpectTotals("after = from an empty row");
+  Do([&] { ASSERT_TRUE(Grid().UserEnterCell(3, kCleared)); });
   Statements();
+  Do([&] { ASSERT_TRUE(Grid().UserLeaveCell()); });
+  EXPECT_EQ(Statements(), Texts()) << "an untouched cell stores nothing";
   EXPECT_TRUE(EditCell(Grid(), 3, kCleared, ""));
   EXPECT_EQ(Statements().back(), "Update FAData set dBankDate=Null where VoucherID=3 and dVchSubNo=1");
   EXPECT_EQ(Grid().Footer.TextMatrix(1, 26), "10,000.00 Dr.");
   ExpectTotals("after a removed date");
-}
-
-TEST_F(Workbench, AnUntouchedCellStoresNothing) {
-  Open();
-  Do([&] {
-    ASSERT_TRUE(Grid().UserEnterCell(3, kCleared));
-    Statements();
-    ASSERT_TRUE(Grid().UserLeaveCell());
-  });
-  EXPECT_EQ(Statements(), Texts());
-  EXPECT_EQ(Stored(3), "10-Apr-2024");
 }
 
 TEST_F(Workbench, DatesAreTakenFromAYearBeforeTheYearOn) {
@@ -218,7 +196,6 @@ TEST_F(Workbench, NeitherTheOpeningRowNorOtherColumnsAreEdited) {
   TypeKeys(*bench_, "15");
   Key(*bench_, keys::kEnter);
   EXPECT_EQ(Stored(4), "15-Apr-2024");
-  EXPECT_TRUE(Grid().EditMode());
   EXPECT_EQ(Grid().EditRow(), 5);
   TypeKeys(*bench_, "6");
   Key(*bench_, keys::kEnter);
@@ -240,9 +217,7 @@ TEST_F(Workbench, FillDownTakesTheNearestVisibleDate) {
   }
   ExpectTotals("after a fill-down");
   EXPECT_EQ(Events("busy").size(), 2U);
-  const std::vector<Json> pointers = Events("pointer");
-  ASSERT_EQ(pointers.size(), 2U);
-  EXPECT_EQ(pointers.back()["value"], kPointerDefault);
+  EXPECT_EQ(Events("pointer").back()["value"], kPointerDefault);
 
   // A hidden row neither gives its date nor takes one.
   EXPECT_TRUE(EditCell(Grid(), 3, kCleared, ""));
@@ -250,9 +225,7 @@ TEST_F(Workbench, FillDownTakesTheNearestVisibleDate) {
   EXPECT_TRUE(EditCell(Grid(), 5, kCleared, ""));
   Grid().SetRowHeight(4, 0);
   EXPECT_TRUE(EditCell(Grid(), 5, kCleared, "00"));
-  EXPECT_EQ(Stored(3), "06-Apr-2024");
-  EXPECT_EQ(Stored(4), "10-Apr-2024");
-  EXPECT_EQ(Stored(5), "06-Apr-2024");
+  EXPECT_EQ(Stored(3) + Stored(4) + Stored(5), "06-Apr-202410-Apr-202406-Apr-2024");
   ExpectTotals("after a fill-down over a hidden row");
 }
 
@@ -330,24 +303,7 @@ TEST_F(Workbench, ReturnedChequesAreMarkedForTheWholeVoucher) {
   EXPECT_EQ(Source().TextMatrix(4, 28), "");
   EXPECT_TRUE(Grid().HasFocus());
   Do([&] { Returned().UserClick(); });
-  EXPECT_EQ(Statements().back(), "UPDATE FADOCS SET CHQRETURN='N' WHERE VOUCHERID=4");
   EXPECT_EQ(Db().Lookup("FADocs", "ChqReturn", "VoucherID=4").ToText(), "N");
-  // After a filter the box belongs to the row that the cursor is on.
-  Do([&] { Grid().UserMoveTo(3, 8); });
-  Choose(2);
-  ASSERT_TRUE(Returned().Visible ==
-              (Grid().TextMatrix(Grid().Row(), 0) != "0" && !Grid().TextMatrix(Grid().Row(), 0).empty()));
-}
-
-TEST_F(Workbench, TheOtherSideIsLookedUpByTheDigitsBeforeTheFirstComma) {
-  // A voucher of three lines: the bank's 12,34,567.89 reads as 12, which still is a debit.
-  Open();
-  Do([&] { Grid().UserMoveTo(3, 8); });
-  EXPECT_EQ(At<CMStrip>(bench_, "MStrip2").Code(), 202);
-  Do([&] { Grid().UserMoveTo(4, 8); });
-  EXPECT_EQ(At<CMStrip>(bench_, "MStrip2").Code(), 201);
-  Do([&] { Grid().UserMoveTo(1, 8); });
-  EXPECT_EQ(At<CMStrip>(bench_, "MStrip2").Code(), 0);
 }
 
 TEST_F(Workbench, TotalsStayRightThroughAnyWorkingDay) {
@@ -386,9 +342,7 @@ TEST_F(Workbench, EscGoesBackStepByStep) {
   ASSERT_TRUE(StatementRows().Visible);
   EXPECT_FALSE(Grid().Visible);
   EXPECT_FALSE(At<ComboBox>(bench_, "cmbFilter").Visible);
-  EXPECT_EQ(Bar().Buttons(1).Key(), "ShowRef");
   EXPECT_EQ(Bar().Buttons(1).Caption(), "F4: Hide Ref.");
-  EXPECT_EQ(Bar().Buttons(1).Picture(), "Customers");
   EXPECT_FALSE(Bar().Buttons(3).Enabled());
   Key(*bench_, keys::kF6);
   EXPECT_EQ(Events("date").size(), 1U) << "a disabled button does not answer its key";
@@ -496,17 +450,6 @@ TEST_F(Workbench, AUserWithoutTheRightIsTurnedAway) {
   Grant("Clerk", "acst.reconciliation", "NP");
   Do([&] { Bar().UserPress("Preview"); });
   EXPECT_EQ(Events("report").size(), 1U);
-}
-
-TEST_F(Workbench, ClosedAndShownAgainItIsAsNew) {
-  Open();
-  Key(*bench_, keys::kEscape);
-  bench_->CallingForm = statement_;
-  Do([&] { gApp->ShowForm(bench_); });
-  EXPECT_EQ(Bar().Count(), 8);
-  EXPECT_EQ(At<ComboBox>(bench_, "cmbFilter").ListCount(), 3);
-  EXPECT_EQ(desk_.App().Windows().size(), 2U);
-  EXPECT_EQ(Grid().Rows(), 6);
 }
 
 TEST_F(Workbench, WithoutARowUnderTheCursorTheCounterAccountIsAskedOnce) {

@@ -181,6 +181,14 @@ std::vector<Json> DeskTest::Events(const std::string& kind) {
   return taken;
 }
 
+Json DeskTest::One(const std::string& kind, const Json& members) {
+  const std::vector<Json> events = Events(kind);
+  EXPECT_EQ(events.size(), 1U) << kind;
+  if (events.empty()) return Json::object();
+  for (const auto& [name, value] : members.items()) EXPECT_EQ(events[0][name], value) << kind << ": " << name;
+  return events[0];
+}
+
 DeskTest::Texts DeskTest::Updates() {
   Texts updates = Statements();
   std::erase_if(updates, [](const std::string& sql) { return text::Upper(sql.substr(0, 6)) != "UPDATE"; });
@@ -194,8 +202,8 @@ DeskTest::Texts DeskTest::Told() {
   return told;
 }
 
-std::vector<std::string> DeskTest::Take(const std::string& kind, const char* member) {
-  std::vector<std::string> texts;
+DeskTest::Texts DeskTest::Take(const std::string& kind, const char* member) {
+  Texts texts;
   for (const Json& event : Events(kind)) texts.push_back(event.at(member).get<std::string>());
   return texts;
 }

@@ -76,6 +76,8 @@ class DeskTest : public testing::Test {
     runtime_.Laid.Add({{"to", "date"}, {"date1", first}, {"date2", last}});
   }
 
+  /// That member of all events of a kind.
+  Texts Take(const std::string& kind, const char* member);
   /// The texts of the messages, the errors, the statements sent since the last time they were asked for.
   Texts Messages() { return Take("message", "text"); }
   Texts Errors() { return Take("error", "text"); }
@@ -88,6 +90,8 @@ class DeskTest : public testing::Test {
   Texts Told();
 
   std::vector<Json> Events(const std::string& kind);
+  /// The event of that kind, of which there must be one; it holds these members.
+  Json One(const std::string& kind, const Json& members = Json::object());
 
   TempFolder folder_;
   std::ostringstream lines_;
@@ -96,7 +100,6 @@ class DeskTest : public testing::Test {
   Desk desk_;
 
  private:
-  std::vector<std::string> Take(const std::string& kind, const char* member);
   void ReadLog();
 
   std::vector<Json> events_;
