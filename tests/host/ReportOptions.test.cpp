@@ -14,10 +14,6 @@ TEST(ReportOptions, AListOfPairsSetsEachOption) {
   EXPECT_FALSE(options.Option("HEADING").ToFlag());
   EXPECT_EQ(options.Option("Copies").ToInteger(), 2);
   EXPECT_TRUE(options.Option("BottomLine").IsEmpty());
-}
-
-TEST(ReportOptions, CommasInsideAValueStay) {
-  CReportOptions options;
   options.AddOptionText("Title2:=Station: Kandla, Pune,India a=b,,c,BottomLine=False,Note=x,");
   EXPECT_EQ(options.Option("Title2").ToText(), "Station: Kandla, Pune,India a=b,,c");
   EXPECT_EQ(options.Option("BottomLine").ToText(), "False");

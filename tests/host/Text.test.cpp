@@ -11,28 +11,25 @@ namespace {
 constexpr const char* kSmile = "\xF0\x9F\x98\x80";
 
 TEST(Text, LengthsCountUtf16Units) {
-  EXPECT_EQ(text::Length(""), 0U);
-  EXPECT_EQ(text::Length("Ram"), 3U);
-  EXPECT_EQ(text::Length("राम"), 3U);
-  EXPECT_EQ(text::Length("श्री"), 4U);
-  EXPECT_EQ(text::Length(std::string("a") + kSmile + "b"), 4U);
+  for (const auto& [text, length] : {std::pair<std::string, std::size_t>{"", 0},
+                                     {"Ram", 3},
+                                     {"राम", 3},
+                                     {"श्री", 4},
+                                     {std::string("a") + kSmile + "b", 4}}) {
+    EXPECT_EQ(text::Length(text), length) << text;
+  }
   EXPECT_EQ(text::Length("a\xFF\x80z"), 4U) << "damaged bytes count one each";
 }
 
 TEST(Text, LeftAndMidNeverCutAPair) {
-  const std::string mixed = std::string("a") + kSmile + "b";
-  EXPECT_EQ(text::Left(mixed, 0), "");
-  EXPECT_EQ(text::Left(mixed, 1), "a");
-  EXPECT_EQ(text::Left(mixed, 2), "a") << "half of a pair is dropped";
-  EXPECT_EQ(text::Left(mixed, 3), std::string("a") + kSmile);
-  EXPECT_EQ(text::Left(mixed, 99), mixed);
-  EXPECT_EQ(text::Mid(mixed, 1), mixed);
-  EXPECT_EQ(text::Mid(mixed, 2), kSmile + std::string("b"));
-  EXPECT_EQ(text::Mid(mixed, 3), "b") << "the second half is dropped too";
-  EXPECT_EQ(text::Mid(mixed, 3, 1), "");
+  const std::string smile = kSmile;
+  const std::string mixed = "a" + smile + "b";
+  const std::vector<std::string> lefts = {"", "a", "a", "a" + smile, mixed, mixed};
+  for (std::size_t i = 0; i < lefts.size(); ++i) EXPECT_EQ(text::Left(mixed, i), lefts[i]) << i;
+  const std::vector<std::string> mids = {mixed, mixed, smile + "b", "b", "b", ""};
+  for (std::size_t i = 1; i < mids.size(); ++i) EXPECT_EQ(text::Mid(mixed, i), mids[i]) << i;
+  EXPECT_EQ(text::Mid(mixed, 3, 1), "") << "the second half is dropped too";
   EXPECT_EQ(text::Mid(mixed, 3, 2), "b");
-  EXPECT_EQ(text::Mid(mixed, 4), "b");
-  EXPECT_EQ(text::Mid(mixed, 5), "");
   EXPECT_EQ(text::Mid("हिन्दी", 3, 2), "न्");
   EXPECT_EQ(text::Mid("abc", 0, 2), "ab");
 }
