@@ -158,36 +158,32 @@ TEST_F(HostWork, ASiblingNamesFilesAndAccountsAreFilteredByTicks) {
 }
 
 TEST_F(HostWork, FieldsOfAScreenAreKeptWithTheirKinds) {
-  bool landscape = true;
-  long copies = 3;
-  double margin = 0.25;
-  Amount rate = Amount::OfText("9.5");
-  std::string name = "A, \"B\"\n<|||>";
+  struct Screen {
+    bool landscape = false;
+    long copies = 5;
+    double margin = 7;
+    Amount rate;
+    std::string name;
+    bool operator==(const Screen&) const = default;
+  };
+  const Screen kept{true, 3, 0.25, Amount::OfText("9.5"), "A, \"B\"\n<|||>"};
+  Screen screen = kept;
   StoredFields fields;
-  fields.Add("Landscape", landscape);
-  fields.Add("Copies", copies);
-  fields.Add("Margin", margin);
-  fields.Add("Rate", rate);
-  fields.Add("Name", name);
+  fields.Add("Landscape", screen.landscape);
+  fields.Add("Copies", screen.copies);
+  fields.Add("Margin", screen.margin);
+  fields.Add("Rate", screen.rate);
+  fields.Add("Name", screen.name);
   CNameValues bag;
   fields.Save(bag);
   gApp->PutFirmSetting("Test", bag.Text());
-  landscape = false;
-  copies = 0;
-  margin = 7;
-  rate = Amount();
-  name.clear();
+  screen = {};
+  fields.Load(CNameValues());
+  EXPECT_EQ(screen, Screen()) << "what was never stored stays as it is";
   CNameValues stored;
   stored.Load(gApp->GetFirmSetting("Test"));
   fields.Load(stored);
-  EXPECT_TRUE(landscape);
-  EXPECT_EQ(copies, 3);
-  EXPECT_EQ(margin, 0.25);
-  EXPECT_EQ(rate, Amount::OfText("9.5"));
-  EXPECT_EQ(name, "A, \"B\"\n<|||>");
-  copies = 5;
-  fields.Load(CNameValues());
-  EXPECT_EQ(copies, 5) << "what was never stored stays as it is";
+  EXPECT_EQ(screen, kept);
 }
 
 }  // namespace

@@ -39,11 +39,13 @@ class ChartTest : public FormTest {
   QImage Picture() {
     return WidgetOf<QWidget>(chart_).grab().toImage().convertToFormat(QImage::Format_ARGB32);
   }
-  int Count(const std::function<bool(QRgb)>& meant) {
+  /// In the whole picture, or in a part of it.
+  int Count(const std::function<bool(QRgb)>& meant, QRect part = {}) {
     const QImage picture = Picture();
+    if (part.isNull()) part = picture.rect();
     int count = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) count += meant(picture.pixel(x, y)) ? 1 : 0;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+      for (int x = part.left(); x <= part.right(); ++x) count += meant(picture.pixel(x, y)) ? 1 : 0;
     }
     return count;
   }
@@ -109,12 +111,7 @@ TEST_F(ChartTest, TheAxisGoesInRoundStepsGroupedTheIndianWay) {
 TEST_F(ChartTest, ValuesStandOnBothSidesAndAFootnoteBelow) {
   Fill({{300000}, {100000}});
   const auto inked = [this](const QRect& part) {
-    const QImage picture = Picture();
-    int dots = 0;
-    for (int y = part.top(); y <= part.bottom(); ++y) {
-      for (int x = part.left(); x <= part.right(); ++x) dots += qGray(picture.pixel(x, y)) < 160 ? 1 : 0;
-    }
-    return dots;
+    return Count([](QRgb dot) { return qGray(dot) < 160; }, part);
   };
   const QRect all = Picture().rect();
   const QRect right(all.right() - 60, all.top(), 60, all.height() - 60);

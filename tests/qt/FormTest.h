@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "desk/qt/adapters/Adapter.h"
+#include "desk/qt/dialogs/MessageDialog.h"
 #include "desk/qt/windows/FormView.h"
 #include "desk/qt/windows/QtRuntime.h"
 #include "tests/support/TempFolder.h"
@@ -20,7 +21,8 @@ class FormTest : public testing::Test {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
-  template <class T>
+  /// The widget of a control of a form that has a view.
+  template <class T = QWidget>
   T& WidgetOf(const Control& control) {
     Adapter* const adapter = runtime_.ViewOf(control.OwnerForm())->AdapterOf(control);
     return dynamic_cast<T&>(adapter->Widget());
@@ -28,6 +30,16 @@ class FormTest : public testing::Test {
 
   /// Runs when the desk waits for its user.
   static void Soon(const std::function<void()>& act) { QTimer::singleShot(0, qApp, act); }
+
+  /// The next message is taken down and answered by the key.
+  static void Dismiss(QString& told, Qt::Key key = Qt::Key_Return) {
+    Soon([&told, key] {
+      auto* const box = dynamic_cast<MessageDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      told = box->accessibleDescription();
+      QTest::keyClick(box->focusWidget(), key);
+    });
+  }
 
   /// A key on whatever has the toolkit's focus in the form's window.
   void Press(Form& form, Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {

@@ -1,10 +1,6 @@
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-#include "desk/qt/dialogs/DateDialog.h"
-#include "desk/qt/dialogs/MessageDialog.h"
 #include "desk/qt/windows/PageView.h"
 #include "desk/qt/windows/SightWindow.h"
 #include "host/controls/CButton.h"
@@ -94,12 +90,7 @@ TEST_F(FormsTest, AnErrorInAHandlerIsToldAndTheFormGoesOn) {
   const auto form = std::make_shared<frmDialog>("frmFaulty");
   runtime_.Show(form);
   QString told;
-  Soon([&] {
-    auto* const box = dynamic_cast<MessageDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(box, nullptr);
-    told = box->accessibleDescription();
-    QTest::keyClick(box, Qt::Key_Return);
-  });
+  Dismiss(told);
   Press(*form, Qt::Key_F3);
   EXPECT_EQ(told, "The books are locked");
   Type(*form, "on");
@@ -187,12 +178,10 @@ TEST_F(FormsTest, APreviewIsSearchedFromPageToPageAndRoundAgain) {
     pages.Pages.push_back({{}, {}, {{150, 600, text, font, 0}}});
   }
   PageView view(pages);
-  ASSERT_TRUE(view.FindNext("balance"));
-  EXPECT_EQ(view.PageAt(view.Mark().center().y()), 0U);
-  ASSERT_TRUE(view.FindNext("balance"));
-  EXPECT_EQ(view.PageAt(view.Mark().center().y()), 2U);
-  ASSERT_TRUE(view.FindNext("balance"));
-  EXPECT_EQ(view.PageAt(view.Mark().center().y()), 0U);
+  for (const std::size_t page : {0U, 2U, 0U}) {
+    ASSERT_TRUE(view.FindNext("balance"));
+    EXPECT_EQ(view.PageAt(view.Mark().center().y()), page);
+  }
   const int small = view.Mark().width();
   view.SetPercent(200);
   EXPECT_NEAR(view.Mark().width(), 2 * small, 8);

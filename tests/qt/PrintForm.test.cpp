@@ -1,6 +1,4 @@
-#include <csignal>
 #include <filesystem>
-#include <sys/resource.h>
 
 #include "desk/print/PdfPrinter.h"
 #include "desk/qt/windows/FormPicture.h"
@@ -8,6 +6,7 @@
 #include "host/controls/host_controls.h"
 #include "host/services/Calibration.h"
 #include "tests/qt/FormTest.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/PdfReader.h"
 
 namespace quillon {
@@ -92,23 +91,6 @@ TEST_F(PrintFormTest, TheCrossesOfAProofSheetLieWhereTheyAreMeasuredFrom) {
   }
   EXPECT_NEAR(pdf.Find("Proof").left, 80 * kMillimetre, 60);
 }
-
-/// No file grows beyond so many bytes while it lives, as on a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit full{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-
- private:
-  rlimit before_{};
-};
 
 TEST_F(PrintFormTest, WhatADiskCannotHoldIsToldAndLeavesNothing) {
   const auto form = std::make_shared<frmPage>();

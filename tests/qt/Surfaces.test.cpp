@@ -2,7 +2,6 @@
 #include <QPlainTextEdit>
 
 #include "desk/qt/adapters/GridWidget.h"
-#include "desk/qt/adapters/Icons.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
 #include "desk/qt/windows/FormPicture.h"
@@ -15,12 +14,7 @@ namespace {
 /// An inch grid with texts on it, as the layout of an envelope.
 class frmSheet : public Form {
  public:
-  frmSheet()
-      : Form("frmSheet"),
-        Lbl(*this, "Lbl", {0, 1}),
-        picSide(*this, "picSide"),
-        txtLines(*this, "txtLines"),
-        Grid(*this, "Grid") {
+  frmSheet() : Form("frmSheet") {
     Width = 9000;
     Height = 6000;
     BackColor = 0xFFFFFF;
@@ -43,10 +37,10 @@ class frmSheet : public Form {
     Grid.Move(300, 3150, 5000, 2700);
   }
 
-  ControlArray<Label> Lbl;
-  PictureBox picSide;
-  TextBox txtLines;
-  MSHFlexGrid Grid;
+  ControlArray<Label> Lbl{*this, "Lbl", {0, 1}};
+  PictureBox picSide{*this, "picSide"};
+  TextBox txtLines{*this, "txtLines"};
+  MSHFlexGrid Grid{*this, "Grid"};
 };
 
 class SurfacesTest : public FormTest {
@@ -148,16 +142,6 @@ TEST_F(SurfacesTest, ABoxOfSeveralLinesShowsTheCaretWhereTheModelHasIt) {
   QTest::mouseClick(area.viewport(), Qt::LeftButton, {}, place.center());
   Press(*form_, Qt::Key_Backspace);
   EXPECT_EQ(form_->txtLines.Text().find("!"), std::string::npos);
-}
-
-TEST_F(SurfacesTest, EveryButtonOfTheScreensHasItsIcon) {
-  for (const char* key :
-       {"Account",  "AcStatement", "Balance",  "Cheque",  "Close",  "Config",     "Customers",
-        "Date",     "Delete",      "Disable",  "Envelop", "Expand", "Filter",     "Graph",
-        "Interest", "LeftArrow",   "List",     "Master",  "Modify", "New",        "Next",
-        "PassBook", "Preview",     "Previous", "Print",   "Report", "RightArrow", "Save"}) {
-    EXPECT_TRUE(Icons::Has(QLatin1String(key))) << key;
-  }
 }
 
 }  // namespace

@@ -77,14 +77,6 @@ TEST(DayProducts, RowsWithoutADateStayWhereTheyStand) {
   EXPECT_EQ(Table({}), Rows());
 }
 
-TEST(DayProducts, ContraEntriesNeverCount) {
-  for (const int nature : {5002, 5012, 5024, 5031, 5041, 5051}) {
-    EXPECT_EQ(Table({Debit("01-Apr-2024", "10"), Debit("05-Apr-2024", "70", nature)}),
-              (Rows{"01-Apr-2024|10|0|10|4|40", "05-Apr-2024|0|0|10|361|3610"}))
-        << nature;
-  }
-}
-
 TEST(DayProducts, SomeNaturesDoNotCountOnTheLastDay) {
   for (const int nature : {5054, 5055, 5043, 5032, 5022, 5023}) {
     EXPECT_FALSE(CountsForInterest(nature, kLast, kLast)) << nature;
@@ -96,14 +88,6 @@ TEST(DayProducts, SomeNaturesDoNotCountOnTheLastDay) {
   EXPECT_EQ(
       Table({Debit("30-Mar-2025", "10", 5022), Debit("31-Mar-2025", "10", 5022), Credit("31-Mar-2025", "3")}),
       (Rows{"30-Mar-2025|10|0|10|1|10", "31-Mar-2025|0|3|7|1|7"}));
-}
-
-TEST(DayProducts, LeavingTheRangeIsAnError) {
-  const char* most = "922337203685477.5807";
-  DayProducts one({Debit("31-Mar-2025", most)}, kFirst, kLast);
-  EXPECT_EQ(one.Next()->Product, Of(most));
-  DayProducts two({Debit("30-Mar-2025", most)}, kFirst, kLast);
-  EXPECT_THROW(two.Next(), OverflowError);
 }
 
 InterestTerms Terms(const char* rate, const std::string& method = "Product Method", int decimals = 2,

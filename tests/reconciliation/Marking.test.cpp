@@ -16,21 +16,11 @@ class Marking : public BankTest {
     BankTest::SetUp();
     AddAccount(102, "Konkan Bank", 47, "Pune");
     AddVoucher({.id = 2, .date = "2024-04-05", .amount = "1500.5", .narration = "Chq.No. 470251 received"});
-    AddVoucher({.id = 3,
-                .date = "2024-04-08",
-                .amount = "-1234567.891",
-                .narration = "Paid by 470252",
-                .other = 202});
-    AddVoucher({.id = 4,
-                .date = "2024-04-09",
-                .amount = "-75",
-                .cleared = "2024-04-11",
-                .narration = "Paid by 470253"});
-    AddVoucher({.id = 5,
-                .date = "2024-04-08",
-                .amount = "1",
-                .narration = "Chq.No. 470252 of the other bank",
-                .account = 102});
+    AddVoucher(
+        {.id = 3, .date = "2024-04-08", .amount = "-1234567.891", .narration = "By 470252", .other = 202});
+    AddVoucher(
+        {.id = 4, .date = "2024-04-09", .amount = "-75", .cleared = "2024-04-11", .narration = "By 470253"});
+    AddVoucher({.id = 5, .date = "2024-04-08", .amount = "1", .narration = "Chq.No. 470252", .account = 102});
   }
 
   void Open(const std::string& from = "01-Apr-2024", const std::string& to = "30-Apr-2024") {
@@ -81,22 +71,8 @@ TEST_F(Marking, OpensOnAnEmptyPage) {
   EXPECT_TRUE(Grid().HasFocus());
   EXPECT_EQ(Grid().Rows(), 2);
   EXPECT_EQ((std::pair{Grid().Row(), Grid().Col()}), (std::pair{1, kClearDate}));
-  Texts columns;
-  for (int col = 0; col < Grid().Cols; ++col) {
-    columns.push_back(Grid().TextMatrix(0, col) + "," + std::to_string(Grid().ColWidth(col)) + "," +
-                      std::to_string(Grid().ColAlignment(col)));
-  }
-  columns.erase(columns.begin(), columns.begin() + 2);
-  EXPECT_EQ(columns, (Texts{"Clear Date,1200,1", "Chq. No.,1000,1", "Vch.Date,1200,1", "Narration,2000,1",
-                            "Debit,1200,7", "Credit,1200,7", "Pre Marked,1200,1", "Cross Ref.,2500,1"}));
-  EXPECT_EQ(Grid().ColWidth(0) + Grid().ColWidth(1), 0);
-  Texts shown;
-  for (int i = 0; i < Bar().Count(); ++i) {
-    if (Bar().Buttons(i).Visible())
-      shown.push_back(Bar().Buttons(i).Key() + "," + Bar().Buttons(i).Caption());
-  }
-  EXPECT_EQ(shown, (Texts{"RemoveMark,F3: Remove Mark", "Clear,F6: Clear Page", "Preview,F8: Preview",
-                          "Print,F9: Print", "Exit,Esc: Exit"}));
+  EXPECT_EQ(ShownTitles(Grid()), "Clear Date|Chq. No.|Vch.Date|Narration|Debit|Credit|Pre Marked|Cross Ref.");
+  EXPECT_EQ(ShownCaptions(Bar()), "F3: Remove Mark|F6: Clear Page|F8: Preview|F9: Print|Esc: Exit");
   Key(*form_, keys::kEscape);
   EXPECT_FALSE(form_->IsLoaded());
   EXPECT_EQ(desk_.App().Windows().size(), 0U);
@@ -110,18 +86,8 @@ TEST_F(Marking, ARunOfChequesOfOneDateIsTypedByNumbersAlone) {
   TypeKeys(*form_, "470251");
   Statements();
   Key(*form_, keys::kEnter);
-  const Texts sent = Statements();
-  ASSERT_GE(sent.size(), 3U);
-  EXPECT_EQ(sent[0],
-            "SELECT A.VOUCHERID,A.DVCHSUBNO,A.DVCHDATE,N.NARRATION,A.DAMT,A.DBANKDATE FROM FADATA A "
-            "INNER JOIN FANAR N ON A.NARRATIONID=N.NARRATIONID "
-            "WHERE A.DCD=101 AND N.NARRATION LIKE '%470251%' "
-            "AND A.DVCHDATE BETWEEN '2024-04-05' and '2024-04-08' ORDER BY A.DBANKDATE");
-  EXPECT_EQ(sent[1],
-            "UPDATE FADATA SET DBANKDATE='2024-04-08' WHERE DCD=101 AND VOUCHERID=2 AND DVCHSUBNO=1");
-  EXPECT_EQ(sent[2],
-            "SELECT FIRST 1 A.DCD,B.MHD FROM FADATA A INNER JOIN FAMASTER B ON A.DCD=B.MCD "
-            "WHERE A.VOUCHERID=2 AND A.DCD<>101 ORDER BY ABS(DAMT) DESC");
+  EXPECT_EQ(Updates(),
+            Texts{"UPDATE FADATA SET DBANKDATE='2024-04-08' WHERE DCD=101 AND VOUCHERID=2 AND DVCHSUBNO=1"});
   EXPECT_EQ(Row(1), "2|201|08-Apr-2024|470251|05-Apr-2024|Chq.No. 470251 received|1500.50|||Asha Traders");
   EXPECT_EQ(Stored(2), "08-Apr-2024");
   EXPECT_EQ(Stored(2, 2), "");
@@ -133,7 +99,7 @@ TEST_F(Marking, ARunOfChequesOfOneDateIsTypedByNumbersAlone) {
   EXPECT_EQ(At<CMStrip>(form_, "MStrip1").Code(), 0);
   TypeKeys(*form_, "470252");
   Key(*form_, keys::kEnter);
-  EXPECT_EQ(Row(2), "3|202|08-Apr-2024|470252|08-Apr-2024|Paid by 470252||1234567.89||Bharat Mills");
+  EXPECT_EQ(Row(2), "3|202|08-Apr-2024|470252|08-Apr-2024|By 470252||1234567.89||Bharat Mills");
   EXPECT_EQ(Stored(3), "08-Apr-2024");
   EXPECT_EQ(Stored(5), "") << "the other bank's cheque";
 
@@ -154,7 +120,7 @@ TEST_F(Marking, AnEntryMarkedBeforeKeepsItsDateAndCountsAsMatched) {
   Match(1, "12/4/2024", "470253");
   EXPECT_EQ(Events("beep").size(), 1U);
   EXPECT_EQ(Updates(), Texts());
-  EXPECT_EQ(Row(1), "4|201|12-Apr-2024|470253|09-Apr-2024|Paid by 470253||75.00|11-Apr-2024|Asha Traders");
+  EXPECT_EQ(Row(1), "4|201|12-Apr-2024|470253|09-Apr-2024|By 470253||75.00|11-Apr-2024|Asha Traders");
   EXPECT_EQ(Stored(4), "11-Apr-2024");
   EXPECT_TRUE(Grid().EditMode());
   EXPECT_EQ((std::pair{Grid().EditRow(), Grid().EditCol()}), (std::pair{2, kClearDate})) << "it moves on";
@@ -253,7 +219,7 @@ TEST_F(Marking, TheSearchKeepsToItsDays) {
   EXPECT_EQ(Events("beep").size(), 1U) << "the second time it was marked already";
 }
 
-TEST_F(Marking, UpToTenMatchesAreOfferedInAList) {
+TEST_F(Marking, UpToTenMatchesAreOfferedInAListAndElevenAreTooMany) {
   AddCheques(10);
   Db().Execute("update FAData set dBankDate='2024-06-09' where VoucherID=27 and dcd=101");
   Open();
@@ -276,18 +242,12 @@ TEST_F(Marking, UpToTenMatchesAreOfferedInAList) {
   EXPECT_EQ(Grid().TextMatrix(1, 0), "22");
   EXPECT_EQ(Stored(22), "15-Jun-2024");
   EXPECT_EQ(Db().Lookup("FAData", "count(*)", "dBankDate is not null and VoucherID>=20").ToInteger(), 2);
-}
-
-TEST_F(Marking, ElevenMatchesAreTooMany) {
-  AddCheques(11);
-  Open();
-  Days("30");
-  EXPECT_TRUE(Date(1, "15/6/2024"));
+  AddVoucher({.id = 30, .date = "2024-06-11", .amount = "1", .narration = "Chq. 555020"});
+  EXPECT_TRUE(Date(2, "15/6/2024"));
   AnswerMessage();
-  EXPECT_FALSE(Number(1, "555"));
+  EXPECT_FALSE(Number(2, "555"));
   EXPECT_EQ(Told(), Texts{"W: 11 records found, can't continue."});
-  EXPECT_EQ(Events("pick").size(), 0U);
-  EXPECT_EQ(Updates(), Texts());
+  EXPECT_EQ(Events("pick").size(), 1U) << "only those that were picked from";
 }
 
 TEST_F(Marking, OfTwoLinesOfOneVoucherTheFirstIsTaken) {

@@ -159,19 +159,13 @@ TEST_F(MassMarking, ChangesNothingUntilAllIsConfirmed) {
 }
 
 TEST_F(MassMarking, ADateThatIsBeingTypedIsStoredFirst) {
-  Do([&] {
-    ASSERT_TRUE(Grid().UserEnterCell(2, kCleared));
-    Grid().UserType("9");
-  });
+  TypeInCell(Grid(), 2, kCleared, "9");
   Run(kMark, "05-Apr-2024", "12-Apr-2024");
   EXPECT_EQ(Stored(), (Texts{"09/04", "10/04", "12/04", "", ""}));
   Events("message");
   Events("menu");
   // In the middle of a nonsense date there is no menu.
-  Do([&] {
-    ASSERT_TRUE(Grid().UserEnterCell(2, kCleared));
-    Grid().UserType("nonsense");
-  });
+  TypeInCell(Grid(), 2, kCleared, "nonsense");
   AnswerMessage();
   Key(*bench_, keys::kF3);
   EXPECT_EQ(Messages(), Texts{"Invalid Date"});

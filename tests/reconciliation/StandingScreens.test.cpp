@@ -78,10 +78,7 @@ TEST_F(StandingScreens, ClosingTheStatementClosesTheLastOpenedFirstAndOneThatRef
   const FormPtr markings = runtime_.ActiveForm();
   ASSERT_EQ(markings->Name(), "frmAcReconciliationMark");
   Front(bench_);
-  Do([&] {
-    ASSERT_TRUE(Entries().UserEnterCell(2, kCleared));
-    Entries().UserType("soon");
-  });
+  TypeInCell(Entries(), 2, kCleared, "soon");
   Front(statement_);
   AnswerMessage();
   Do([&] { runtime_.Unload(*statement_); });

@@ -1,5 +1,7 @@
 #include "tests/support/BankTest.h"
 
+#include "host/values/Text.h"
+
 namespace quillon {
 
 void BankTest::SetUp() {
@@ -19,13 +21,20 @@ void BankTest::Choose(int filter) {
   Do([&] { At<ComboBox>(bench_, "cmbFilter").UserChoose(filter); });
 }
 
-void ExpectColumns(const GridModel& grid, const std::map<int, std::pair<std::string, int>>& shown) {
-  const long unit = gRuntime->TextWidth(grid.Font, "9");
+std::string ShownTitles(const GridModel& grid) {
+  std::vector<int> shown;
   for (int col = 0; col < grid.Cols; ++col) {
-    const auto known = shown.find(col);
-    EXPECT_EQ(grid.ColWidth(col), known == shown.end() ? 0 : known->second.second * unit) << col;
-    EXPECT_EQ(grid.TextMatrix(0, col), known == shown.end() ? "" : known->second.first) << col;
+    if (grid.ColWidth(col) > 0) shown.push_back(col);
   }
+  return RowText(grid, 0, shown);
+}
+
+std::string ShownCaptions(CButtonBar& bar) {
+  std::vector<std::string> shown;
+  for (int i = 0; i < bar.Count(); ++i) {
+    if (bar.Buttons(i).Visible()) shown.push_back(bar.Buttons(i).Caption());
+  }
+  return text::Join(shown, "|");
 }
 
 }  // namespace quillon

@@ -28,8 +28,10 @@ class BankTest : public DeskTest {
   FormPtr bench_;
 };
 
-/// Holds the titles and widths of a grid's columns, in digits of its font, against those that it shall show;
-/// all others are hidden and without a title.
-void ExpectColumns(const GridModel& grid, const std::map<int, std::pair<std::string, int>>& shown);
+/// The titles of the columns that a grid shows, joined by bars.
+std::string ShownTitles(const GridModel& grid);
+
+/// The captions of the buttons that a bar shows, joined by bars.
+std::string ShownCaptions(CButtonBar& bar);
 
 }  // namespace quillon

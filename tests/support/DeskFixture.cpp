@@ -221,6 +221,14 @@ std::vector<std::string> RowTexts(const GridModel& grid, const std::vector<int>&
   return rows;
 }
 
+void TypeInCell(EditableGrid& grid, int row, int col, const std::string& text) {
+  gRuntime->Act([&] {
+    ASSERT_TRUE(grid.UserEnterCell(row, col));
+    grid.UserType(text);
+  });
+  gRuntime->DeliverKeys();
+}
+
 bool EditCell(EditableGrid& grid, int row, int col, const std::string& text) {
   bool left = false;
   gRuntime->Act([&] {

@@ -117,6 +117,9 @@ std::string RowText(const GridModel& grid, int row, const std::vector<int>& cols
 /// Those of all rows below the headings.
 std::vector<std::string> RowTexts(const GridModel& grid, const std::vector<int>& cols);
 
+/// A cell entered and typed into, but not left.
+void TypeInCell(EditableGrid& grid, int row, int col, const std::string& text);
+
 /// A cell from the person's first key to leaving it; whether it was left.
 bool EditCell(EditableGrid& grid, int row, int col, const std::string& text);
 
