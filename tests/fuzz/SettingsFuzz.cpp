@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <fstream>
 
 #include "desk/services/NameText.h"
@@ -8,6 +7,7 @@
 #include "host/data/CXmlTable.h"
 #include "host/values/Text.h"
 #include "tests/fuzz/Mutator.h"
+#include "tests/support/TempFolder.h"
 
 namespace quillon {
 namespace {
@@ -60,40 +60,18 @@ TEST(Fuzz, TextTable) {
 }
 
 TEST(Fuzz, XmlTable) {
-  std::string pattern = (std::filesystem::temp_directory_path() / "quillon-XXXXXX").string();
-  const std::filesystem::path folder = mkdtemp(pattern.data());
-  const std::string file = (folder / "layout.xml").string();
+  const TempFolder folder;
+  const std::string file = folder.File("layout.xml");
   const Mutator layouts(
       {"<?xml version=\"1.0\" ?>\n<DataRoot>\n<Chq>\n"
        "<Data>\n<ObjID>Pay &amp; to</ObjID>\n<PosX>1</PosX>\n</Data>\n<Data/>\n</Chq>\n</DataRoot>\n",
        "<R><Chq><Data><ObjID><![CDATA[a]]>b</ObjID></Data></Chq></R>",
        std::string("\xFF\xFE<\0R\0/\0>\0", 10)},
-      {"<",
-       ">",
-       "</",
-       "/>",
-       "&",
-       "&amp;",
-       "&#0;",
-       "&#x10FFFF;",
-       "&#xD800;",
-       "<!--",
-       "-->",
-       "<![CDATA[",
-       "]]>",
-       "<Data>",
-       "</Data>",
-       "<Chq>",
-       "<!DOCTYPE a [<!ENTITY b \"&b;\">]>",
-       "<?",
-       "?>",
-       "\"",
-       std::string(1, '\0'),
-       "\xEF\xBB\xBF",
-       "\xFE\xFF",
-       "encoding=\"UTF-16\"",
-       "\xFF",
-       "राम"});
+      text::Split("< > </ /> & &amp; &#0; &#x10FFFF; &#xD800; <!-- --> <![CDATA[ ]]> <Data> </Data> <Chq> "
+                  "<!DOCTYPE\ta\t[<!ENTITY\tb\t\"&b;\">]> <? ?> \" \xEF\xBB\xBF \xFE\xFF "
+                  "encoding=\"UTF-16\" \xFF राम " +
+                      std::string(1, '\0'),
+                  " "));
   CXmlTable table;
   Fuzz(
       layouts,
@@ -109,7 +87,6 @@ TEST(Fuzz, XmlTable) {
         }
       },
       1000);
-  std::filesystem::remove_all(folder);
 }
 
 TEST(Fuzz, NamesAndNarrations) {

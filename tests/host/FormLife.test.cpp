@@ -20,16 +20,12 @@ class Dialog : public Form {
   CTextPlus txtSecond{*this, "txtSecond"};
   CGridPlus Grid{*this, "Grid"};
   ControlArray<CButton> btnOKCancel{*this, "btnOKCancel", {0, 1}};
-  std::function<void()> Loading;
   std::function<void()> Leaving;
   std::function<void(KeyEvent&)> Pressed;
   Texts Told;
 
  protected:
-  void OnLoad() override {
-    Told.push_back(txtFirst.Visible ? "load, seen" : "load");
-    if (Loading) Loading();
-  }
+  void OnLoad() override { Told.push_back(txtFirst.Visible ? "load, seen" : "load"); }
   void OnActivate() override { Told.push_back(txtFirst.Visible ? "activate, seen" : "activate"); }
   void OnUnload() override {
     Told.push_back("unload");
@@ -64,32 +60,6 @@ TEST_F(FormLife, LoadsIsSeenActivatesAndUnloads) {
   EXPECT_EQ(second->Told.back(), "unload");
   EXPECT_EQ(first->Told, (Texts{"load", "activate, seen", "activate, seen"}));
   EXPECT_EQ(gRuntime->Forms(Form::Origin::Module), std::vector<FormPtr>{first});
-}
-
-TEST_F(FormLife, AModalFormInsideAModalForm) {
-  const auto owner = Shown();
-  const auto outer = std::make_shared<Dialog>();
-  const auto inner = std::make_shared<Dialog>();
-  outer->Pressed = [&](KeyEvent& key) {
-    if (key.KeyCode != keys::kF2) return;
-    key.KeyCode = 0;
-    gRuntime->Show(inner, true, outer);
-    outer->Told.push_back("inner ended");
-  };
-  const Acts acts = {
-      [&] { Key(*outer, keys::kF2); },
-      [&] {
-        EXPECT_TRUE(gRuntime->IsCovered(*outer));
-        Refuses([&] { outer->txtFirst.UserType("x"); }, "The form Dialog is covered by another one");
-        Refuses([&] { owner->txtFirst.UserType("x"); }, "The form Dialog is covered by another one");
-      },
-      [&] { Key(*inner, keys::kEscape); }, [&] { outer->btnOKCancel(0).UserClick(); }};
-  During([&] { gRuntime->Show(outer, true, owner); }, acts);
-  EXPECT_EQ(outer->Told, (Texts{"load", "activate, seen", "activate, seen", "inner ended"}));
-  EXPECT_FALSE(outer->IsShownToUser());
-  EXPECT_TRUE(outer->IsLoaded()) << "hidden, it keeps its results for the caller";
-  EXPECT_FALSE(inner->IsLoaded());
-  EXPECT_EQ(gRuntime->ActiveForm(), owner);
 }
 
 TEST_F(FormLife, AClosedFormKeepsItsCellsAsLongAsItsCallerMayLook) {
@@ -129,19 +99,6 @@ TEST_F(FormLife, AFormMayCloseInItsOwnKeyHandler) {
   TypeKeys(*other, "x");
   EXPECT_FALSE(other->IsLoaded());
   EXPECT_EQ(other->txtFirst.Text(), "");
-}
-
-TEST_F(FormLife, AFormThatFailsToLoadIsNotLoaded) {
-  const auto dialog = std::make_shared<Dialog>();
-  dialog->Loading = [] { throw HostError("No data"); };
-  Do([&] { gRuntime->Show(dialog); });
-  EXPECT_EQ(Errors(), Texts{"No data"});
-  EXPECT_FALSE(dialog->IsLoaded());
-  EXPECT_TRUE(gRuntime->Forms(Form::Origin::Module).empty());
-  dialog->Loading = nullptr;
-  Do([&] { gRuntime->Show(dialog); });
-  EXPECT_EQ(dialog->Told, (Texts{"load", "unload", "load", "activate, seen"}))
-      << "a second attempt loads again";
 }
 
 TEST_F(FormLife, TerminateEndsAllFormsAlsoThoseThatFail) {

@@ -4,7 +4,6 @@
 #include "host/data/CNameValues.h"
 #include "host/data/CTextTable.h"
 #include "host/values/Errors.h"
-#include "host/values/Text.h"
 
 namespace quillon {
 namespace {
@@ -60,26 +59,6 @@ TEST(StoredSettings, EveryValueOfABagComesBackInItsOrder) {
   }
 }
 
-TEST(StoredSettings, TwoStoredTextsTravelInOneSetting) {
-  CNameValues margins;
-  margins.SetItem("TopMargin", "1.25");
-  margins.SetItem("Note", "split <|||> here");
-  CTextTable objects;
-  objects.SetFields("Name,Visible,Value");
-  objects.SetField(1, "Value", "a<|||>b");
-  const std::vector<std::string> pieces = text::Split(margins.Text() + kJoint + objects.Text(), kJoint);
-  ASSERT_EQ(pieces.size(), 2U);
-  CNameValues read;
-  read.Load(pieces[0]);
-  EXPECT_EQ(read.Item("topmargin"), "1.25");
-  CTextTable table;
-  table.SetFields("Name,Visible,Value");
-  table.Load(pieces[1]);
-  EXPECT_EQ(table.RowCount(), 2U);
-  EXPECT_EQ(table.Field(0, "Value"), "");
-  EXPECT_EQ(table.Field(1, "Value"), "a<|||>b");
-}
-
 TEST(StoredSettings, ATextCutOffAnywhereIsRefusedAndChangesNothing) {
   CTextTable table;
   table.SetFields("ObjID,PosX");
@@ -106,19 +85,7 @@ TEST(StoredSettings, ATextCutOffAnywhereIsRefusedAndChangesNothing) {
   EXPECT_TRUE(bag.Items().empty());
 }
 
-TEST(StoredSettings, LaterColumnsOfAnOlderTextAreEmpty) {
-  CTextTable old;
-  old.SetFields("PrintStamp,FontName");
-  old.SetField(0, "FontName", "Arial");
-  CTextTable table;
-  table.Load(old.RowText(0), "PrintStamp, FontName, BankDetails");
-  EXPECT_EQ(table.Field(0, "FontName"), "Arial");
-  EXPECT_EQ(table.Field(0, "BankDetails"), "");
-  table.SetField(0, "BankDetails", "1");
-  EXPECT_EQ(table.Field(0, "bankdetails"), "1");
-}
-
-TEST(StoredSettings, RowsGrowAndShrink) {
+TEST(StoredSettings, RowsGrowAndShrinkAndLaterColumnsAreEmpty) {
   CTextTable table;
   table.SetFields("ObjID");
   EXPECT_THROW(table.SetField(0, "PosX", "1"), SubscriptError);
@@ -129,9 +96,13 @@ TEST(StoredSettings, RowsGrowAndShrink) {
   EXPECT_EQ(table.RowCount(), 2U);
   EXPECT_EQ(table.Field(3, "ObjID"), "");
   EXPECT_EQ(table.Field(0, "Unknown"), "");
+  table.SetField(1, "ObjID", "Date");
   CTextTable read;
-  read.Load(table.Text(), "ObjID");
-  EXPECT_EQ(read.RowCount(), 2U) << "rows without a value are rows";
+  read.Load(table.Text(), "ObjID, BankDetails");
+  ASSERT_EQ(read.RowCount(), 2U) << "rows without a value are rows";
+  EXPECT_EQ(read.Field(1, "ObjID") + read.Field(1, "BankDetails"), "Date");
+  read.SetField(1, "BankDetails", "1");
+  EXPECT_EQ(read.Field(1, "bankdetails"), "1");
 }
 
 }  // namespace

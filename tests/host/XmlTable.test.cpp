@@ -1,8 +1,8 @@
-#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 
 #include "host/data/CXmlTable.h"
+#include "tests/support/TempFolder.h"
 
 namespace quillon {
 namespace {
@@ -10,18 +10,12 @@ namespace {
 /// A file that is gone when the test ends.
 class XmlTable : public testing::Test {
  protected:
-  XmlTable() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "quillon-XXXXXX").string();
-    folder_ = mkdtemp(pattern.data());
-  }
-  ~XmlTable() override { std::filesystem::remove_all(folder_); }
-
   std::string File(const std::string& content) const {
-    std::ofstream(folder_ / "layout.xml", std::ios::binary) << content;
-    return (folder_ / "layout.xml").string();
+    std::ofstream(folder_.File("layout.xml"), std::ios::binary) << content;
+    return folder_.File("layout.xml");
   }
 
-  std::filesystem::path folder_;
+  TempFolder folder_;
 };
 
 constexpr const char* kLayout =
@@ -65,8 +59,8 @@ TEST_F(XmlTable, AFileThatCannotBeReadHasNoTables) {
     table.SelectTable("ChqSettings");
     EXPECT_EQ(table.RowCount(), 0U) << bad;
   }
-  EXPECT_FALSE(table.Load(folder_.string())) << "a folder";
-  EXPECT_FALSE(table.Load((folder_ / "absent.xml").string()));
+  EXPECT_FALSE(table.Load(folder_.Path().string())) << "a folder";
+  EXPECT_FALSE(table.Load(folder_.File("absent.xml")));
 }
 
 TEST_F(XmlTable, ElementsNestedWithoutEndDoNoHarm) {

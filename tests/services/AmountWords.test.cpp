@@ -6,28 +6,24 @@
 #include <sstream>
 
 #include "host/values/Errors.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 namespace {
 
-std::string Words(const char* amount) { return AmountInWords(Amount::OfText(amount), "A"); }
+std::string Words(const std::string& amount) { return AmountInWords(Amount::OfText(amount), "A"); }
 
 TEST(AmountWords, AreWhatAChequeCarries) {
-  EXPECT_EQ(Words("1234567.5"),
-            "Twelve Lakh Thirty Four Thousand Five Hundred Sixty Seven and Paise Fifty Only");
-  EXPECT_EQ(Words("0"), "Zero Only");
-  EXPECT_EQ(Words("0.004"), "Zero Only");
-  EXPECT_EQ(Words("-0.004"), "Zero Only");
-  EXPECT_EQ(Words("0.05"), "Paise Five Only");
-  EXPECT_EQ(Words("1"), "One Only");
-  EXPECT_EQ(Words("19"), "Nineteen Only");
-  EXPECT_EQ(Words("20.20"), "Twenty and Paise Twenty Only");
-  EXPECT_EQ(Words("100"), "One Hundred Only");
-  EXPECT_EQ(Words("100001"), "One Lakh One Only");
-  EXPECT_EQ(Words("10000000"), "One Crore Only");
-  EXPECT_EQ(Words("99999.995"), "One Lakh Only");
-  EXPECT_EQ(Words("-45.10"), "Minus Forty Five and Paise Ten Only");
-  EXPECT_EQ(Words("1000000000000"), "One Lakh Crore Only");
+  for (const std::string& each :
+       text::Split("1234567.5|Twelve Lakh Thirty Four Thousand Five Hundred Sixty Seven and Paise Fifty Only;"
+                   "0|Zero Only;0.004|Zero Only;-0.004|Zero Only;0.05|Paise Five Only;1|One Only;"
+                   "19|Nineteen Only;20.20|Twenty and Paise Twenty Only;100|One Hundred Only;"
+                   "100001|One Lakh One Only;10000000|One Crore Only;99999.995|One Lakh Only;"
+                   "-45.10|Minus Forty Five and Paise Ten Only;1000000000000|One Lakh Crore Only",
+                   ";")) {
+    const auto c = text::Split(each, "|");
+    EXPECT_EQ(Words(c[0]), c[1]);
+  }
   EXPECT_EQ(
       Words("-922337203685477.5808"),
       "Minus Nine Crore Twenty Two Lakh Thirty Three Thousand Seven Hundred Twenty Crore Thirty Six Lakh "
