@@ -105,19 +105,15 @@ TEST_F(LinkTest, SortsBeforeItJoinsAndGivesTheSameRows) {
 
 TEST_F(LinkTest, LeavesOtherQueriesAsTheyStand) {
   const std::string entries = "select a.id from entries a left join narrations n on a.nar=n.nar where ";
-  for (
-      const std::string& query :
-      {entries + "n.narration='Rent' order by a.id", entries + "a.id=1 order by n.narration",
-       entries + "a.id=1", entries + "id=1 order by a.id", entries + "a.id=1 order by a.id desc",
-       entries + "a.id in (select nar from narrations) order by a.id", entries + "a.amt>1.5 order by a.id",
-       std::string(
-           "select a.id from entries a,narrations n where a.nar=n.nar and a.id=1 or a.id=2 order by a.id"),
-       std::string(
-           "select count(*) from entries a left join narrations n on a.nar=n.nar where a.id=1 order by a.id"),
-       std::string(
-           "select distinct a.id from entries a join narrations n on a.nar=n.nar where a.id=1 order by a.id"),
-       std::string(
-           "select a.id from entries a right join narrations n on a.nar=n.nar where a.id=1 order by a.id")}) {
+  for (const std::string& query : std::vector<std::string>{
+           entries + "n.narration='Rent' order by a.id", entries + "a.id=1 order by n.narration",
+           entries + "a.id=1", entries + "id=1 order by a.id", entries + "a.id=1 order by a.id desc",
+           entries + "a.id in (select nar from narrations) order by a.id",
+           entries + "a.amt>1.5 order by a.id",
+           "select a.id from entries a,narrations n where a.nar=n.nar and a.id=1 or a.id=2 order by a.id",
+           "select count(*) from entries a left join narrations n on a.nar=n.nar where a.id=1 order by a.id",
+           "select distinct a.id from entries a join narrations n on a.nar=n.nar where a.id=1 order by a.id",
+           "select a.id from entries a right join narrations n on a.nar=n.nar where a.id=1 order by a.id"}) {
     EXPECT_FALSE(link_->Leaner(query)) << query;
   }
   const DbError error = ErrorOf([&] {

@@ -10,17 +10,11 @@ namespace {
 
 TEST(Date, TheCalendarHasItsLeapYears) {
   using Parts = std::array<int, 3>;
-  for (const auto& [year, month, day] : {Parts{2024, 2, 29}, {2000, 2, 29}})
-    EXPECT_TRUE(Date::Exists(year, month, day)) << year;
-  for (const auto& [year, month, day] : {Parts{1900, 2, 29},
-                                         {2023, 2, 29},
-                                         {2024, 13, 1},
-                                         {2024, 4, 31},
-                                         {2024, 4, 0},
-                                         {0, 1, 1},
-                                         {10000, 1, 1},
-                                         {2024, 257, 1},
-                                         {2024, 1, 257}}) {
+  EXPECT_TRUE(Date::Exists(2024, 2, 29));
+  EXPECT_TRUE(Date::Exists(2000, 2, 29));
+  for (const auto& [year, month, day] :
+       {Parts{1900, 2, 29}, Parts{2023, 2, 29}, Parts{2024, 13, 1}, Parts{2024, 4, 31}, Parts{2024, 4, 0},
+        Parts{0, 1, 1}, Parts{10000, 1, 1}, Parts{2024, 257, 1}, Parts{2024, 1, 257}}) {
     EXPECT_FALSE(Date::Exists(year, month, day)) << year << "-" << month << "-" << day;
   }
   EXPECT_THROW(Date::Of(2024, 2, 30), HostError);

@@ -11,13 +11,10 @@ namespace {
 constexpr const char* kSmile = "\xF0\x9F\x98\x80";
 
 TEST(Text, LengthsCountUtf16Units) {
-  for (const auto& [text, length] : {std::pair<std::string, std::size_t>{"", 0},
-                                     {"Ram", 3},
-                                     {"राम", 3},
-                                     {"श्री", 4},
-                                     {std::string("a") + kSmile + "b", 4}}) {
-    EXPECT_EQ(text::Length(text), length) << text;
-  }
+  EXPECT_EQ(text::Length(""), 0U);
+  EXPECT_EQ(text::Length("Ramराम"), 6U);
+  EXPECT_EQ(text::Length("श्री"), 4U);
+  EXPECT_EQ(text::Length(std::string("a") + kSmile + "b"), 4U);
   EXPECT_EQ(text::Length("a\xFF\x80z"), 4U) << "damaged bytes count one each";
 }
 

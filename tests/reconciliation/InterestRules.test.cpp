@@ -107,18 +107,12 @@ TEST(InterestOfRow, FollowsTheFormulaToTheDigit) {
 
 TEST(InterestOfRow, TiesGoToTheEvenDigit) {
   // On a basis of 100 days the value times the rate is cut by ten thousand.
-  struct Case {
-    const char* product;
-    int decimals;
-    const char* interest;
-  };
-  for (const Case& each :
+  using Case = std::tuple<const char*, int, const char*>;
+  for (const auto& [product, decimals, interest] :
        {Case{"1250", 2, "0.12"}, Case{"3750", 2, "0.38"}, Case{"6250", 2, "0.62"}, Case{"8750", 2, "0.88"},
         Case{"1250.0001", 2, "0.13"}, Case{"5050", 2, "0.5"}, Case{"312.5", 4, "0.0312"},
         Case{"937.5", 4, "0.0938"}, Case{"312.5001", 4, "0.0313"}}) {
-    EXPECT_EQ(InterestOfRow(Of(each.product), Terms("1", "Product Method", each.decimals, 100)).ToString(),
-              each.interest)
-        << each.product;
+    EXPECT_EQ(InterestOfRow(Of(product), Terms("1", "Product Method", decimals, 100)).ToString(), interest);
   }
   // The currency product is rounded first, its ties to the even digit too: 0.0003 at 0.5 is 0.0002, not
   // 0.00015.

@@ -155,13 +155,6 @@ TEST(SampleFirm, TheBooksHaveEverySituationThatTheScreensTreat) {
                       "dTrnNature in (5002,5012,5024,5031,5041,5051,5054,5055,5043,5032,5022,5023)")
                 .ToInteger(),
             12);
-  const auto contra = [&](const std::string& where) {
-    const std::string natures = " and dTrnNature in (5002,5012,5024,5031,5041,5051)";
-    return db.Lookup("FAData", "sum(dAmt)", where + natures).ToAmount();
-  };
-  EXPECT_EQ(contra("dcd=102"), Amount());
-  EXPECT_EQ(contra("dcd=103"), Amount::OfInteger(-600)) << "interest on this bank's year is refused";
-  EXPECT_EQ(contra("dcd=103 and dVchDate<'2024-07-01'"), Amount()) << "on its first quarter it is not";
   EXPECT_TRUE(firm->OpenYear(2023).Db->RowExists("select * from FAData where dTrnType='zzz'"));
   EXPECT_FALSE(db.RowExists("select * from FAData where dTrnType='zzz'"));
   EXPECT_TRUE(firm->Common()->RowExists("select * from Narrations"));

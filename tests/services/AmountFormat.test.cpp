@@ -1,5 +1,6 @@
 #include "desk/services/AmountFormat.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -59,13 +60,11 @@ TEST(AmountFormat, ReadsAmountsAsShown) {
 }
 
 TEST(AmountFormat, RoundsHalvesAwayFromZero) {
-  for (const auto& [amount, decimals, rounded] : {std::tuple{"2.345", "2", "2.35"},
-                                                  {"-2.345", "2", "-2.35"},
-                                                  {"2.3449", "2", "2.34"},
-                                                  {"99999.995", "2", "100000"},
-                                                  {"0.5", "0", "1"},
-                                                  {"-0.5", "0", "-1"},
-                                                  {"1.2345", "4", "1.2345"}}) {
+  using Case = std::array<const char*, 3>;
+  for (const auto& [amount, decimals, rounded] :
+       {Case{"2.345", "2", "2.35"}, Case{"-2.345", "2", "-2.35"}, Case{"2.3449", "2", "2.34"},
+        Case{"99999.995", "2", "100000"}, Case{"0.5", "0", "1"}, Case{"-0.5", "0", "-1"},
+        Case{"1.2345", "4", "1.2345"}}) {
     EXPECT_EQ(RoundAmount(Amount::OfText(amount), decimals).ToString(), rounded) << amount;
   }
   EXPECT_THROW(RoundAmount(Amount::OfUnits(INT64_MAX), "0"), OverflowError);
