@@ -134,19 +134,6 @@ TEST_F(FormLife, EnterIsTabAndAVetoKeepsTheFocus) {
   EXPECT_FALSE(dialog->IsLoaded()) << "Esc leaves without asking the field";
 }
 
-TEST_F(FormLife, HiddenDisabledAndLockedControlsRefuse) {
-  const auto dialog = Shown();
-  dialog->txtSecond.Locked = true;
-  Refuses([&] { dialog->txtSecond.UserType("x"); }, "txtSecond is locked");
-  EXPECT_TRUE(dialog->txtFirst.HasFocus()) << "nothing happens";
-  dialog->txtSecond.Enabled = false;
-  Refuses([&] { dialog->txtSecond.UserType("x"); }, "txtSecond is disabled");
-  dialog->Grid.Visible = false;
-  Refuses([&] { dialog->Grid.UserMoveTo(1, 1); }, "Grid is hidden");
-  Key(*dialog, keys::kTab);
-  EXPECT_EQ(dialog->ActiveControl(), &dialog->btnOKCancel(0)) << "Tab passes over what is out of reach";
-}
-
 /// The grid of the dialog, telling its events in the order in which they come.
 class EditCycle : public FormLife {
  protected:
@@ -236,15 +223,6 @@ TEST_F(EditCycle, AnEditCancelledInItsValidationIsLeftOnce) {
   EXPECT_TRUE(EditCell(Grid(), 2, 0, "typed"));
   EXPECT_EQ(std::count(told_.begin(), told_.end(), "lost 2,0"), 1);
   EXPECT_EQ(Grid().TextMatrix(2, 0), "");
-}
-
-TEST_F(EditCycle, ACursorOutsideTheGridIsRefusedAndStays) {
-  EXPECT_THROW(Grid().Row = 99, SubscriptError);
-  EXPECT_THROW(Grid().Col = -1, SubscriptError);
-  EXPECT_EQ(Grid().Row(), 1);
-  EXPECT_EQ(Grid().Col(), 0);
-  EXPECT_THROW(Grid().Rows = -1, SubscriptError);
-  EXPECT_EQ(Grid().Rows(), 4);
 }
 
 }  // namespace
