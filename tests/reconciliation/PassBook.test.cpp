@@ -151,5 +151,24 @@ TEST_F(PassBook, PrintsWithItsFooter) {
   EXPECT_EQ(View().Rows(), 2) << "the footer is no row here";
 }
 
+TEST_F(PassBook, ItsStatementsAreTheseTexts) {
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5", .cleared = "2024-04-12"});
+  Open("01-Apr-2024", "30-Jun-2024");
+  Texts sent;
+  for (const std::string& sql : Statements()) {
+    const bool isOfOtherSides = sql.find("FAData l") != std::string::npos;
+    if (sql.find("dBankDate") != std::string::npos && !isOfOtherSides) sent.push_back(sql);
+  }
+  ASSERT_EQ(sent.size(), 2U);
+  EXPECT_NE(sent[0].find("Sum(dAmt)"), std::string::npos);
+  EXPECT_TRUE(
+      sent[0].ends_with("FADATA where dcd=101 and (dBankDate<'2024-04-01' or dBook='0B') and dBook<>'MEM'"))
+      << sent[0];
+  EXPECT_EQ(sent[1],
+            "Select a.*,n.Narration from FAData a Left Join FANar n on a.NarrationID=n.NarrationID "
+            "where a.dcd=101 and a.dBankDate between '2024-04-01' and '2024-06-30' and a.dBook<>'MEM' "
+            "and a.dBook<>'0B' order by a.dBankDate,a.dVchNo,a.dSrNo");
+}
+
 }  // namespace
 }  // namespace quillon

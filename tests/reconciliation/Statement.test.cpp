@@ -171,5 +171,26 @@ TEST_F(Statement, PrintsWithItsFooterAsTheLastRow) {
   One("report", {{"title", "Reconciliation Workings"}, {"print", false}});
 }
 
+TEST_F(Statement, ItsStatementsAreTheseTexts) {
+  AddVoucher({.id = 2, .date = "2024-04-10", .amount = "1200.5"});
+  Open("30-Apr-2024");
+  const std::string lines =
+      "Select a.*,n.Narration from FAData a,FANar n "
+      "where a.NarrationID=n.NarrationID and a.dcd=101 and a.dBook<>'MEM' and a.dBook<>'0B' and ";
+  Texts sent;
+  for (const std::string& sql : Statements()) {
+    if (sql.find("FADATA") != std::string::npos || sql.starts_with("Select a.*")) sent.push_back(sql);
+  }
+  ASSERT_EQ(sent.size(), 3U);
+  EXPECT_NE(sent[0].find("Sum(dAmt)"), std::string::npos);
+  EXPECT_TRUE(sent[0].ends_with("FADATA where dcd=101 and dvchdate<='2024-04-30' and dBook<>'MEM'"))
+      << sent[0];
+  EXPECT_EQ(sent[1], lines +
+                         "a.dvchdate<='2024-04-30' "
+                         "and (a.dBankDate is null OR a.dBankDate>'2024-04-30') order by a.dvchdate,a.dbook");
+  EXPECT_EQ(sent[2],
+            lines + "a.dvchdate>'2024-04-30' and a.dBankDate<='2024-04-30' order by a.dvchdate,a.dbook");
+}
+
 }  // namespace
 }  // namespace quillon

@@ -90,7 +90,9 @@ TEST_F(TakingBack, WhatSomebodyElseHasChangedSinceStays) {
 TEST_F(TakingBack, TheViewsShareTheListAndAnEditorKeepsItsOwn) {
   EXPECT_TRUE(EditCell(Entries(), 1, kCleared, "6"));
   AnswerDate("30-Apr-2024");
+  EXPECT_EQ(At<CMStrip>(bench_, "MStrip2").Code(), 201);
   Key(*bench_, keys::kF6);
+  EXPECT_EQ(At<CMStrip>(bench_, "MStrip2").Code(), 0) << "the balance has no other side";
   const int row = 3;  // below "Amounts Debited by us only:-"
   ASSERT_EQ(StatementRows().TextMatrix(row, 10), "4");
   EXPECT_TRUE(EditCell(StatementRows(), row, 6, "2/5"));
