@@ -42,8 +42,9 @@ void FillCommon(FirebirdLink& common) {
     const Variant values[] = {name, level};
     common.ExecuteWith("insert into Users (UserName,UserLevel) values (?,?)", values);
   }
-  // The clerk works everywhere but prints no reconciliation.
+  // The clerk works everywhere but prints no reconciliation, and does no bulk work.
   for (const Right& right : Rights()) {
+    if (std::string_view(right.Key).starts_with("bulk.")) continue;
     const bool prints = std::string_view(right.Key) != "acst.reconciliation";
     const Variant values[] = {"Clerk", right.Key, prints ? "NP" : "N"};
     common.ExecuteWith("insert into UserRights (UserName,RightKey,Actions) values (?,?,?)", values);

@@ -4,6 +4,7 @@
 
 #include "books/Right.h"
 #include "desk/services/Users.h"
+#include "host/forms/Runtime.h"
 #include "host/services/IApp.h"
 
 namespace quillon {
@@ -31,7 +32,7 @@ void DeskMenu::Pick(const std::string& key) {
   const std::string own = line->DeskForm;
   const FormPtr form = own.empty() ? module_.GetForm(line->FormKey) : gApp->GetForm(own);
   form->CallingForm = gApp->MainWindow().MainForm();
-  gApp->ShowForm(form);
+  gRuntime->Show(form, line->IsModal);
 }
 
 }  // namespace quillon

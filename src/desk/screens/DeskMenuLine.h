@@ -15,6 +15,7 @@ struct DeskMenuLine {
   const char* FormKey;         ///< of IModule.GetForm
   const char* MenuEvent = "";  ///< the main menu's event that makes the module open it; empty opens the form
   const char* DeskForm = "";   ///< the desk's own screen that is opened in place of the module's form
+  bool IsModal = false;        ///< nothing else is done while the form is open
 };
 
 /// Those of all files NAME.menu.cpp, in the order of their places.

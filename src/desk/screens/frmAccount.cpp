@@ -128,7 +128,7 @@ void frmAccount::LoadScreen() {
   if (Date2.IsEmpty()) Date2 = gSession->Year().EndDate();
   lblTitle1(0).Caption = "   Statement of Account";
   SetColumns();
-  if (AccountCode != 0) ReadMaster();
+  if (AccountCode != 0) RequireMaster();
 }
 
 void frmAccount::FirstShow() {
@@ -155,10 +155,7 @@ void frmAccount::OpenAnother() {
 }
 
 void frmAccount::AskPeriod() {
-  if (!gRuntime->StandingOn(*this).empty()) {
-    gStd->MsgBox("Close the reconciliation of this statement first.", "", "W");
-    return;
-  }
+  if (!RequireNothingStandsOnIt()) return;
   CDateDialog dialog;
   dialog.Title("Period of the Statement");
   dialog.DateCaption("From");
@@ -172,12 +169,17 @@ void frmAccount::AskPeriod() {
   FillGrid();
 }
 
-void frmAccount::ReadMaster() {
+bool frmAccount::ReadMaster() {
   CDataSet account;
   account.Open("Select mhd,mst from FAMaster where mcd=" + books::SqlNumber(AccountCode), gSession->MainDb());
-  if (account.Eof()) throw HostError("There is no account with the code " + std::to_string(AccountCode));
+  if (account.Eof()) return false;
   FAMaster->AcHead = account.Field("mhd").ToText();
   FAMaster->Station = account.Field("mst").ToText();
+  return true;
+}
+
+void frmAccount::RequireMaster() {
+  if (!ReadMaster()) throw HostError("There is no account with the code " + std::to_string(AccountCode));
 }
 
 void frmAccount::ShowTitles() {
@@ -188,8 +190,12 @@ void frmAccount::ShowTitles() {
 }
 
 void frmAccount::FillGrid() {
+  RequireMaster();
+  FillRows();
+}
+
+void frmAccount::FillRows() {
   const BusyPointer pointer;
-  ReadMaster();
   ShowTitles();
   GridFill fill(Grid,
                 FAMaster->Station.empty() ? FAMaster->AcHead : FAMaster->AcHead + ", " + FAMaster->Station);
@@ -339,6 +345,12 @@ bool frmAccount::RequireBankAccount() const {
   return false;
 }
 
+bool frmAccount::RequireNothingStandsOnIt() const {
+  if (gRuntime->StandingOn(*this).empty()) return true;
+  gStd->MsgBox("Close the reconciliation of this statement first.", "", "W");
+  return false;
+}
+
 void frmAccount::OpenWorkbench(bool interest) {
   if (!RequireComplete(Grid)) return;
   const FormPtr workbench = ModuleScreen("acreconciliation");
@@ -373,10 +385,17 @@ void frmAccount::ShownAgain() {
 
 /// The cursor stays on its entry.
 void frmAccount::ReadAnew() {
+  if (!ReadMaster()) {
+    gStd->MsgBox(
+        FAMaster->AcHead + " is no longer among the accounts: it was merged with another or deleted.", "",
+        "W");
+    gRuntime->Unload(*this);
+    return;
+  }
   const int row = Grid.Row;
   const int column = Grid.Col;
   const auto entry = books::EntryKey::OfRow(Grid, row, col::kVoucherId, col::kVchSubNo);
-  FillGrid();
+  FillRows();
   const std::vector<int> found = books::EntryRows(Grid, col::kVoucherId, col::kVchSubNo).Find(entry);
   Grid.Row = found.empty() ? std::min(row, Grid.Rows - 1) : found.front();
   Grid.Col = column;

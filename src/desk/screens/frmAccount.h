@@ -51,6 +51,9 @@ class frmAccount : public ListScreen, public AccountPeriod {
   /// Whether the account is a bank's; the user is told when it is not.
   bool RequireBankAccount() const;
 
+  /// Whether no other screen holds to the statement's rows; the user is told when one does.
+  bool RequireNothingStandsOnIt() const;
+
   /// Shows a screen on this account and period.
   void ShowForPeriod(Form& screen);
 
@@ -72,7 +75,11 @@ class frmAccount : public ListScreen, public AccountPeriod {
   bool AskAccount();
   void OpenAnother();
   void AskPeriod();
-  void ReadMaster();
+
+  /// False when the books have no such account.
+  bool ReadMaster();
+  void RequireMaster();
+  void FillRows();
   void ShowTitles();
   std::string EntriesCondition() const;
   std::unordered_set<std::int64_t> ReturnedVouchers() const;

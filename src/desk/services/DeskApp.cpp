@@ -8,10 +8,12 @@
 #include "desk/services/DateText.h"
 #include "desk/services/DeskStd.h"
 #include "desk/services/PartyAddress.h"
+#include "desk/services/VoucherStore.h"
 #include "host/controls/CMStrip.h"
 #include "host/forms/Runtime.h"
 #include "host/forms/WindowHandle.h"
 #include "host/values/ErrorText.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -145,7 +147,7 @@ std::shared_ptr<void> DeskApp::ExpectCrossRefs(CDbLink& db, const std::string& c
 }
 
 void DeskApp::PostBalanceEntry(CDataSet& /*entries*/, std::string& voucher, const std::string& book,
-                               const std::string& type, int /*line*/, Date date, std::int64_t account,
+                               const std::string& type, int line, Date date, std::int64_t account,
                                const std::string& narration, Amount amount, bool /*first*/, bool /*second*/) {
   NewVoucher part;
   part.Day = date;
@@ -153,7 +155,12 @@ void DeskApp::PostBalanceEntry(CDataSet& /*entries*/, std::string& voucher, cons
   part.Type = type;
   part.Narration = narration;
   part.Lines.push_back({account, amount});
-  posting_.Add(session_.MainDb(), voucher, part);
+  VoucherStore store(session_.MainDb());
+  if (voucher.empty()) {
+    voucher = std::to_string(store.Begin(part, line));
+  } else {
+    store.AddLine(ValInteger(voucher), part, line);
+  }
 }
 
 void DeskApp::InitForm(Form& form) { form.Font = Font{}; }

@@ -6,7 +6,6 @@
 #include "desk/services/CrossReference.h"
 #include "desk/services/DeskSession.h"
 #include "desk/services/IDeskScreens.h"
-#include "desk/services/Posting.h"
 #include "desk/services/Settings.h"
 #include "host/services/IApp.h"
 
@@ -116,7 +115,6 @@ class DeskApp : public IApp {
   Window window_;
   AccountsModule mainModule_;
   StoresModule stores_;
-  Posting posting_;
   std::vector<OpenWindow> windows_;
   std::weak_ptr<ExpectedSides> expected_;
 };

@@ -20,7 +20,7 @@ std::vector<int> Buttons(const DialogSpec& spec) {
 
 DialogForm::DialogForm(const DialogSpec& spec)
     : Form(spec.className, spec.origin),
-      btnOKCancel(*this, "btnOKCancel", Buttons(spec)),
+      btnOKCancel(*this, spec.buttons, Buttons(spec)),
       keepsLoaded_(spec.keepsLoaded) {
   Member("Cancelled", Cancelled);
   Caption = spec.caption;
@@ -30,11 +30,11 @@ DialogForm::DialogForm(const DialogSpec& spec)
   Top = (gRuntime->ScreenHeight() - Height) / 2;
   const long top = Height - kButtonHeight - kEdge;
   const long left = Width - kButtonWidth - kEdge;
-  btnOKCancel(kCancel).Caption = spec.onlyCloses ? "Esc: Close" : "Esc: Cancel";
+  btnOKCancel(kCancel).Caption = spec.onlyCloses ? "Esc: Close" : spec.cancelCaption;
   btnOKCancel(kCancel).Move(left, top, kButtonWidth, kButtonHeight);
   btnOKCancel(kCancel).Click = [this] { Close(); };
   if (spec.onlyCloses) return;
-  btnOKCancel(kOk).Caption = "F7: OK";
+  btnOKCancel(kOk).Caption = spec.okCaption;
   btnOKCancel(kOk).Move(left - kButtonWidth - kEdge, top, kButtonWidth, kButtonHeight);
   btnOKCancel(kOk).Click = [this] { PressOk(); };
 }

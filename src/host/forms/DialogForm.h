@@ -22,6 +22,11 @@ struct DialogSpec {
 
   /// A window that only shows something has the second button alone, "Esc: Close".
   bool onlyCloses = false;
+
+  /// By which callers reach the pair of buttons, and what stands on them; F7 and Esc press them either way.
+  const char* buttons = "btnOKCancel";
+  const char* okCaption = "F7: OK";
+  const char* cancelCaption = "Esc: Cancel";
 };
 
 /// A dialog: centred on the screen, OK and Cancel in the lower right corner, F7 and Esc their keys, Enter as

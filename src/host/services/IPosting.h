@@ -18,9 +18,10 @@ class IPosting {
   IPosting& operator=(const IPosting&) = delete;
   virtual ~IPosting() = default;
 
-  /// Posts one line of a voucher, `entries` being an open set on the FAData of the year. The first line of a
-  /// voucher fills `voucher`, and the next ones read it. The voucher is stored, whole, when its lines come to
-  /// zero. Throws HostError and DbError.
+  /// Posts one line of a voucher, `entries` being an open set on the FAData of the year. An empty `voucher`
+  /// makes a new one, with the next number of its type, and takes its id; with an id the line is added to
+  /// that voucher, whose lines then name each other as their other sides. Each call is for good by itself.
+  /// Throws HostError and DbError.
   virtual void PostBalanceEntry(CDataSet& entries, std::string& voucher, const std::string& book,
                                 const std::string& type, int line, Date date, std::int64_t account,
                                 const std::string& narration, Amount amount, bool first, bool second) = 0;

@@ -6,6 +6,7 @@
 #include "desk/qt/adapters/Meanwhile.h"
 #include "host/controls/Control.h"
 #include "host/forms/Runtime.h"
+#include "host/forms/Unbroken.h"
 
 namespace quillon {
 
@@ -42,7 +43,7 @@ void Acts::LetPaint() {
 
 bool Acts::PaintAndListen(bool mayBreak) {
   constexpr int kMilliseconds = 10;
-  const Meanwhile::Block painting(mayBreak);
+  const Meanwhile::Block painting(mayBreak && !Unbroken::IsOn());
   QCoreApplication::processEvents(QEventLoop::AllEvents, kMilliseconds);
   return painting.IsEscaped();
 }

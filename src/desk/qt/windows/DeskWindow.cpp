@@ -290,9 +290,9 @@ void DeskWindow::Preview(ReportCopy report, bool print) {
 }
 
 void DeskWindow::ShowBusy(bool on, const std::string& text) {
-  busy_->setText(!on            ? QString()
-                 : text.empty() ? QStringLiteral("Working …")
-                                : QString::fromStdString(text) + QStringLiteral(" …"));
+  const QString words = text.empty() ? QStringLiteral("Working") : QString::fromStdString(text);
+  const bool isOpenEnded = words.endsWith(QLatin1String("..."));
+  busy_->setText(!on ? QString() : isOpenEnded ? words : words + QStringLiteral(" …"));
 }
 
 void DeskWindow::ShowWaiting(bool on) {

@@ -1,0 +1,7 @@
+#include "books/Right.h"
+
+namespace quillon {
+
+Right MassTransferRight() { return {70, "bulk.masstransfer", "Mass Transfer of Entries"}; }
+
+}  // namespace quillon

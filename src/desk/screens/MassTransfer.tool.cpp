@@ -1,0 +1,11 @@
+#include "desk/screens/AccountTool.h"
+#include "desk/screens/BulkWork.h"
+
+namespace quillon {
+
+AccountTool MassTransferTool() {
+  return {80, "MassTransfer", "Mass Transfer",
+          [](frmAccount& statement) { OpenBulkWork(statement, "acmasstransfer", "bulk.masstransfer"); }};
+}
+
+}  // namespace quillon

@@ -1,0 +1,15 @@
+#include "desk/screens/DeskMenuLine.h"
+
+namespace quillon {
+
+DeskMenuLine MergePartiesMenu() {
+  return {.Menu = "&Masters",
+          .Place = 40,
+          .Key = "MergeParties",
+          .Caption = "Mer&ge Parties …",
+          .RightKey = "bulk.mergeparties",
+          .FormKey = "mergeparties",
+          .IsModal = true};
+}
+
+}  // namespace quillon
