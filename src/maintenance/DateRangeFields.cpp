@@ -8,7 +8,7 @@ namespace quillon {
 namespace {
 
 constexpr long kEdge = 180;
-constexpr long kTop = 330;
+constexpr long kTop = 390;
 constexpr long kLine = 360;
 constexpr long kLabel = 720;
 constexpr long kHeight = 870;

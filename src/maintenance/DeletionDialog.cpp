@@ -27,7 +27,7 @@ DeletionDialog::DeletionDialog(const char* className, const char* caption, long 
   Member("AcCode", AcCode);
   Frame1.Caption = "A/c Head";
   Frame1.Move(kEdge, kEdge, kWidth - 2 * kEdge, 870);
-  Text1.Move(180, 330, kWidth - 2 * kEdge - 360, 360);
+  Text1.Move(180, 390, kWidth - 2 * kEdge - 360, 360);
   Text1.Locked = true;
   Text1.TabStop = false;
 }

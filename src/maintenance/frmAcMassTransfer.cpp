@@ -36,7 +36,7 @@ frmAcMassTransfer::frmAcMassTransfer()
     : DialogForm({.className = "frmAcMassTransfer",
                   .caption = "Mass Transfer of Entries",
                   .width = 9300,
-                  .height = 8040}),
+                  .height = 7530}),
       lblTitle(*this, "lblTitle"),
       Frame3(*this, "Frame3"),
       txtFromAc(Frame3, "txtFromAc"),

@@ -7,7 +7,7 @@ namespace {
 constexpr long kEdge = 150;
 constexpr long kGap = 90;
 constexpr long kInset = 180;
-constexpr long kTop = 330;
+constexpr long kTop = 390;
 constexpr long kLine = 360;
 constexpr long kFrameHeight = 870;
 constexpr long kListsHeight = 2310;

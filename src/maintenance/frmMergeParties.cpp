@@ -90,12 +90,16 @@ void frmMergeParties::Grid_CellGotFocus(int row, int column) {
   stored_ = false;
   if (Grid.Cell(row, col::kSerial).empty()) NumberRow(row);
   if (SelGrid1.Visible) return;
-  if (!SelGrid1.IsLoaded()) {
-    SelGrid1.Title.Caption = "Select A/c";
-    SelGrid1.Load("SELECT MHD,MCD,MST FROM FAMASTER WHERE MBSHNO IN (130,140) ORDER BY MHD,MST",
-                  gSession->MainDb(), true, kHeadWidth);
-  }
+  if (!SelGrid1.IsLoaded()) LoadList();
   SelGrid1.OpenUnder(Grid, {.indent = kIndent, .width = ScaleWidth() * 7 / 10, .aboveBottom = kIndent});
+}
+
+void frmMergeParties::LoadList() {
+  SelGrid1.Title.Caption = "Select A/c";
+  SelGrid1.Load("SELECT MHD,MCD,MST FROM FAMASTER WHERE MBSHNO IN (130,140) ORDER BY MHD,MST",
+                gSession->MainDb(), true, kHeadWidth);
+  int column = 0;
+  for (const char* title : {"A/c Head", "Code", "Station"}) SelGrid1.Grid.SetTextMatrix(0, column++, title);
 }
 
 /// Code and station go with their head: back to what they were where the text was dropped.

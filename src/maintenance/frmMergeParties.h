@@ -42,6 +42,7 @@ class frmMergeParties : public DialogForm {
   void Grid_BeforeEdit(int row, int column, bool& cancel, std::string& action);
   void Grid_CellGotFocus(int row, int column);
   void Grid_CellLostFocus(int row, int column);
+  void LoadList();
   void SelGrid1_Selected();
   void PutAccount(int row, int column, const std::string& code, const std::string& station);
   bool HasCode(int row, int column) const;
