@@ -178,6 +178,15 @@ class Driver(unittest.TestCase):
         for left_out in ("Cummlative", "Total", "Graphical Representation"):
             self.assertNotIn(left_out, words)
 
+    def test_bulk_work_and_a_merge_over_three_years(self):
+        shutil.rmtree(self.firm)
+        subprocess.run([SAMPLE, self.firm, "--vouchers", "300", "--years", "2022,2023,2024"], check=True, capture_output=True)
+        second = self.firm + "-2"
+        shutil.copytree(self.firm, second)
+        self.run_script("bulk.jsonl", 0)
+        self.firm = second
+        self.run_script("merge.jsonl", 0)
+
     def test_labels_letters_and_envelopes(self):
         self.run_script("correspondence.jsonl", 0)
 

@@ -74,7 +74,7 @@ void MarkVouchers(const SampleYearSoFar& year) {
       "row_number() over (order by VoucherID),VoucherID,'CM',0,dcd from FAData where dBook='C' and dcd<>1 and "
       "mod(VoucherID,9)=0",
       last);
-  year.Link.Execute("update FAData set dLocked=1 where dBook='C' and mod(VoucherID,11)=0");
+  year.Link.Execute("update FAData set dLocked=1 where dBook='C' and mod(VoucherID,7)=0");
   year.Link.Execute("update DocMain set PartyCode=2011 where DocSeries='FAS' and mod(DocumentID,4)=0");
 }
 
@@ -82,7 +82,7 @@ void MarkVouchers(const SampleYearSoFar& year) {
 void DoubleTransporter(const SampleYearSoFar& year, EntriesAside& entries) {
   Double(year, kTransporter, kTransporterTwice, "Sahyadri Road Lines");
   for (const char* change :
-       {"update DocMain set TransportCode=3011 where TransportCode=3001 and mod(DocumentID,3)=0",
+       {"update DocMain set TransportCode=3011 where TransportCode=3001 and mod(DocVoucherID,3)=0",
         "update FADocs set TransportCode=3011 where TransportCode=3001 and mod(VoucherID,3)=0",
         "update FAMaster set mTransportCode=3011 where mTransportCode=3001 and mod(mcd,4)=0"}) {
     year.Link.Execute(change);
