@@ -1,10 +1,11 @@
 #include "maintenance/frmAcMassDelete2.h"
 
 #include "books/SqlText.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyPointer.h"
 #include "host/forms/Fields.h"
 #include "host/forms/Progress.h"
 #include "host/forms/Unbroken.h"
+#include "host/services/IApp.h"
 #include "host/services/IStd.h"
 #include "maintenance/DateRangeFields.h"
 

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "books/SqlText.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyPointer.h"
 #include "host/forms/Progress.h"
 #include "host/forms/Unbroken.h"
 #include "host/services/IStd.h"

@@ -1,7 +1,7 @@
 #include "maintenance/frmAcMassTransfer.h"
 
 #include "books/SqlText.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyPointer.h"
 #include "host/forms/Fields.h"
 #include "host/forms/Unbroken.h"
 #include "host/services/host_services.h"

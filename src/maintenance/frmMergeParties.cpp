@@ -1,7 +1,7 @@
 #include "maintenance/frmMergeParties.h"
 
 #include "host/controls/RedrawHold.h"
-#include "host/forms/Busy.h"
+#include "host/forms/BusyJob.h"
 #include "host/forms/Unbroken.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"

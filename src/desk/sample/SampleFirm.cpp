@@ -6,6 +6,7 @@
 #include "books/Right.h"
 #include "desk/firm/Firm.h"
 #include "desk/firm/Schema.h"
+#include "desk/sample/SampleHistory.h"
 #include "desk/sample/SampleMasters.h"
 #include "desk/sample/SamplePiece.h"
 #include "desk/sample/SampleRandom.h"
@@ -84,15 +85,21 @@ void MakeSampleFirm(const std::filesystem::path& folder, const SampleOptions& op
   std::sort(years.begin(), years.end());
   years.erase(std::unique(years.begin(), years.end()), years.end());
   if (years.empty()) throw HostError("A firm needs at least one year");
+  const int before = years.front() - 1;
+  if (options.HasYearBefore) years.insert(years.begin(), before);
   CreateFirm(folder, kFirm, years);
   if (options.IsEmpty) return;
   auto firm = Firm::Open(folder, {.WaitsForDisk = false});
   FillCommon(*firm->Common());
   SampleRandom random(options.Seed);
   const SampleMasters masters(random);
-  SampleCarry carry = FirstCarry(masters, random, Date::Of(years.front(), 4, 1));
+  SampleCarry carry = FirstCarry(masters, random, Date::Of(before + 1, 4, 1));
   for (const int start : years) {
     const FirmYear& year = firm->OpenYear(start);
+    if (start == before) {
+      SampleHistory(*year.Db, masters, options.Seed, year.StartDate, year.EndDate).Write(carry);
+      continue;
+    }
     SampleYear(*year.Db, masters, random, year.StartDate, year.EndDate)
         .Write(carry, options, start == years.back());
     Schema::RefreshStatistics(*year.Db);

@@ -14,6 +14,7 @@ struct SampleOptions {
   std::uint64_t Seed = 1;
   bool IsEmpty = false;                   ///< the tables alone, without accounts and entries
   std::function<void()> OnDay = nullptr;  ///< called for each day that has been written
+  bool HasYearBefore = false;             ///< a year of few vouchers stands before the first
 };
 
 /// Makes a firm in a folder that holds none: an Indian trading firm with its banks, parties and vouchers. The

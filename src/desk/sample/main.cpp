@@ -14,7 +14,8 @@ namespace {
 
 constexpr const char* kUsage =
     "quillon-sample FOLDER [--vouchers N] [--seed S] [--years 2023,2024,2025] [--empty]\n"
-    "Makes a firm with sample books in FOLDER: N vouchers in each year. --empty makes the tables alone.\n";
+    "Makes a firm with sample books in FOLDER: N vouchers in each year. Without --years these are 2023 and 2024, and\n"
+    "before them 2022 with few vouchers. --empty makes the tables alone.\n";
 
 template <class Number>
 Number NumberOf(const std::string& option, std::string_view text) {
@@ -33,6 +34,7 @@ struct Command {
 
 Command CommandOf(int count, char** words) {
   Command command;
+  command.Options.HasYearBefore = true;
   for (int i = 1; i < count; ++i) {
     const std::string word = words[i];
     const auto value = [&]() -> std::string {
@@ -46,6 +48,7 @@ Command CommandOf(int count, char** words) {
     } else if (word == "--seed") {
       command.Options.Seed = NumberOf<std::uint64_t>(word, value());
     } else if (word == "--years") {
+      command.Options.HasYearBefore = false;
       command.Options.Years.clear();
       for (const std::string& year : text::Split(value(), ",")) {
         command.Options.Years.push_back(NumberOf<int>(word, year));

@@ -185,7 +185,7 @@ void DeskWindow::OpenSample() {
     try {
       std::filesystem::create_directories(std::filesystem::path(folder.toStdString()).parent_path());
       Progress days("Making the sample firm, day", 0);
-      MakeSampleFirm(folder.toStdString(), {.OnDay = [&days] { days.Step(); }});
+      MakeSampleFirm(folder.toStdString(), {.OnDay = [&days] { days.Step(); }, .HasYearBefore = true});
     } catch (const std::exception& error) {
       fault = QString::fromStdString(error.what());
     }
