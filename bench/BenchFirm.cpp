@@ -10,9 +10,6 @@ namespace quillon::bench {
 
 namespace {
 
-constexpr int kFirstParty = 1001;
-constexpr int kParties = 200;
-
 /// Writes the vouchers of the bank's book into a year.
 class BankBook {
  public:

@@ -202,11 +202,13 @@ void RawClient::Read(const Statement& statement, const unsigned char* row) {
 
 void RawClient::CarryOut(Statement& statement) {
   if (statement.Outputs.empty()) {
-    statement.Handle->execute(&status_, write_, statement.In, statement.Parameters.data(), nullptr, nullptr);
+    statement.Handle->execute(&status_, whole_ != nullptr ? whole_ : write_, statement.In,
+                              statement.Parameters.data(), nullptr, nullptr);
     return;
   }
-  Firebird::IResultSet* const rows = statement.Handle->openCursor(
-      &status_, read_, statement.In, statement.Parameters.data(), statement.Out, 0);
+  Firebird::IResultSet* const rows =
+      statement.Handle->openCursor(&status_, whole_ != nullptr ? whole_ : read_, statement.In,
+                                   statement.Parameters.data(), statement.Out, 0);
   while (rows->fetchNext(&status_, statement.Row.data()) == Firebird::IStatus::RESULT_OK) {
     Read(statement, statement.Row.data());
   }
@@ -215,6 +217,17 @@ void RawClient::CarryOut(Statement& statement) {
 }
 
 void RawClient::Run(const std::string& sql) { CarryOut(*Prepare(write_, sql)); }
+
+void RawClient::Begin() {
+  const std::vector<unsigned char> tpb{isc_tpb_version3, isc_tpb_read_committed, isc_tpb_rec_version,
+                                       isc_tpb_write, isc_tpb_wait};
+  whole_ = attachment_->startTransaction(&status_, static_cast<unsigned>(tpb.size()), tpb.data());
+}
+
+void RawClient::Commit() {
+  whole_->commit(&status_);
+  whole_ = nullptr;
+}
 
 void RawClient::RunPrepared(const std::string& sql) {
   const Shape shape = ShapeOf(sql);

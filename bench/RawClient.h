@@ -24,6 +24,10 @@ class RawClient {
   /// The same with the whole numbers and dates after equals signs as parameters, and prepared only once.
   void RunPrepared(const std::string& sql);
 
+  /// What follows is one transaction, until Commit.
+  void Begin();
+  void Commit();
+
   /// The numbers in the first row of a query that gives whole numbers only, read in a transaction of its own.
   std::vector<std::int64_t> Numbers(const std::string& sql);
 
@@ -43,6 +47,7 @@ class RawClient {
   Firebird::IAttachment* attachment_ = nullptr;
   Firebird::ITransaction* read_ = nullptr;
   Firebird::ITransaction* write_ = nullptr;
+  Firebird::ITransaction* whole_ = nullptr;  ///< while one is begun
   std::map<std::string, std::unique_ptr<Statement>> prepared_;
   std::uint64_t sum_ = 0;
   std::string text_;
