@@ -17,6 +17,7 @@ TEST_F(MassDeletion, CashEntriesGoOnTheChosenSideAndThoseWithDocumentsStay) {
   Open("MassDeletion", 201,
        {[this] {
           EXPECT_EQ(At<TextBox>(dialog_, "Text1").Text(), "Asha Traders");
+          EXPECT_EQ(At<Label>(dialog_, "Label1").Caption(), "Only Cash Entries will be deleted.");
           PressOk();
         },
         [this] {
@@ -149,16 +150,25 @@ TEST_F(Purge, WholeVouchersGoWithTheirDocumentsAndTheBalanceIsPostedBack) {
   Enter(4, "2024-05-01", "J", "J", {{201, "7", 202}, {202, "-7", 201}});
   Enter(5, "2024-04-30", "J", "J", {{202, "3", 101}, {101, "-3", 202}});
   AddDocument(5, 202, "FAS");
-  for (int message = 0; message < 3; ++message) AnswerMessage();
+  for (int message = 0; message < 5; ++message) AnswerMessage();
   Open("Purge", 201,
-       {[this] { PressOk(); },
+       {[this] {
+          EXPECT_EQ(At<Label>(dialog_, "Label2").Caption(),
+                    " Balance, if any, shall be kept as pervious balance.");
+          PressOk();
+        },
+        [this] {
+          Type("txpDate1", "31/3/2024");
+          PressOk();
+        },
         [this] {
           Type("txpDate1", "30/4");
           Statements();
           PressOk();
         }});
   EXPECT_EQ(Told(),
-            (Texts{": Specify Date", "Q: Are you sure to delete entries",
+            (Texts{": Specify Date", "Q: Are you sure to delete entries", ": No entries found",
+                   "Q: Are you sure to delete entries",
                    ": 4 Voucher entries deleted.\n1 Document entries deleted.\n\nRefreshing Statement of "
                    "Account"}));
   Texts sent = Changes();

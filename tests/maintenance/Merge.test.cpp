@@ -1,6 +1,9 @@
+#include <set>
+
 #include "desk/sample/SampleFirm.h"
 #include "desk/screens/DeskMenu.h"
 #include "host/values/Text.h"
+#include "maintenance/MergeYears.h"
 #include "tests/maintenance/BulkTest.h"
 
 namespace quillon {
@@ -156,6 +159,32 @@ TEST_F(MergeParties, InAllYearsWhatBothHaveIsJoinedAndTheDuplicateAloneIsRenamed
            "RefMaster"),
       (Texts{"201", "201", "201"}));
   EXPECT_EQ(Rows("select mcd from RatesPA"), Texts());
+}
+
+/// A firm of these years, without books.
+class SomeYears : public FinYear {
+ public:
+  explicit SomeYears(std::set<int> years) : years_(std::move(years)) {}
+  CDbLink& Db() override { return gSession->MainDb(); }
+  Date StartDate() const override { return {}; }
+  Date EndDate() const override { return {}; }
+  int StartYear() const override { return 0; }
+  int StartMonth() const override { return 0; }
+  void Init(bool) override {}
+  void OpenYear(int year, bool& ok) override { ok = years_.contains(year); }
+
+ private:
+  std::set<int> years_;
+};
+
+TEST(MergeYears, FiveOnEitherSideAtMostAndNoneBeyondAGap) {
+  SomeYears many({2010, 2011, 2012, 2013, 2014, 2015, 2016, 2017, 2018, 2019, 2020, 2021, 2022});
+  const MergeYears reached = MergeYears::Around(2016, many);
+  EXPECT_EQ(reached.First, 2011);
+  EXPECT_EQ(reached.Last, 2021);
+  SomeYears few({2013, 2015, 2016, 2018});
+  EXPECT_EQ(MergeYears::Around(2016, few).First, 2015);
+  EXPECT_EQ(MergeYears::Around(2016, few).Last, 2016);
 }
 
 TEST_F(MergeParties, TheSearchListsEachPairAndAPairOfOneNameDeletesTheAccount) {

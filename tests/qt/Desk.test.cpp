@@ -13,6 +13,7 @@
 #include "desk/qt/windows/PreviewWindow.h"
 #include "host/forms/Progress.h"
 #include "host/forms/ScreenForm.h"
+#include "host/forms/Unbroken.h"
 #include "host/services/ISession.h"
 #include "host/values/Text.h"
 #include "tests/qt/DeskTest.h"
@@ -91,6 +92,12 @@ TEST_F(DeskTest, WhileTheEngineWorksTheWindowsPaintAndKeysWait) {
   EXPECT_GT(ticks, 10);
   QApplication::processEvents();
   EXPECT_EQ(note->txtNote.Text(), "47");
+  press(Qt::Key_Escape, "");
+  Acts::Run([] {
+    const Unbroken whole;
+    EXPECT_NO_THROW(gSession->MainDb().RowExists(
+        "select count(*) from rdb$relation_fields a,rdb$relation_fields b where a.rdb$field_position<-b.rdb$field_position"));
+  });
   EXPECT_TRUE(note->IsShownToUser());
 }
 
