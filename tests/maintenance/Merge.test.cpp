@@ -111,6 +111,8 @@ TEST_F(MergeParties, InAllYearsWhatBothHaveIsJoinedAndTheDuplicateAloneIsRenamed
   for (const int button : {2, 1, 1}) AnswerMessage(button);
   OpenMerge({[this] {
                EXPECT_TRUE(Grid().HasFocus());
+               EXPECT_EQ(At<Label>(dialog_, "lblWarning").Caption(),
+                         "Warning: You must take backup before merging parties.");
                EXPECT_FALSE(Grid().UserEnterCell(1, 5)) << "the original comes first";
                Pick(1, 3, "Asha's Traders", "Surat");
                EXPECT_FALSE(Grid().UserEnterCell(1, 4)) << "the pick fills it";
