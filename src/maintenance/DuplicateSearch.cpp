@@ -15,6 +15,7 @@ std::vector<AccountPair> PairsOf(CDbLink& db, const std::string& query,
   CDataSet rows;
   for (rows.Open(query, db); !rows.Eof(); rows.MoveNext()) {
     std::vector<std::string> ofRow;
+    ofRow.reserve(groupedBy.size());
     for (const std::string& column : groupedBy) ofRow.push_back(rows.Field(column).ToText());
     NamedAccount account{rows.Field("MCD").ToInteger(), rows.Field("MHD").ToText(),
                          rows.Field("MST").ToText()};
