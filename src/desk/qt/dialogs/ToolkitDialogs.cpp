@@ -25,7 +25,7 @@ bool Ask(QDialog& dialog, QWidget* below) {
 
 QString AskFiles(QFileDialog& dialog, QWidget* below) {
   if (!Ask(dialog, below)) return {};
-  const QString file = dialog.selectedFiles().value(0);
+  QString file = dialog.selectedFiles().value(0);
   QSettings().setValue(LastFolder(), QFileInfo(file).absolutePath());
   return file;
 }
