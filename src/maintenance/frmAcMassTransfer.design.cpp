@@ -63,7 +63,7 @@ void frmAcMassTransfer::DesignLists(long top) {
   const char* const sides[] = {"Debit Entries Only", "Credit Entries Only", "Both"};
   for (auto& [index, option] : optDrCr) {
     option->Caption = sides[index];
-    option->Move(kInset, kTop + index * 450, third - 2 * kInset, kLine);
+    option->Move(kInset, kTop + index * 450L, third - 2 * kInset, kLine);
   }
   optDrCr(2).Chosen = true;
 }

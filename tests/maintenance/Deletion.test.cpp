@@ -41,8 +41,7 @@ TEST_F(MassDeletion, CashEntriesGoOnTheChosenSideAndThoseWithDocumentsStay) {
   };
   const Texts wanted = {
       "select first 1 mhd from FAMASTER where mcd=201",
-      "Select * from FAData where dcd=201 and dvchdate between '2024-04-10' and '2024-04-15' and "
-      "dbook='C' ",
+      "Select * from FAData where dcd=201 and dvchdate between '2024-04-10' and '2024-04-15' and dbook='C' ",
       document("1"),
       of("1"),
       document("2"),
@@ -166,11 +165,12 @@ TEST_F(Purge, WholeVouchersGoWithTheirDocumentsAndTheBalanceIsPostedBack) {
           Statements();
           PressOk();
         }});
-  EXPECT_EQ(Told(),
-            (Texts{": Specify Date", "Q: Are you sure to delete entries", ": No entries found",
-                   "Q: Are you sure to delete entries",
-                   ": 4 Voucher entries deleted.\n1 Document entries deleted.\n\nRefreshing Statement of "
-                   "Account"}));
+  EXPECT_EQ(
+      Told(),
+      (Texts{
+          ": Specify Date", "Q: Are you sure to delete entries", ": No entries found",
+          "Q: Are you sure to delete entries",
+          ": 4 Voucher entries deleted.\n1 Document entries deleted.\n\nRefreshing Statement of Account"}));
   Texts sent = Changes();
   ASSERT_GE(sent.size(), 10U);
   sent.resize(10);
