@@ -87,7 +87,7 @@ TEST_F(Workbench, OpensOnTheStatementWithItsRowsTitlesAndTotals) {
   CMStrip& strip = At<CMStrip>(bench_, "MStrip2");
   EXPECT_EQ(strip.Code(), 201) << "the other side of the row under the cursor";
   for (const auto& [row, code] : {std::pair{3, 202}, {4, 201}, {1, 0}}) {
-    Do([&] { Grid().UserMoveTo(row, 8); });
+    Do([&, at = row] { Grid().UserMoveTo(at, 8); });
     EXPECT_EQ(strip.Code(), code) << row;
   }
   EXPECT_EQ(ShownCaptions(Bar()),
