@@ -52,11 +52,12 @@ PreviewWindow::PreviewWindow(ReportCopy report, QWidget* parent)
   search_->setAccessibleName(QStringLiteral("Search"));
   search_->setMaximumWidth(Scale::Px(3300));
   area_->viewport()->installEventFilter(this);
-  // A long path must neither widen the window nor take the room of the search.
+  // It has a line of its own, for a long path must neither widen the window nor take the room of the search.
   state_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  search_->setMinimumWidth(Scale::Px(1800));
+  search_->setMinimumWidth(Scale::Px(2700));
   Tools().addWidget(search_);
-  Tools().addWidget(state_, 1);
+  Tools().addStretch(1);
+  layout()->addWidget(state_);
   AddTool(QStringLiteral("F2: Width"), QString(), [this] { FitWidth(); });
   AddTool(QStringLiteral("F7: Smaller"), QString(), [this] { Zoom(-1); });
   AddTool(QStringLiteral("F8: Larger"), QString(), [this] { Zoom(1); });
