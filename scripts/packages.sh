@@ -6,7 +6,7 @@ quillon_packages=(
   firebird-dev firebird3.0-server firebird3.0-server-core firebird3.0-utils
   libcups2-dev cups-client cups-daemon
   libgtest-dev libbenchmark-dev poppler-utils binutils xvfb xdotool xclip
-  fonts-dejavu-core fonts-liberation fonts-lohit-deva fonts-wine
+  fonts-dejavu-core fonts-dejavu-extra fonts-liberation fonts-lohit-deva fonts-wine
 )
 
 install_packages() {
