@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 #include <thread>
+#include <utility>
 
 #include "desk/firebird/EngineThread.h"
 #include "desk/firebird/EngineWatch.h"
@@ -127,9 +128,14 @@ void FirebirdLink::Repeat(Action action) {
   }
 }
 
+void FirebirdLink::TellFirstStore() {
+  if (BeforeFirstStore) std::exchange(BeforeFirstStore, nullptr)();
+}
+
 /// What reads may be broken off by its user, what stores never.
 template <class Action>
 void FirebirdLink::Send(const std::string& sql, Aim aim, Action action) {
+  if (aim == Aim::kStore) TellFirstStore();
   try {
     EngineThread::Do(
         [&] {

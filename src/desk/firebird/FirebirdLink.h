@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -66,6 +67,10 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   /// The observer must outlive the link or be taken off with nothing.
   void SetObserver(SqlObserver* observer) { observer_ = observer; }
 
+  /// Is called once, before the next statement or transaction that may change rows, which fails with what it
+  /// throws.
+  std::function<void()> BeforeFirstStore;
+
   /// The columns of a table's primary key, in its order; none when the table has no such key.
   const std::vector<std::string>& KeyOf(const std::string& table);
 
@@ -88,6 +93,7 @@ class FirebirdLink final : public CDbLink, public std::enable_shared_from_this<F
   template <class Action>
   void Repeat(Action action);
   bool MayTryAgain(const DbError& error, std::chrono::steady_clock::time_point first) const;
+  void TellFirstStore();
   void RequirePlace() const;
   void Attach();
   void Drop();

@@ -11,6 +11,9 @@ namespace {
 constexpr unsigned char kLockSeconds = 2;
 
 std::vector<unsigned char> Parameters(FirebirdTransaction::Kind kind) {
+  if (kind == FirebirdTransaction::Kind::kSnapshot) {
+    return {isc_tpb_version3, isc_tpb_concurrency, isc_tpb_read, isc_tpb_nowait};
+  }
   std::vector<unsigned char> tpb{isc_tpb_version3, isc_tpb_read_committed, isc_tpb_rec_version};
   if (kind == FirebirdTransaction::Kind::kRead) {
     tpb.insert(tpb.end(), {isc_tpb_read, isc_tpb_nowait});

@@ -10,11 +10,13 @@ class ITransaction;
 
 namespace quillon {
 
-/// A transaction; what is not committed when it ends is rolled back. It sees what others have committed.
+/// A transaction; what is not committed when it ends is rolled back. It sees what others have committed, but
+/// for a snapshot.
 class FirebirdTransaction {
  public:
   enum class Kind {
     kRead,        ///< Reads only; costs nothing while it stays open.
+    kSnapshot,    ///< Reads only, and sees the books as they were when it began.
     kAutoCommit,  ///< The engine commits each statement; a record that another one is changing fails it at
                   ///< once.
     kPatient,     ///< The same, but it waits two seconds for the record.

@@ -5,9 +5,12 @@
 #include <unistd.h>
 
 #include "desk/firebird/EngineNames.h"
+#include "desk/firebird/EngineTools.h"
+#include "desk/firm/BulkTurn.h"
 #include "desk/firm/OpeningNote.h"
 #include "desk/firm/Schema.h"
 #include "desk/firm/SchemaUpgrade.h"
+#include "desk/firm/YearPlaces.h"
 #include "host/data/CDataSet.h"
 #include "host/services/FinYear.h"
 #include "host/values/Errors.h"
@@ -99,9 +102,28 @@ Firm::Firm(const fs::path& folder, const FirmOptions& options)
   for (auto& [start, year] : file_.Years) year.Database.WaitsForDisk = options.WaitsForDisk;
   if (!file_.Common.IsServer()) Lock(options.TakeOver);
   common_ = OpenDatabase(file_.Common, "common");
+  FindYears();
   if (Schema::Check(*common_, "The database " + file_.Common.Database, VersionAfter(steps_)) <
       VersionAfter(steps_)) {
     BringUp();
+  }
+  if (BulkTurn::Clear(*common_)) LetYearsIn();
+}
+
+/// Years that lie elsewhere since the firm was taken back have names of which the engine was not told.
+void Firm::FindYears() {
+  YearPlaces::ReadInto(file_, *common_);
+  TellEngine(file_);
+}
+
+/// A program that was taking the firm back ended in between and has left the years shut.
+void Firm::LetYearsIn() {
+  for (const auto& [start, year] : file_.Years) {
+    try {
+      EngineTools::BringOnline(year.Database);
+    } catch (const HostError&) {
+      // It was not shut; one that cannot be opened is told when it is.
+    }
   }
 }
 
@@ -173,6 +195,13 @@ void Firm::RefreshStatistics(FirebirdLink& year) const {
   if (!note.empty()) std::ofstream(note) << size;
 }
 
+const FirmFile::Year& Firm::PlaceOfYear(int startYear) const {
+  const auto year = file_.Years.find(startYear);
+  if (year == file_.Years.end())
+    throw HostError("The firm " + Name() + " has no year " + YearText(startYear));
+  return year->second;
+}
+
 std::vector<int> Firm::Years() const {
   std::vector<int> years;
   for (const auto& [start, year] : file_.Years) years.push_back(start);
@@ -181,11 +210,12 @@ std::vector<int> Firm::Years() const {
 
 const FirmYear& Firm::OpenYear(int startYear) {
   if (const auto open = years_.find(startYear); open != years_.end()) return open->second;
-  const auto year = file_.Years.find(startYear);
-  if (year == file_.Years.end())
-    throw HostError("The firm " + Name() + " has no year " + YearText(startYear));
-  FirmYear opened{startYear, year->second.StartDate, year->second.EndDate,
-                  OpenDatabase(year->second.Database, std::to_string(startYear))};
+  const FirmFile::Year& year = PlaceOfYear(startYear);
+  if (const auto other = BulkTurn::AsksToLeave(*common_)) {
+    throw HostError("The years of this firm are closed for a while: " + other->Words() + ".");
+  }
+  FirmYear opened{startYear, year.StartDate, year.EndDate,
+                  OpenDatabase(year.Database, std::to_string(startYear))};
   opened.Db->SetObserver(observer_);
   return years_.emplace(startYear, std::move(opened)).first->second;
 }

@@ -67,6 +67,9 @@ class Firm {
   std::vector<int> Years() const;
   bool HasYear(int startYear) const { return file_.Years.contains(startYear); }
 
+  /// Where a year lies. Throws HostError for a year that the firm does not have.
+  const FirmFile::Year& PlaceOfYear(int startYear) const;
+
   /// One link for each year, opened at its first use. Throws HostError for a year that the firm does not have
   /// or whose database cannot be opened.
   const FirmYear& OpenYear(int startYear);
@@ -80,6 +83,8 @@ class Firm {
  private:
   void Lock(const std::string& takeOver);
   void BringUp();
+  void FindYears();
+  void LetYearsIn();
   std::shared_ptr<FirebirdLink> OpenDatabase(const FirebirdAddress& address, const std::string& label);
   void RefreshStatistics(FirebirdLink& year) const;
 

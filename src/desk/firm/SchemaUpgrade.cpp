@@ -18,6 +18,14 @@ constexpr const char* kCopy = ".before";
 /// Stands in the folder as long as the copies are what counts.
 fs::path MarkIn(const fs::path& folder) { return folder / "firm.upgrade"; }
 
+void PutCopiesBack(const fs::path& folder) {
+  std::vector<fs::path> copies;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    if (entry.path().extension() == kCopy) copies.push_back(entry.path());
+  }
+  for (const fs::path& copy : copies) fs::rename(copy, fs::path(copy).replace_extension());
+}
+
 std::string NameOf(const FirebirdAddress& address) { return "The database " + address.Database; }
 
 }  // namespace
@@ -94,9 +102,10 @@ void SchemaUpgrade::DropCopies() const {
 
 void SchemaUpgrade::Recover() const {
   if (!fs::exists(MarkIn(folder_))) return;
+  // Where the years lie now only the common database knows, which is a copy itself: so what lies there
+  // counts.
   for (const Database& database : Databases()) {
-    const std::string& name = database.Address.Database;
-    if (!database.Address.IsServer() && fs::exists(name + kCopy)) fs::rename(name + kCopy, name);
+    if (!database.Address.IsServer()) PutCopiesBack(fs::path(database.Address.Database).parent_path());
   }
   fs::remove(MarkIn(folder_));
 }
