@@ -2,6 +2,7 @@
 
 #include <map>
 #include <set>
+#include <utility>
 
 #include "desk/driver/FreshProcess.h"
 #include "host/controls/CPeriod.h"
@@ -27,6 +28,7 @@ bool LeavesMenuOpen(const std::string& name) {
 Script::Script(std::istream& in, Desk& desk, DriverRuntime& runtime, EventLog& log)
     : in_(in), desk_(desk), runtime_(runtime), log_(log) {
   runtime_.NextCommand = [this] { return Next(); };
+  desk_.OnGoBack = [this](int run) { goBack_ = run; };
 }
 
 Script::Command Script::Find(const std::string& name) {
@@ -48,7 +50,8 @@ Script::Command Script::Find(const std::string& name) {
       {"tree", &Script::DoTree},         {"query", &Script::DoQuery},
       {"execute", &Script::DoExecute},   {"setting", &Script::DoSetting},
       {"picture", &Script::DoPicture},   {"trace", &Script::DoTrace},
-      {"menuline", &Script::DoMenuLine}};
+      {"menuline", &Script::DoMenuLine}, {"bulk", &Script::DoBulk},
+      {"goback", &Script::DoGoBack}};
   const auto known = kCommands.find(name);
   if (known == kCommands.end()) throw HostError("There is no command \"" + name + "\"");
   return known->second;
@@ -109,14 +112,20 @@ bool Script::Next() {
 
 void Script::CarryOut(int number, const Json& command) {
   Json done{{"done", number}, {"ok", true}};
+  ++depth_;
   try {
-    const Runtime::Step step(runtime_);
+    LeaveWhereAsked();
     const std::string name = command.value("cmd", "");
     const Command carryOut = Find(name);
     if (!LeavesMenuOpen(name)) runtime_.LeaveMenu();
-    const Json answer = (this->*carryOut)(command);
+    Json answer;
+    {
+      const Runtime::Step step(runtime_);
+      answer = (this->*carryOut)(command);
+    }
     if (!unfinished_.is_null() && unfinished_.at("number") == number) return;
     if (answer.is_object()) done.update(answer);
+    if (depth_ == 1 && goBack_ != 0) done.update(GoBack(std::exchange(goBack_, 0)));
   } catch (const Json::exception& error) {
     done["ok"] = false;
     done["error"] =
@@ -126,6 +135,7 @@ void Script::CarryOut(int number, const Json& command) {
     done["error"] = error.what();
     if (const std::string details = ErrorDetails(error); !details.empty()) done["details"] = details;
   }
+  --depth_;
   if (!done["ok"].get<bool>()) status_ = std::max(status_, kRefused);
   log_.Write(done);
 }

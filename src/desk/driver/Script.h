@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <istream>
 #include <string>
 
@@ -37,6 +38,8 @@ class Script {
   bool Next();
   void CarryOut(int number, const Json& command);
   void LeaveToFreshProcess(const Json& command);
+  Json GoBack(int run);
+  void LeaveWhereAsked();
 
   FormPtr Current(const Json& command);
   Control& ControlOf(const Json& command);
@@ -61,6 +64,10 @@ class Script {
   Json DoShow(const Json& command);
   Json DoClose(const Json& command);
   Json DoForms(const Json& command);
+
+  // Work on many entries.
+  Json DoBulk(const Json& command);
+  Json DoGoBack(const Json& command);
 
   // Acting as a person.
   Json DoKey(const Json& command);
@@ -96,6 +103,9 @@ class Script {
   DriverRuntime& runtime_;
   EventLog& log_;
   int count_ = 0;
+  int depth_ = 0;  // of commands inside commands that wait
+  int goBack_ = 0;
+  std::chrono::steady_clock::time_point looked_{};
   int status_ = kAllDone;
   bool stopped_ = false;
   Json unfinished_;

@@ -32,7 +32,11 @@ void DeskMenu::Pick(const std::string& key) {
   const std::string own = line->DeskForm;
   const FormPtr form = own.empty() ? module_.GetForm(line->FormKey) : gApp->GetForm(own);
   form->CallingForm = gApp->MainWindow().MainForm();
-  gRuntime->Show(form, line->IsModal);
+  if (line->Open != nullptr) {
+    line->Open(form);
+  } else {
+    gRuntime->Show(form, line->IsModal);
+  }
 }
 
 }  // namespace quillon

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 namespace quillon {
+
+class Form;
 
 /// A line of the desk's menus that opens a screen of the module. It is shown when the module has the form.
 struct DeskMenuLine {
@@ -15,7 +18,8 @@ struct DeskMenuLine {
   const char* FormKey;         ///< of IModule.GetForm
   const char* MenuEvent = "";  ///< the main menu's event that makes the module open it; empty opens the form
   const char* DeskForm = "";   ///< the desk's own screen that is opened in place of the module's form
-  bool IsModal = false;        ///< nothing else is done while the form is open
+  void (*Open)(const std::shared_ptr<Form>& form) = nullptr;  ///< opens the form in place of a plain show
+  bool IsModal = false;                                       ///< nothing else is done while the form is open
 };
 
 /// Those of all files NAME.menu.cpp, in the order of their places.

@@ -3,6 +3,7 @@
 #include "desk/screens/frmAccount.h"
 #include "desk/screens/frmAccountView.h"
 #include "desk/screens/frmAlertLog.h"
+#include "desk/screens/frmBulkRuns.h"
 #include "desk/screens/frmChequeLayouts.h"
 #include "desk/screens/frmFilterAc.h"
 #include "desk/screens/frmMain.h"
@@ -20,6 +21,7 @@ FormPtr DeskScreens::NewForm(const std::string& key) {
   if (wanted == "selectac") return std::make_shared<frmSelectAc>();
   if (wanted == "filterac") return std::make_shared<frmFilterAc>();
   if (wanted == "chequelayouts") return std::make_shared<frmChequeLayouts>();
+  if (wanted == "bulkruns") return std::make_shared<frmBulkRuns>();
   if (wanted == "printer") return std::make_shared<frmPrinter>();
   if (wanted == "maindb") return std::make_shared<frmMainDB>();
   return nullptr;

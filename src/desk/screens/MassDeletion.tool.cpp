@@ -4,8 +4,9 @@
 namespace quillon {
 
 AccountTool MassDeletionTool() {
-  return {60, "MassDeletion", "Mass Deletion",
-          [](frmAccount& statement) { OpenBulkWork(statement, "acmassdeletion", "bulk.massdeletion"); }};
+  return {60, "MassDeletion", "Mass Deletion", [](frmAccount& statement) {
+            OpenBulkWork(statement, "acmassdeletion", "Mass Deletion", "bulk.massdeletion");
+          }};
 }
 
 }  // namespace quillon

@@ -4,8 +4,9 @@
 namespace quillon {
 
 AccountTool MassTransferTool() {
-  return {80, "MassTransfer", "Mass Transfer",
-          [](frmAccount& statement) { OpenBulkWork(statement, "acmasstransfer", "bulk.masstransfer"); }};
+  return {80, "MassTransfer", "Mass Transfer", [](frmAccount& statement) {
+            OpenBulkWork(statement, "acmasstransfer", "Mass Transfer", "bulk.masstransfer");
+          }};
 }
 
 }  // namespace quillon

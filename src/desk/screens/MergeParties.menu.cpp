@@ -1,3 +1,4 @@
+#include "desk/screens/BulkWork.h"
 #include "desk/screens/DeskMenuLine.h"
 
 namespace quillon {
@@ -9,6 +10,7 @@ DeskMenuLine MergePartiesMenu() {
           .Caption = "Mer&ge Parties …",
           .RightKey = "bulk.mergeparties",
           .FormKey = "mergeparties",
+          .Open = OpenMergeOfParties,
           .IsModal = true};
 }
 

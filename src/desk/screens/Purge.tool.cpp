@@ -5,7 +5,7 @@ namespace quillon {
 
 AccountTool PurgeTool() {
   return {70, "Purge", "Purge",
-          [](frmAccount& statement) { OpenBulkWork(statement, "acmassdelete2", "bulk.purge"); }};
+          [](frmAccount& statement) { OpenBulkWork(statement, "acmassdelete2", "Purge", "bulk.purge"); }};
 }
 
 }  // namespace quillon

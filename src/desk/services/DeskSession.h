@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -43,6 +44,16 @@ class DeskSession : public ISession {
   int UserLevel() const override { return user_.Level; }
   CFirm& Firm() override { return parameters_; }
   std::string FirmName() const override { return firm_->Name(); }
+
+  /// The open session, as the desk's own parts see it; there must be one.
+  static DeskSession& Current() { return static_cast<DeskSession&>(*gSession); }
+
+  /// Whether bulk work begins with copies of the years. A person at a window has them; a script asks for
+  /// them.
+  bool CopiesBulkWork = false;
+
+  /// The firm is to be taken back to before a run of the journal, as soon as the event at hand has ended.
+  std::function<void(int run)> OnGoBack;
 
   void SetArea(const ScreenArea& area) { area_ = area; }
   void AddModule(const std::string& key, IModule& module) { modules_.byKey[key] = &module; }

@@ -5,6 +5,7 @@
 #include "books/SqlText.h"
 #include "desk/services/AmountFormat.h"
 #include "desk/services/AmountWords.h"
+#include "desk/services/MessageLog.h"
 #include "desk/services/NameText.h"
 #include "desk/services/NarrationText.h"
 #include "host/controls/GridModel.h"
@@ -51,7 +52,10 @@ int DeskStd::MsgBox(const std::string& text, const std::string& buttons, const s
   request.Title = title.empty() ? kProduct : title;
   request.Buttons = buttons == "2" ? std::vector<std::string>{"Yes", "No"} : std::vector<std::string>{"OK"};
   request.Default = defaultButton == 2 && buttons == "2" ? 2 : 1;
-  return gRuntime->AskMessage(request);
+  const int button = gRuntime->AskMessage(request);
+  const bool isButton = button >= 1 && button <= static_cast<int>(request.Buttons.size());
+  MessageLog::Note(text, isButton ? request.Buttons[static_cast<std::size_t>(button) - 1] : "closed");
+  return button;
 }
 
 void DeskStd::SendKeys(const std::string& keys) { gRuntime->SendKeys(keys); }

@@ -1,5 +1,8 @@
 #include "desk/shell/Desk.h"
 
+#include "desk/firm/BulkTurn.h"
+#include "desk/safety/GoingBack.h"
+#include "desk/screens/BulkWork.h"
 #include "desk/screens/OutgoingLeaves.h"
 #include "desk/shell/ModuleLibrary.h"
 #include "host/forms/Runtime.h"
@@ -32,6 +35,10 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
   session_ = std::move(next);
   session_->Begin();
   session_->SetArea(options_.Area);
+  session_->CopiesBulkWork = options_.CopiesBulkWork;
+  session_->OnGoBack = [this](int run) {
+    if (OnGoBack) OnGoBack(run);
+  };
   screens_ = std::make_unique<DeskScreens>();
   app_ = std::make_unique<DeskApp>(*session_, *screens_);
   session_->AddModule(module_->ID(), *module_);
@@ -39,7 +46,34 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
   module_->Init(app_->MainWindow());
   menu_ = std::make_unique<DeskMenu>(*module_, *session_);
   // What a program that was killed has left is asked about before anybody works on.
-  gRuntime->Act([this] { OutgoingLeaves(session_->MainDb()).AskAll(); });
+  gRuntime->Act([this] {
+    OutgoingLeaves(session_->MainDb()).AskAll();
+    TellBrokenOffRuns(*session_);
+  });
+}
+
+void Desk::GoBack(int run) {
+  const std::string folder = session_->Books().Folder().string();
+  const std::string user = session_->CurrentUser().Name;
+  const int year = session_->Year().StartYear();
+  // A firm that keeps no users has a supervisor without a name of his own.
+  const bool isListed = session_->CommonDb().RowExists("select 1 from Users");
+  CloseFirm();
+  std::exception_ptr failed;
+  try {
+    const std::unique_ptr<Firm> firm = Firm::Open(folder);
+    GoingBack(*firm, run, user).Do();
+  } catch (const HostError&) {
+    failed = std::current_exception();
+  }
+  OpenFirm(folder, isListed ? user : "", year);
+  if (failed) std::rethrow_exception(failed);
+}
+
+std::string Desk::WhoAsksToLeave() {
+  if (!session_) return {};
+  const auto other = BulkTurn::AsksToLeave(*session_->Books().Common());
+  return other ? other->Words() : "";
 }
 
 void Desk::CloseFirm() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -24,6 +25,7 @@ class Desk {
     ScreenArea Area;
     SqlObserver* Sql = nullptr;
     ReportObserver* Reports = nullptr;
+    bool CopiesBulkWork = false;  ///< before each screen that changes many entries
   };
 
   /// Throws HostError when the module cannot be loaded.
@@ -34,6 +36,16 @@ class Desk {
   /// `takeOver` names the machine whose lock on the firm is void by the user's word.
   void OpenFirm(const std::string& folder, const std::string& user = "", int startYear = 0,
                 const std::string& takeOver = "");
+
+  /// Closes the firm, takes it back to before a run of bulk work, and opens it again. Throws HostError in
+  /// plain words; it is then open as it was.
+  void GoBack(int run);
+
+  /// Another program that wants this one to leave the firm, in words; empty when none does.
+  std::string WhoAsksToLeave();
+
+  /// Takes the firm back when the event at hand has ended: GoBack must not be called from within one.
+  std::function<void(int run)> OnGoBack;
 
   /// Ends the module's forms and the desk's own, then the session.
   void CloseFirm();

@@ -10,6 +10,7 @@
 #include <QStackedLayout>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolButton>
 #include <filesystem>
 
@@ -38,6 +39,7 @@ namespace {
 constexpr int kWidth = 1280;
 constexpr int kHeight = 760;
 constexpr int kSaidFor = 8000;  // milliseconds
+constexpr int kLookEvery = 3000;
 
 }  // namespace
 
@@ -82,7 +84,15 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   options.ModulePath = modulePath;
   options.OutputFolder = reports_.path().toStdString();
   options.Reports = this;
+  options.CopiesBulkWork = true;
   desk_ = std::make_unique<Desk>(options);
+  desk_->OnGoBack = [this](int run) {
+    QMetaObject::invokeMethod(
+        this, [this, run] { GoBack(run); }, Qt::QueuedConnection);
+  };
+  auto* const look = new QTimer(this);
+  connect(look, &QTimer::timeout, this, &DeskWindow::LeaveWhereAsked);
+  look->start(kLookEvery);
   const QSize wanted(Scale::Px(kWidth * Runtime::kTwipsPerPixel),
                      Scale::Px(kHeight * Runtime::kTwipsPerPixel));
   resize(wanted.boundedTo(screen()->availableSize()));
@@ -133,6 +143,35 @@ QString DeskWindow::OpenFirm(const QString& folder, const QString& user, int sta
   ShowState();
   TakeArea();
   return fault;
+}
+
+void DeskWindow::GoBack(int run) {
+  if (!CloseForms()) return;
+  ShowBusy(true, "Going back");
+  Acts::LetPaint();
+  std::string told = "The firm is as it was before No. " + std::to_string(run) +
+                     ". What was there is kept: Books > Bulk Work.";
+  try {
+    desk_->GoBack(run);
+  } catch (const std::exception& error) {
+    told = "The firm is as it was: " + std::string(error.what());
+  }
+  ShowBusy(false, "");
+  ShowState();
+  TakeArea();
+  Tell(QString::fromStdString(told));
+}
+
+/// Not in the middle of something; who does not answer in a minute loses the connection.
+void DeskWindow::LeaveWhereAsked() {
+  if (runtime_.IsWaiting() || QApplication::activeModalWidget() != nullptr || !desk_->HasFirm()) return;
+  std::string words;
+  Acts::Run([&] { words = desk_->WhoAsksToLeave(); });
+  if (words.empty() || !CloseForms()) return;
+  CloseFirm();
+  ShowState();
+  Tell(QStringLiteral("The firm was closed, because all were asked to leave it: %1. Open it again later.")
+           .arg(QString::fromStdString(words)));
 }
 
 QString DeskWindow::TryFirm(const QString& folder, const QString& user, int startYear) {

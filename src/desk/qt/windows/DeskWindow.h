@@ -78,6 +78,12 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   void ShowBusy(bool on, const std::string& text);
   void ShowWaiting(bool on);
   void ShowState();
+
+  /// Closes the screens, takes the firm back to before a run of bulk work and opens it again.
+  void GoBack(int run);
+
+  /// Closes the firm when another program asks all to leave it.
+  void LeaveWhereAsked();
   bool MayCloseScreens(const std::string& why);
   void ShowPage();
   void TakeArea();

@@ -1,0 +1,117 @@
+#include "desk/safety/BulkRun.h"
+
+#include "desk/services/DeskSession.h"
+#include "desk/services/Settings.h"
+#include "host/forms/BusyJob.h"
+#include "host/services/IStd.h"
+#include "host/values/Text.h"
+
+namespace quillon {
+
+namespace {
+
+std::string DoingOf(const BulkEntry& work) {
+  return work.Screen + (work.AccountName.empty() ? "" : " of " + work.AccountName);
+}
+
+BulkEntry WithUser(BulkEntry work, const std::string& user) {
+  work.User = user;
+  return work;
+}
+
+/// What the firm has set; else the usual.
+CopyLimits LimitsOf(DeskSession& session) {
+  const Settings settings(session.CommonDb(), session.CurrentUser().Name);
+  CopyLimits limits;
+  const long long runs = ValInteger(settings.OfFirm("BulkCopies.Runs"));
+  const long long megabytes = ValInteger(settings.OfFirm("BulkCopies.Megabytes"));
+  if (runs > 0) limits.Runs = static_cast<int>(runs);
+  if (megabytes > 0) limits.Megabytes = megabytes;
+  return limits;
+}
+
+}  // namespace
+
+BulkRun::BulkRun(DeskSession& session, BulkEntry work, std::vector<int> years)
+    : session_(session),
+      turn_(*session.Books().Common(), session.CurrentUser().Name, DoingOf(work)),
+      copies_(session.Books()),
+      journal_(session.CommonDb()),
+      work_(WithUser(std::move(work), session.CurrentUser().Name)),
+      years_(std::move(years)),
+      number_(journal_.Begin(work_)) {}
+
+BulkRun::~BulkRun() {
+  for (const int year : years_) session_.Books().OpenYear(year).Db->BeforeFirstStore = nullptr;
+}
+
+void BulkRun::Copy() {
+  try {
+    for (const int year : years_) {
+      const BusyJob busy("Copying the year " + YearName(year) + " …");
+      copies_.Make(number_, year);
+    }
+  } catch (const HostError&) {
+    copies_.Drop(number_);
+    throw;
+  }
+  isCopied_ = true;
+  copies_.DropBeyond(LimitsOf(session_));
+}
+
+void BulkRun::WatchFirstStore() {
+  for (const int year : years_) {
+    FirebirdLink& db = *session_.Books().OpenYear(year).Db;
+    checks_[year] = std::make_unique<BulkCheck>(db, work_.FormKey, work_.Account);
+    if (isCopied_) db.BeforeFirstStore = [this] { AskAboutOthers(); };
+  }
+}
+
+void BulkRun::AskAboutOthers() {
+  std::size_t others = 0;
+  {
+    const BusyJob busy("Looking what others have entered …");
+    for (const int year : years_) {
+      session_.Books().OpenYear(year).Db->BeforeFirstStore = nullptr;
+      const BooksDigest now = BooksDigest::Of(session_.Books().PlaceOfYear(year).Database);
+      others += BooksDigest::Read(copies_.Before(number_, year)).ChangesTo(now).size();
+    }
+  }
+  if (others == 0) return;
+  if (!gStd->AskYesNo("The copy is older than " + std::to_string(others) + " entries. Copy again?")) return;
+  Copy();
+  for (const int year : years_) {
+    checks_[year] =
+        std::make_unique<BulkCheck>(*session_.Books().OpenYear(year).Db, work_.FormKey, work_.Account);
+  }
+}
+
+BulkFindings BulkRun::EndYear(int startYear) {
+  const BusyJob busy("Checking the year " + YearName(startYear) + " …");
+  const BooksDigest after = BooksDigest::Of(session_.Books().PlaceOfYear(startYear).Database);
+  const std::vector<RowChange> changes =
+      BooksDigest::Read(copies_.Before(number_, startYear)).ChangesTo(after);
+  changed_ += changes.size();
+  if (changes.empty()) return {};
+  after.Write(copies_.After(number_, startYear));
+  return checks_.at(startYear)->Compare(changes);
+}
+
+BulkFindings BulkRun::End(const std::string& choices, const std::string& told) {
+  if (!isCopied_) {
+    journal_.End(number_, BulkJournal::kUncopied, choices, told);
+    return {};
+  }
+  BulkFindings all;
+  for (const int year : years_) {
+    const std::string where = years_.size() > 1 ? YearName(year) + ": " : "";
+    const BulkFindings findings = EndYear(year);
+    for (const std::string& text : findings.AsItWorks) all.AsItWorks.push_back(where + text);
+    for (const std::string& text : findings.Unexplained) all.Unexplained.push_back(where + text);
+  }
+  if (changed_ == 0) copies_.Drop(number_);
+  journal_.End(number_, changed_ == 0 ? BulkJournal::kNothing : BulkJournal::kDone, choices, told);
+  return all;
+}
+
+}  // namespace quillon

@@ -1,0 +1,24 @@
+#include "desk/services/MessageLog.h"
+
+#include "host/values/Text.h"
+
+namespace quillon {
+
+namespace {
+
+MessageLog* listening = nullptr;
+
+}  // namespace
+
+MessageLog::MessageLog() { listening = this; }
+
+MessageLog::~MessageLog() { listening = nullptr; }
+
+std::string MessageLog::Text() const { return text::Join(lines_, "\n"); }
+
+void MessageLog::Note(const std::string& message, const std::string& answer) {
+  if (listening == nullptr) return;
+  listening->lines_.push_back(text::ReplaceAll(message, "\n", " ") + (answer == "OK" ? "" : " - " + answer));
+}
+
+}  // namespace quillon
