@@ -22,7 +22,7 @@ HERE = Path(__file__).resolve().parent
 LEAF_123 = json.dumps({"cmd": "query", "sql": "select VoucherID,IsuDate from ChqLeaves where ID=900"})
 COMMANDS = set(
     "firm form menu set get call show close forms key focus type paste click dblclick bar choose check row cell range "
-    "gridrow scroll pickbutton picked popup answer state tree query execute setting picture trace".split()
+    "gridrow scroll pickbutton picked popup answer state tree query execute setting picture trace bulk goback menuline".split()
 )
 
 
@@ -186,6 +186,9 @@ class Driver(unittest.TestCase):
         self.run_script("bulk.jsonl", 0)
         self.firm = second
         self.run_script("merge.jsonl", 0)
+
+    def test_a_merge_under_copies_is_gone_back_on(self):
+        self.run_script("goback.jsonl", 1)
 
     def test_labels_letters_and_envelopes(self):
         self.run_script("correspondence.jsonl", 0)

@@ -5,6 +5,7 @@
 #include "desk/firm/BulkTurn.h"
 #include "desk/safety/GoingBack.h"
 #include "tests/maintenance/BulkTest.h"
+#include "tests/support/FirebirdServer.h"
 
 namespace quillon {
 namespace {
@@ -198,6 +199,45 @@ TEST_F(BulkNet, AGoingBackThatFailsLeavesTheFirmAsItWas) {
   EXPECT_EQ(Year().Database, place);
   EXPECT_EQ(BooksDigest::Of(Year()), after);
   EXPECT_FALSE(fs::exists(folder_.Path() / "firm" / "2024-run1.fdb"));
+}
+
+/// The same by hand on a firm whose files the engine reaches in another way.
+void GoBackOn(const fs::path& folder, const FirebirdAddress& server) {
+  FirmDetails details;
+  details.FirmName = "Sharda";
+  CreateFirm(folder, details, {2023, 2024}, server);
+  const std::unique_ptr<Firm> mine = Firm::Open(folder);
+  const std::unique_ptr<Firm> theirs = Firm::Open(folder);
+  const auto add = [&theirs](int code) {
+    theirs->OpenYear(2024).Db->Execute("insert into FAMaster (mcd,mhd) values (" + std::to_string(code) +
+                                       ",'A')");
+  };
+  add(1);
+  BulkJournal journal(*mine->Common());
+  const int run = journal.Begin({.User = "Meera", .Screen = "Purge"});
+  BookCopies copies(*mine);
+  for (const int year : mine->Years()) copies.Make(run, year);
+  add(2);
+  EXPECT_EQ(GoingBack(*mine, run, "Meera").Since(),
+            std::vector<std::string>{"2024-25: 1 row added to FAMASTER"});
+  GoingBack(*mine, run, "Meera").Do(0);
+  EXPECT_THROW(add(3), HostError) << "who is thrown out stores nothing more";
+  const std::unique_ptr<Firm> again = Firm::Open(folder);
+  EXPECT_EQ(again->OpenYear(2024).Db->Lookup("FAMaster", "count(*)", "").ToInteger(), 1);
+}
+
+TEST(BulkNetElsewhere, InAFolderThatTheEngineCannotName) {
+  const TempFolder folder;
+  GoBackOn(folder.Path() / "a:b", {});
+}
+
+TEST(BulkNetElsewhere, OnAServer) {
+  if (!FirebirdServer::IsInstalled()) GTEST_SKIP() << "the Firebird server is not installed";
+  const TempFolder folder;
+  const FirebirdServer server;
+  FirebirdAddress place = server.Address("common.fdb");
+  place.Database.resize(place.Database.size() - std::string("/common.fdb").size());
+  GoBackOn(folder.Path() / "firm", place);
 }
 
 }  // namespace

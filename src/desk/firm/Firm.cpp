@@ -24,8 +24,7 @@ namespace {
 bool IsWritable(const fs::path& path) { return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0; }
 
 /// Tells the engine of the firm's files, before it attaches any.
-void TellEngine(const FirmFile& file) {
-  std::vector<std::string> files;
+void TellEngine(const FirmFile& file, std::vector<std::string> files = {}) {
   const auto add = [&files](const FirebirdAddress& address) {
     if (!address.IsServer()) files.push_back(address.Database);
   };
@@ -114,6 +113,12 @@ Firm::Firm(const fs::path& folder, const FirmOptions& options)
 void Firm::FindYears() {
   YearPlaces::ReadInto(file_, *common_);
   TellEngine(file_);
+}
+
+void Firm::LetEngineName(const FirebirdAddress& more) {
+  if (more.IsServer()) return;
+  more_.push_back(more.Database);
+  TellEngine(file_, more_);
 }
 
 /// A program that was taking the firm back ended in between and has left the years shut.

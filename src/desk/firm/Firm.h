@@ -74,6 +74,9 @@ class Firm {
   /// or whose database cannot be opened.
   const FirmYear& OpenYear(int startYear);
 
+  /// Lets the engine name another file of the firm, which is about to be made or opened.
+  void LetEngineName(const FirebirdAddress& more);
+
   /// The databases that are open.
   std::vector<FirmLink> Links() const;
 
@@ -94,6 +97,7 @@ class Firm {
   std::optional<FirmLock> lock_;
   std::shared_ptr<FirebirdLink> common_;
   std::map<int, FirmYear> years_;
+  std::vector<std::string> more_;  // files besides those of firm.json that the engine is to know
   SqlObserver* observer_ = nullptr;
 };
 

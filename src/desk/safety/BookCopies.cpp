@@ -89,6 +89,7 @@ void BookCopies::CopyAndProve(const FirebirdAddress& year, const fs::path& stem,
     Scratch copy(With(stem, ".part"));
     EngineTools::Copy(year, copy.Path());
     const Scratch restored(With(stem, kScratch));
+    firm_.LetEngineName(restored.Address());
     EngineTools::Restore(copy.Path(), restored.Address());
     const BooksDigest copied = BooksDigest::Of(restored.Address());
     if (copied != before) before = BooksDigest::Of(year);
@@ -109,11 +110,13 @@ void BookCopies::Record(const BookCopy& copy) {
 
 void BookCopies::Restore(const BookCopy& copy, const FirebirdAddress& into) const {
   BooksDigest copied;
+  firm_.LetEngineName(into);
   if (fs::path(copy.FileName).extension() == kCopy) {
     copied = BooksDigest::Read(Before(copy.Run, copy.StartYear));
     EngineTools::Restore(folder_ / copy.FileName, into);
   } else {
     const FirebirdAddress left = YearPlaces::Beside(into, copy.FileName);
+    firm_.LetEngineName(left);
     const Scratch moved(With(Stem(copy.Run, copy.StartYear), ".part"));
     EngineTools::BringOnline(left);
     copied = BooksDigest::Of(left);
@@ -153,7 +156,9 @@ void BookCopies::Drop(int run) {
       std::error_code ignored;
       fs::remove(folder_ / copy.FileName, ignored);
     } else {
-      FirebirdAddress left = YearPlaces::Beside(firm_.PlaceOfYear(copy.StartYear).Database, copy.FileName);
+      const FirebirdAddress left =
+          YearPlaces::Beside(firm_.PlaceOfYear(copy.StartYear).Database, copy.FileName);
+      firm_.LetEngineName(left);
       EngineTools::BringOnline(left);
       FirebirdAttachment::Delete(left);
     }

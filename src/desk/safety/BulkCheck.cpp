@@ -105,8 +105,8 @@ void BulkCheck::CompareBalances(const Sums& after, BulkFindings& findings) const
     const bool isKept = formKey_ == kPurge && account == account_;
     const bool mayChange = before_.Reached.contains(account) || (formKey_ == kPurge && account == kContra);
     if (deletes && mayChange && !isKept) continue;
-    changed.push_back(NameOf(account) + " (" + gStd->FormatAmount(was, "") + " before, " +
-                      gStd->FormatAmount(is, "") + " now)");
+    changed.push_back(NameOf(account) + " (" + gStd->FormatAmount(was, "C2") + " before, " +
+                      gStd->FormatAmount(is, "C2") + " now)");
   }
   constexpr std::size_t kBoth = 2;
   const bool isMoved = !deletes && moved.IsZero() && (formKey_ != kTransfer || changed.size() <= kBoth);

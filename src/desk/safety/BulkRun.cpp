@@ -59,12 +59,26 @@ void BulkRun::Copy() {
   copies_.DropBeyond(LimitsOf(session_));
 }
 
-void BulkRun::WatchFirstStore() {
+void BulkRun::Watch(std::function<void()> onFirst) {
+  onFirst_ = std::move(onFirst);
+  ReadYears();
   for (const int year : years_) {
-    FirebirdLink& db = *session_.Books().OpenYear(year).Db;
-    checks_[year] = std::make_unique<BulkCheck>(db, work_.FormKey, work_.Account);
-    if (isCopied_) db.BeforeFirstStore = [this] { AskAboutOthers(); };
+    session_.Books().OpenYear(year).Db->BeforeFirstStore = [this] { Begins(); };
   }
+}
+
+void BulkRun::ReadYears() {
+  for (const int year : years_) {
+    checks_[year] =
+        std::make_unique<BulkCheck>(*session_.Books().OpenYear(year).Db, work_.FormKey, work_.Account);
+  }
+}
+
+/// Whichever year is the first.
+void BulkRun::Begins() {
+  for (const int year : years_) session_.Books().OpenYear(year).Db->BeforeFirstStore = nullptr;
+  onFirst_();
+  if (isCopied_) AskAboutOthers();
 }
 
 void BulkRun::AskAboutOthers() {
@@ -72,7 +86,6 @@ void BulkRun::AskAboutOthers() {
   {
     const BusyJob busy("Looking what others have entered …");
     for (const int year : years_) {
-      session_.Books().OpenYear(year).Db->BeforeFirstStore = nullptr;
       const BooksDigest now = BooksDigest::Of(session_.Books().PlaceOfYear(year).Database);
       others += BooksDigest::Read(copies_.Before(number_, year)).ChangesTo(now).size();
     }
@@ -80,10 +93,7 @@ void BulkRun::AskAboutOthers() {
   if (others == 0) return;
   if (!gStd->AskYesNo("The copy is older than " + std::to_string(others) + " entries. Copy again?")) return;
   Copy();
-  for (const int year : years_) {
-    checks_[year] =
-        std::make_unique<BulkCheck>(*session_.Books().OpenYear(year).Db, work_.FormKey, work_.Account);
-  }
+  ReadYears();
 }
 
 BulkFindings BulkRun::EndYear(int startYear) {

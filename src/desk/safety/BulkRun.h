@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -31,9 +32,9 @@ class BulkRun {
   /// Copies each year. Throws HostError in plain words; the run may then go on without a copy.
   void Copy();
 
-  /// Before the first row is changed it is looked whether others wrote since, and the user asked to copy
-  /// again.
-  void WatchFirstStore();
+  /// Reads the years for the check. Before the first row is changed `onFirst` is called; then it is looked
+  /// whether others wrote since the copy, and the user asked to copy again.
+  void Watch(std::function<void()> onFirst);
 
   int Number() const { return number_; }
 
@@ -48,6 +49,8 @@ class BulkRun {
   std::size_t Changed() const { return changed_; }
 
  private:
+  void ReadYears();
+  void Begins();
   void AskAboutOthers();
   BulkFindings EndYear(int startYear);
 
@@ -58,6 +61,7 @@ class BulkRun {
   BulkEntry work_;
   std::vector<int> years_;
   std::map<int, std::unique_ptr<BulkCheck>> checks_;
+  std::function<void()> onFirst_;
   int number_;
   std::size_t changed_ = 0;
   bool isCopied_ = false;

@@ -19,7 +19,22 @@ namespace {
 constexpr const char* kMerge = "mergeparties";
 constexpr int kFarthest = 5;  // so many years on either side a merge goes
 
+std::string RowsOf(const GridModel& grid) {
+  std::vector<std::string> lines;
+  for (int row = grid.FixedRows; row < grid.Rows; ++row) {
+    std::vector<std::string> cells;
+    for (int col = 0; col < grid.Cols; ++col) {
+      if (grid.ColWidth(col) > 0 && !grid.Cell(row, col).empty()) cells.emplace_back(grid.Cell(row, col));
+    }
+    lines.push_back(text::Join(cells, " | "));
+  }
+  return text::Join(lines, "\n");
+}
+
 std::string ChoiceOf(const Control& control) {
+  if (const auto* grid = dynamic_cast<const GridModel*>(&control)) {
+    return grid->Visible ? RowsOf(*grid) : "";
+  }
   if (const auto* field = dynamic_cast<const CTextPlus*>(&control))
     return field->Caption() + " " + field->Text();
   if (const auto* box = dynamic_cast<const TextBox*>(&control)) return box->Text();
@@ -113,14 +128,16 @@ void RunUnderNet(const FormPtr& dialog, const FormPtr& owner, BulkEntry work) {
     run.EndUnrun();
     return;
   }
-  run.WatchFirstStore();
+  // A form that has closed lets go of its cells.
+  std::string choices;
+  run.Watch([&] { choices = ChoicesOf(*dialog); });
   std::string told;
   {
     const MessageLog log;
     gStd->ShowDialog(dialog, owner);
     told = log.Text();
   }
-  TellFindings(run, work.Screen, run.End(ChoicesOf(*dialog), told));
+  TellFindings(run, work.Screen, run.End(choices, told));
 }
 
 }  // namespace
