@@ -166,7 +166,7 @@ TEST_F(BulkNet, OneAtATimeAndTheDeadAreReleased) {
     ASSERT_EQ(errors.size(), 1U);
     EXPECT_EQ(errors.front().substr(0, 80),
               "Bulk work is going on in this firm: Purge of Bharat Mills, by Meera since " +
-                  TimeNow().substr(0, 6));
+                  SpokenTime(TimeNow()).substr(0, 6));
   }
   // A program that was taking the firm back ended when it had shut the year.
   const FirebirdAddress year = Year();
@@ -180,10 +180,10 @@ TEST_F(BulkNet, OneAtATimeAndTheDeadAreReleased) {
   EXPECT_EQ(Rows("select count(*) from BulkTurn", Common()), Texts{"0"});
 
   Common().Execute(
-      "insert into BulkRuns (RunNo,BeganAt,UserName,Screen) values (4,'2024-05-01','Meera','Purge')");
+      "insert into BulkRuns (RunNo,BeganAt,UserName,Screen) values (4,'2024-05-01 10:20:30','Meera','Purge')");
   desk_.OpenFirm((folder_.Path() / "firm").string());
   EXPECT_EQ(Told(),
-            Texts{"W: This run did not come to its end: No. 4, Purge, 2024-05-01, by Meera.\nWhat it had "
+            Texts{"W: This run did not come to its end: No. 4, Purge, 01-May-2024 10:20, by Meera.\nWhat it had "
                   "changed until then stands. Books > Bulk Work takes the firm back to before it."});
 }
 

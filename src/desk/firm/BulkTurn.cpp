@@ -50,6 +50,13 @@ std::string TimeNow() {
   return text.data();
 }
 
+std::string SpokenTime(const std::string& time) {
+  constexpr std::size_t kDay = 10;
+  constexpr std::size_t kMinutes = 16;
+  if (time.size() < kMinutes) return time;
+  return Date::Parse(time.substr(0, kDay)).Text() + time.substr(kDay, kMinutes - kDay);
+}
+
 BulkTurn::BulkTurn(FirebirdLink& common, const std::string& user, const std::string& doing, bool allLeave)
     : common_(common) {
   Clear(common);

@@ -7,6 +7,12 @@
 
 namespace quillon {
 
+/// Such a time as people read it: "01-Apr-2024 10:15".
+std::string SpokenTime(const std::string& time);
+
+/// The time now, "2024-04-01 10:15:00", as the common database keeps it.
+std::string TimeNow();
+
 /// A firm's turn for bulk work: one run, or one going back, at a time. It is a row of the common database
 /// that goes with the object; what a program has left that ended in between is void.
 class BulkTurn {
@@ -17,8 +23,8 @@ class BulkTurn {
     std::string Doing;  ///< "Mass Deletion of Asha Traders"
     bool AllLeave = false;
 
-    /// "Mass Deletion of Asha Traders, by Meera since 2024-04-01 10:15:00"
-    std::string Words() const { return Doing + ", by " + User + " since " + Since; }
+    /// "Mass Deletion of Asha Traders, by Meera since 01-Apr-2024 10:15"
+    std::string Words() const { return Doing + ", by " + User + " since " + SpokenTime(Since); }
   };
 
   /// Throws HostError that names who has the turn and since when. `common` must outlive it. With `allLeave`
@@ -40,8 +46,5 @@ class BulkTurn {
  private:
   FirebirdLink& common_;
 };
-
-/// The time now, "2024-04-01 10:15:00", as the common database keeps it.
-std::string TimeNow();
 
 }  // namespace quillon

@@ -12,7 +12,7 @@ using books::SqlString;
 
 std::string BulkEntry::Words() const {
   return "No. " + std::to_string(Run) + ", " + Screen + (AccountName.empty() ? "" : " of " + AccountName) +
-         ", " + BeganAt + ", by " + User;
+         ", " + SpokenTime(BeganAt) + ", by " + User;
 }
 
 int BulkJournal::Begin(const BulkEntry& entry) {

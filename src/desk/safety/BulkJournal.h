@@ -22,7 +22,7 @@ struct BulkEntry {
   std::string Told{};     ///< the messages with what was answered, a line for each
   std::string Outcome{};
 
-  /// "No. 7, Mass Deletion of Asha Traders, 2024-04-01 10:15:00, by Meera"
+  /// "No. 7, Mass Deletion of Asha Traders, 01-Apr-2024 10:15, by Meera"
   std::string Words() const;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "desk/firm/BulkTurn.h"
 #include "desk/safety/BookCopies.h"
 #include "desk/safety/GoingBack.h"
 #include "desk/services/DeskSession.h"
@@ -21,8 +22,8 @@ constexpr ScreenSpec kScreen = {
     .rightKey = "bulk.journal",
     .registerTitle = "Bulk Work",
     .iconKey = "List",
-    .firstKey = keys::kF2,
-    .lastKey = keys::kF3,
+    .firstKey = keys::kF6,
+    .lastKey = keys::kF9,
 };
 
 namespace col {
@@ -43,8 +44,8 @@ constexpr int kCount = 7;
 frmBulkRuns::frmBulkRuns() : ListScreen(kScreen, Origin::Desk) {}
 
 void frmBulkRuns::BuildBar() {
-  BtnBar1.AddButtons({"Open,F2: What it did,Open", "GoBack,F3: Go Back,LeftArrow", "Preview,Preview,Preview",
-                      "Print,Print,Print", "Exit,Esc: Exit,Close"});
+  BtnBar1.AddButtons({"Open,F6: What it did,Open", "GoBack,F7: Go Back,LeftArrow",
+                      "Preview,F8: Preview,Preview", "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
 }
 
 void frmBulkRuns::LoadScreen() { PlaceGrid(ContentTop()); }
@@ -81,7 +82,7 @@ void frmBulkRuns::FillGrid() {
   for (const BulkEntry& entry : BulkJournal(gSession->CommonDb()).All()) {
     gStd->NextGridRow(row, Grid);
     Grid.SetTextMatrix(row, col::kRun, std::to_string(entry.Run));
-    Grid.SetTextMatrix(row, col::kBegan, entry.BeganAt);
+    Grid.SetTextMatrix(row, col::kBegan, SpokenTime(entry.BeganAt));
     Grid.SetTextMatrix(row, col::kUser, entry.User);
     Grid.SetTextMatrix(row, col::kScreen, entry.Screen);
     Grid.SetTextMatrix(row, col::kAccount, entry.AccountName);
@@ -110,7 +111,8 @@ void frmBulkRuns::OpenRow(int row) {
   const auto part = [](const std::string& heading, const std::string& text) {
     return text.empty() ? "" : "\n\n" + heading + "\n" + text;
   };
-  gStd->MsgBox(entry.Words() + (entry.EndedAt.empty() ? "" : "\n" + entry.Outcome + ", " + entry.EndedAt) +
+  gStd->MsgBox(entry.Words() +
+                   (entry.EndedAt.empty() ? "" : "\n" + entry.Outcome + ", " + SpokenTime(entry.EndedAt)) +
                    part("What was filled in:", entry.Choices) + part("What it told:", entry.Told),
                "", "I");
 }
