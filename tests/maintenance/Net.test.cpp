@@ -182,9 +182,10 @@ TEST_F(BulkNet, OneAtATimeAndTheDeadAreReleased) {
   Common().Execute(
       "insert into BulkRuns (RunNo,BeganAt,UserName,Screen) values (4,'2024-05-01 10:20:30','Meera','Purge')");
   desk_.OpenFirm((folder_.Path() / "firm").string());
-  EXPECT_EQ(Told(),
-            Texts{"W: This run did not come to its end: No. 4, Purge, 01-May-2024 10:20, by Meera.\nWhat it had "
-                  "changed until then stands. Books > Bulk Work takes the firm back to before it."});
+  EXPECT_EQ(
+      Told(),
+      Texts{"W: This run did not come to its end: No. 4, Purge, 01-May-2024 10:20, by Meera.\nWhat it had "
+            "changed until then stands. Books > Bulk Work takes the firm back to before it."});
 }
 
 TEST_F(BulkNet, AGoingBackThatFailsLeavesTheFirmAsItWas) {

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "desk/driver/TrialProcess.h"
 #include "desk/screens/AccountTool.h"
+#include "desk/screens/BulkTrial.h"
 #include "desk/screens/frmAccount.h"
 
 namespace quillon {
@@ -11,13 +13,20 @@ namespace {
 
 constexpr std::chrono::seconds kLookEvery(2);
 
-/// The copies are asked for as long as it lives.
+/// The copies, and the trial, are asked for as long as it lives.
 class Copying {
  public:
-  explicit Copying(DeskSession& session) : session_(session) { session_.CopiesBulkWork = true; }
+  Copying(DeskSession& session, decltype(DeskSession::RunTrial) trial) : session_(session) {
+    session_.CopiesBulkWork = true;
+    session_.AsksAboutTrial = false;
+    session_.RunTrial = std::move(trial);
+  }
   Copying(const Copying&) = delete;
   Copying& operator=(const Copying&) = delete;
-  ~Copying() { session_.CopiesBulkWork = false; }
+  ~Copying() {
+    session_.CopiesBulkWork = false;
+    session_.RunTrial = nullptr;
+  }
 
  private:
   DeskSession& session_;
@@ -29,14 +38,33 @@ class Copying {
 Json Script::DoBulk(const Json& command) {
   RequireFirm();
   const std::string key = command.at("key").get<std::string>();
-  const Copying copying(desk_.Session());
+  Json tried = Json::array();
+  decltype(DeskSession::RunTrial) trial;
+  if (command.value("trial", false)) {
+    trial = [&](const std::string& folder, const std::string& form, std::int64_t account) {
+      tried = TrialProcess::Run({folder, desk_.Session().UserToOpenWith(), desk_.Session().Year().StartYear(),
+                                 form, account, runtime_.InOutput("trial")},
+                                command.value("script", Json::array()));
+    };
+  }
+  const Copying copying(desk_.Session(), std::move(trial));
   const std::vector<AccountTool> tools = AccountTools();
   const auto tool =
       std::find_if(tools.begin(), tools.end(), [&](const AccountTool& known) { return known.Key == key; });
-  if (tool == tools.end()) return DoMenuLine(command);
-  const auto statement = std::dynamic_pointer_cast<frmAccount>(runtime_.ActiveForm());
-  if (!statement) throw Refused("No statement of account is on top");
-  return Act([&] { tool->Open(*statement); });
+  Json answer;
+  if (tool == tools.end()) {
+    answer = DoMenuLine(command);
+  } else {
+    const auto statement = std::dynamic_pointer_cast<frmAccount>(runtime_.ActiveForm());
+    if (!statement) throw Refused("No statement of account is on top");
+    answer = Act([&] { tool->Open(*statement); });
+  }
+  if (command.value("trial", false)) answer["trial"] = tried;
+  return answer;
+}
+
+void Script::Try(const std::string& form, std::int64_t account) {
+  runtime_.Act([&] { CarryOutTrial(form, account); });
 }
 
 Json Script::DoGoBack(const Json& command) {

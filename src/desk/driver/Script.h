@@ -25,6 +25,9 @@ class Script {
   /// Unfinished. Answers the exit status.
   int Run();
 
+  /// Opens a screen in a firm of trial; the script's first lines are what a person does in it.
+  void Try(const std::string& form, std::int64_t account);
+
   /// What a fresh process needs to go on after Run; null when the script is done.
   Json Unfinished() const { return unfinished_; }
 

@@ -34,6 +34,7 @@ struct Arguments {
   std::string takeOver;
   std::string year;
   std::string resume;
+  std::string trial;  // the form and the account, "acmassdeletion:201"
 };
 
 constexpr const char* kUsage =
@@ -52,6 +53,7 @@ bool Read(int count, char** words, Arguments& arguments) {
                                : word == "--year"     ? &arguments.year
                                : word == "--takeover" ? &arguments.takeOver
                                : word == "--resume"   ? &arguments.resume
+                               : word == "--trial"    ? &arguments.trial
                                                       : nullptr;
     if (value != nullptr) {
       if (++i >= count) return false;
@@ -116,6 +118,9 @@ int Drive(const Arguments& arguments) {
     }
     Script script(in, desk, runtime, log);
     if (!handed.State.is_null()) script.Resume(handed.State);
+    if (const std::size_t colon = arguments.trial.find(':'); colon != std::string::npos) {
+      script.Try(arguments.trial.substr(0, colon), quillon::ValInteger(arguments.trial.substr(colon + 1)));
+    }
     status = script.Run();
     unfinished = script.Unfinished();
   }

@@ -59,8 +59,7 @@ void BulkRun::Copy() {
   copies_.DropBeyond(LimitsOf(session_));
 }
 
-void BulkRun::Watch(std::function<void()> onFirst) {
-  onFirst_ = std::move(onFirst);
+void BulkRun::Watch() {
   ReadYears();
   for (const int year : years_) {
     session_.Books().OpenYear(year).Db->BeforeFirstStore = [this] { Begins(); };
@@ -77,7 +76,7 @@ void BulkRun::ReadYears() {
 /// Whichever year is the first.
 void BulkRun::Begins() {
   for (const int year : years_) session_.Books().OpenYear(year).Db->BeforeFirstStore = nullptr;
-  onFirst_();
+  hasBegun_ = true;
   if (isCopied_) AskAboutOthers();
 }
 
@@ -113,7 +112,7 @@ BulkFindings BulkRun::End(const std::string& choices, const std::string& told) {
     return {};
   }
   BulkFindings all;
-  for (const int year : years_) {
+  for (const int year : hasBegun_ ? years_ : std::vector<int>()) {
     const std::string where = years_.size() > 1 ? YearName(year) + ": " : "";
     const BulkFindings findings = EndYear(year);
     for (const std::string& text : findings.AsItWorks) all.AsItWorks.push_back(where + text);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -32,9 +31,9 @@ class BulkRun {
   /// Copies each year. Throws HostError in plain words; the run may then go on without a copy.
   void Copy();
 
-  /// Reads the years for the check. Before the first row is changed `onFirst` is called; then it is looked
-  /// whether others wrote since the copy, and the user asked to copy again.
-  void Watch(std::function<void()> onFirst);
+  /// Reads the years for the check. Before the first row is changed it is looked whether others wrote since
+  /// the copy, and the user asked to copy again.
+  void Watch();
 
   int Number() const { return number_; }
 
@@ -61,10 +60,10 @@ class BulkRun {
   BulkEntry work_;
   std::vector<int> years_;
   std::map<int, std::unique_ptr<BulkCheck>> checks_;
-  std::function<void()> onFirst_;
   int number_;
   std::size_t changed_ = 0;
   bool isCopied_ = false;
+  bool hasBegun_ = false;
 };
 
 }  // namespace quillon

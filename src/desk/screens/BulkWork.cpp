@@ -4,11 +4,11 @@
 
 #include "books/SqlText.h"
 #include "desk/safety/BulkRun.h"
+#include "desk/screens/BulkTrial.h"
+#include "desk/screens/DialogChoices.h"
 #include "desk/screens/frmAccount.h"
 #include "desk/services/DeskSession.h"
 #include "desk/services/MessageLog.h"
-#include "host/controls/host_controls.h"
-#include "host/forms/Fields.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
 
@@ -18,45 +18,6 @@ namespace {
 
 constexpr const char* kMerge = "mergeparties";
 constexpr int kFarthest = 5;  // so many years on either side a merge goes
-
-std::string RowsOf(const GridModel& grid) {
-  std::vector<std::string> lines;
-  for (int row = grid.FixedRows; row < grid.Rows; ++row) {
-    std::vector<std::string> cells;
-    for (int col = 0; col < grid.Cols; ++col) {
-      if (grid.ColWidth(col) > 0 && !grid.Cell(row, col).empty()) cells.emplace_back(grid.Cell(row, col));
-    }
-    lines.push_back(text::Join(cells, " | "));
-  }
-  return text::Join(lines, "\n");
-}
-
-std::string ChoiceOf(const Control& control) {
-  if (const auto* grid = dynamic_cast<const GridModel*>(&control)) {
-    return grid->Visible ? RowsOf(*grid) : "";
-  }
-  if (const auto* field = dynamic_cast<const CTextPlus*>(&control))
-    return field->Caption() + " " + field->Text();
-  if (const auto* box = dynamic_cast<const TextBox*>(&control)) return box->Text();
-  if (const auto* list = dynamic_cast<const ListBox*>(&control)) return text::Join(TickedItems(*list), ", ");
-  if (const auto* mark = dynamic_cast<const CheckBox*>(&control)) {
-    return mark->CheckValue == 1 ? mark->Caption() : "";
-  }
-  if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
-    return option->Chosen ? option->Caption() : "";
-  }
-  return "";
-}
-
-/// What is filled in in a dialog, a line for each field.
-std::string ChoicesOf(const Form& form) {
-  std::vector<std::string> lines;
-  for (const Control* control : form.Controls()) {
-    const std::string choice = text::Trim(ChoiceOf(*control));
-    if (!choice.empty()) lines.push_back(choice);
-  }
-  return text::Join(lines, "\n");
-}
 
 std::vector<int> YearsOf(DeskSession& session, const std::string& form) {
   const int open = session.Year().StartYear();
@@ -128,12 +89,15 @@ void RunUnderNet(const FormPtr& dialog, const FormPtr& owner, BulkEntry work) {
     run.EndUnrun();
     return;
   }
-  // A form that has closed lets go of its cells.
+  const std::string tried = TryFirst(session, run, work);
+  run.Watch();
+  gRuntime->Load(dialog);
+  if (!tried.empty()) DialogChoices::Put(*dialog, tried);
+  // A form that has closed lets go of its cells; before it does anything it asks.
   std::string choices;
-  run.Watch([&] { choices = ChoicesOf(*dialog); });
   std::string told;
   {
-    const MessageLog log;
+    const MessageLog log([&] { choices = DialogChoices::Words(*dialog); });
     gStd->ShowDialog(dialog, owner);
     told = log.Text();
   }

@@ -53,15 +53,15 @@ void frmBulkRuns::LoadScreen() { PlaceGrid(ContentTop()); }
 std::string frmBulkRuns::CopyOf(int run) const {
   const std::vector<BookCopy> copies = BookCopies(DeskSession::Current().Books()).Of(run);
   if (copies.empty()) return "none";
-  std::vector<std::string> years;
   std::int64_t size = 0;
   for (const BookCopy& copy : copies) {
     if (copy.IsGone) return "gone";
-    years.push_back(YearName(copy.StartYear));
     size += copy.Size;
   }
+  std::string years = YearName(copies.front().StartYear);
+  if (copies.size() > 1) years += " to " + YearName(copies.back().StartYear);
   constexpr std::int64_t kMegabyte = 1 << 20;
-  return text::Join(years, ", ") + ", " + std::to_string((size + kMegabyte - 1) / kMegabyte) + " MB";
+  return years + ", " + std::to_string((size + kMegabyte - 1) / kMegabyte) + " MB";
 }
 
 void frmBulkRuns::FillGrid() {
@@ -143,7 +143,8 @@ void frmBulkRuns::GoBack(int run) {
   const std::string lost = since.empty() ? "Nothing was changed since."
                                          : "What came after it goes too:\n" + text::Join(since, "\n");
   if (gStd->AskYesNo("Take the firm back to before " + words + "?\n\n" + lost +
-                     "\n\nWhat is there now stays as a copy. Others are asked to leave the firm.")) {
+                         "\n\nWhat is there now stays as a copy. Others are asked to leave the firm.",
+                     "Q", IStd::kNo)) {
     session.OnGoBack(run);
   }
 }

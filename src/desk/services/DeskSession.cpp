@@ -41,6 +41,10 @@ DeskSession::~DeskSession() {
   if (gSession == this) gSession = nullptr;
 }
 
+std::string DeskSession::UserToOpenWith() {
+  return CommonDb().RowExists("select 1 from Users") ? user_.Name : "";
+}
+
 std::string DeskSession::Parameters::Parameter(int number) {
   return common.Lookup("FirmParameters", "ParameterText", "ParameterNo=" + std::to_string(number)).ToText();
 }

@@ -52,12 +52,22 @@ class DeskSession : public ISession {
   /// them.
   bool CopiesBulkWork = false;
 
+  /// Carries a screen out, for an account, in a firm of trial, in a process of its own, and returns when it
+  /// has ended. Without it there are no trials. Throws HostError.
+  std::function<void(const std::string& folder, const std::string& form, std::int64_t account)> RunTrial;
+
+  /// Whether the user is asked if he wants one.
+  bool AsksAboutTrial = true;
+
   /// The firm is to be taken back to before a run of the journal, as soon as the event at hand has ended.
   std::function<void(int run)> OnGoBack;
 
   void SetArea(const ScreenArea& area) { area_ = area; }
   void AddModule(const std::string& key, IModule& module) { modules_.byKey[key] = &module; }
   const User& CurrentUser() const { return user_; }
+
+  /// The user as a session is opened for: empty for the supervisor of a firm that keeps no users.
+  std::string UserToOpenWith();
   quillon::Firm& Books() { return *firm_; }
 
  private:

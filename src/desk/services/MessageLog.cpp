@@ -10,7 +10,9 @@ MessageLog* listening = nullptr;
 
 }  // namespace
 
-MessageLog::MessageLog() { listening = this; }
+MessageLog::MessageLog(std::function<void()> onMessage) : onMessage_(std::move(onMessage)) {
+  listening = this;
+}
 
 MessageLog::~MessageLog() { listening = nullptr; }
 
@@ -18,6 +20,7 @@ std::string MessageLog::Text() const { return text::Join(lines_, "\n"); }
 
 void MessageLog::Note(const std::string& message, const std::string& answer) {
   if (listening == nullptr) return;
+  listening->onMessage_();
   listening->lines_.push_back(text::ReplaceAll(message, "\n", " ") + (answer == "OK" ? "" : " - " + answer));
 }
 

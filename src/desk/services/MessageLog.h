@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,7 +10,8 @@ namespace quillon {
 /// One at a time.
 class MessageLog {
  public:
-  MessageLog();
+  /// `onMessage` is called before each message is noted, while its screen is still as it was.
+  explicit MessageLog(std::function<void()> onMessage);
   MessageLog(const MessageLog&) = delete;
   MessageLog& operator=(const MessageLog&) = delete;
   ~MessageLog();
@@ -21,6 +23,7 @@ class MessageLog {
   static void Note(const std::string& message, const std::string& answer);
 
  private:
+  std::function<void()> onMessage_;
   std::vector<std::string> lines_;
 };
 

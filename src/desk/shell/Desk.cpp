@@ -36,6 +36,7 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
   session_->Begin();
   session_->SetArea(options_.Area);
   session_->CopiesBulkWork = options_.CopiesBulkWork;
+  session_->RunTrial = RunTrial;
   session_->OnGoBack = [this](int run) {
     if (OnGoBack) OnGoBack(run);
   };
@@ -54,19 +55,18 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
 
 void Desk::GoBack(int run) {
   const std::string folder = session_->Books().Folder().string();
-  const std::string user = session_->CurrentUser().Name;
+  const std::string name = session_->CurrentUser().Name;
+  const std::string user = session_->UserToOpenWith();
   const int year = session_->Year().StartYear();
-  // A firm that keeps no users has a supervisor without a name of his own.
-  const bool isListed = session_->CommonDb().RowExists("select 1 from Users");
   CloseFirm();
   std::exception_ptr failed;
   try {
     const std::unique_ptr<Firm> firm = Firm::Open(folder);
-    GoingBack(*firm, run, user).Do();
+    GoingBack(*firm, run, name).Do();
   } catch (const HostError&) {
     failed = std::current_exception();
   }
-  OpenFirm(folder, isListed ? user : "", year);
+  OpenFirm(folder, user, year);
   if (failed) std::rethrow_exception(failed);
 }
 

@@ -47,6 +47,9 @@ class Desk {
   /// Takes the firm back when the event at hand has ended: GoBack must not be called from within one.
   std::function<void(int run)> OnGoBack;
 
+  /// See DeskSession.
+  std::function<void(const std::string& folder, const std::string& form, std::int64_t account)> RunTrial;
+
   /// Ends the module's forms and the desk's own, then the session.
   void CloseFirm();
   bool HasFirm() const { return session_ != nullptr; }

@@ -29,8 +29,10 @@
 #include "desk/qt/windows/QtRuntime.h"
 #include "desk/qt/windows/StartPage.h"
 #include "desk/sample/SampleFirm.h"
+#include "desk/screens/BulkTrial.h"
 #include "host/data/CDataSet.h"
 #include "host/forms/Progress.h"
+#include "host/values/Text.h"
 
 namespace quillon {
 
@@ -90,6 +92,12 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
     QMetaObject::invokeMethod(
         this, [this, run] { GoBack(run); }, Qt::QueuedConnection);
   };
+  desk_->RunTrial = [this](const std::string& folder, const std::string& form, std::int64_t account) {
+    if (!OnTrial) throw HostError("This desk cannot start another one");
+    DeskSession& session = desk_->Session();
+    OnTrial(QString::fromStdString(folder), QString::fromStdString(session.UserToOpenWith()),
+            session.Year().StartYear(), QString::fromStdString(form + ":" + std::to_string(account)));
+  };
   auto* const look = new QTimer(this);
   connect(look, &QTimer::timeout, this, &DeskWindow::LeaveWhereAsked);
   look->start(kLookEvery);
@@ -143,6 +151,15 @@ QString DeskWindow::OpenFirm(const QString& folder, const QString& user, int sta
   ShowState();
   TakeArea();
   return fault;
+}
+
+void DeskWindow::CarryOutTrial(const std::string& work) {
+  // Nobody shall take it for the firm itself.
+  setStyleSheet(QStringLiteral("QStatusBar, QStatusBar * { background: #9a3412; color: white; }"));
+  desk_->Session().CopiesBulkWork = false;
+  const std::size_t colon = work.find(':');
+  Acts::Run([&] { quillon::CarryOutTrial(work.substr(0, colon), ValInteger(work.substr(colon + 1))); });
+  close();
 }
 
 void DeskWindow::GoBack(int run) {

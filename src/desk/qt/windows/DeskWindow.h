@@ -36,6 +36,13 @@ class DeskWindow : public QMainWindow, private ReportObserver {
 
   void SetZoom(int percent);
 
+  /// Carries out a screen in a firm of trial, in a desk of its own, and returns when that has closed. Throws
+  /// HostError.
+  std::function<void(const QString& folder, const QString& user, int startYear, const QString& work)> OnTrial;
+
+  /// In a firm of trial: opens the screen, "acmassdeletion:201", and closes the desk when it is left.
+  void CarryOutTrial(const std::string& work);
+
   /// Starts a desk on another firm, which this process cannot open beside the first: called when this desk is
   /// ready to close, and closes afterwards. Without it the firm is opened here.
   std::function<void(const QString& folder, const QString& user, int startYear)> OnOtherFirm;

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -11,6 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "desk/firebird/EngineThread.h"
 #include "desk/firebird/EngineWatch.h"
 #include "desk/firebird/FirebirdEngine.h"
 #include "desk/qt/adapters/Scale.h"
@@ -27,6 +29,7 @@ struct Arguments {
   QString user;
   std::string module;
   int year = 0;
+  std::string trial;  // the form and the account
 };
 
 constexpr const char* kUsage =
@@ -39,11 +42,12 @@ bool Read(const QStringList& words, Arguments& arguments) {
   for (qsizetype i = 1; i < words.size(); ++i) {
     const QString& word = words[i];
     if (word == QLatin1String("--user") || word == QLatin1String("--year") ||
-        word == QLatin1String("--module")) {
+        word == QLatin1String("--module") || word == QLatin1String("--trial")) {
       if (++i >= words.size()) return false;
       bool understood = true;
       if (word == QLatin1String("--user")) arguments.user = words[i];
       if (word == QLatin1String("--module")) arguments.module = words[i].toStdString();
+      if (word == QLatin1String("--trial")) arguments.trial = words[i].toStdString();
       if (word == QLatin1String("--year")) arguments.year = words[i].toInt(&understood);
       if (!understood) return false;
     } else if (word.startsWith(QLatin1String("--")) || !arguments.folder.isEmpty()) {
@@ -55,8 +59,9 @@ bool Read(const QStringList& words, Arguments& arguments) {
   return true;
 }
 
-/// Where what is printed to a file is found again.
-std::string PrintFolder() {
+/// Where what is printed to a file is found again; what a trial prints goes with it.
+std::string PrintFolder(const Arguments& arguments) {
+  if (!arguments.trial.empty()) return arguments.folder.toStdString();
   const QString folder =
       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QStringLiteral("/Quillon");
   std::error_code ignored;
@@ -88,17 +93,40 @@ int TellUnanswered() {
 }
 
 /// The engine of a process knows one firm's locks only.
-void StartAnew(const QString& folder, const QString& user, int startYear, const std::string& module) {
+void Prepare(QProcess& desk, const QString& folder, const QString& user, int startYear,
+             const std::string& module) {
   QStringList words{folder};
   if (!user.isEmpty()) words << QStringLiteral("--user") << user;
   if (startYear != 0) words << QStringLiteral("--year") << QString::number(startYear);
   if (!module.empty()) words << QStringLiteral("--module") << QString::fromStdString(module);
-  QProcess desk;
   QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
   if (!quillon::FirebirdEngine::LocksAreGiven()) surroundings.remove(QStringLiteral("FIREBIRD_LOCK"));
   desk.setProcessEnvironment(surroundings);
   desk.setProgram(QApplication::applicationFilePath());
   desk.setArguments(words);
+}
+
+/// Its printers lead nowhere. The windows of this desk paint meanwhile.
+void RunTrial(const QString& folder, const QString& user, int startYear, const std::string& module,
+              const QString& work) {
+  bool ran = false;
+  quillon::EngineThread::Do([&] {
+    QProcess desk;
+    Prepare(desk, folder, user, startYear, module);
+    QProcessEnvironment surroundings = desk.processEnvironment();
+    surroundings.insert(QStringLiteral("CUPS_SERVER"), folder + QStringLiteral("/no-printers"));
+    desk.setProcessEnvironment(surroundings);
+    desk.setArguments(desk.arguments() << QStringLiteral("--trial") << work);
+    desk.setProcessChannelMode(QProcess::ForwardedChannels);
+    desk.start();
+    ran = desk.waitForFinished(-1) && desk.exitStatus() == QProcess::NormalExit && desk.exitCode() == 0;
+  });
+  if (!ran) throw quillon::HostError("The desk of the trial did not come to its end");
+}
+
+void StartAnew(const QString& folder, const QString& user, int startYear, const std::string& module) {
+  QProcess desk;
+  Prepare(desk, folder, user, startYear, module);
   if (!desk.startDetached()) throw quillon::HostError("Another desk cannot be started");
 }
 
@@ -122,17 +150,25 @@ int main(int count, char** words) {
   }
   quillon::Scale::SetPercent(QSettings().value(QStringLiteral("zoom"), 100).toInt());
   quillon::Theme::Apply(application);
+  if (!arguments.trial.empty()) QApplication::setApplicationName(QStringLiteral("quillon-trial"));
   try {
-    quillon::QtRuntime runtime(PrintFolder());
+    quillon::QtRuntime runtime(PrintFolder(arguments));
     quillon::DeskWindow window(runtime, arguments.module);
     window.OnOtherFirm = [&](const QString& folder, const QString& user, int year) {
       StartAnew(folder, user, year, arguments.module);
+    };
+    window.OnTrial = [&](const QString& folder, const QString& user, int year, const QString& work) {
+      RunTrial(folder, user, year, arguments.module, work);
     };
     window.show();
     window.activateWindow();
     if (!arguments.folder.isEmpty()) {
       const QString fault = window.OpenFirm(arguments.folder, arguments.user, arguments.year);
       if (!fault.isEmpty()) runtime.AskMessage({fault.toStdString(), "E", {"OK"}, "Quillon", 1});
+      if (!arguments.trial.empty() && !fault.isEmpty()) return 1;
+      if (!arguments.trial.empty()) {
+        QTimer::singleShot(0, &window, [&] { window.CarryOutTrial(arguments.trial); });
+      }
     }
     return QApplication::exec();
   } catch (const std::exception& error) {
