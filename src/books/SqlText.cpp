@@ -30,6 +30,12 @@ std::string SqlNumbers(std::span<const std::int64_t> numbers) {
   return text;
 }
 
+std::string SqlStrings(std::span<const std::string> texts) {
+  std::string list;
+  for (const std::string& text : texts) list += (list.empty() ? "" : ",") + SqlString(text);
+  return list;
+}
+
 std::string InBalances(const std::string& column) { return column + "<>" + SqlString(kMemorandumBook); }
 
 std::string IsOpening(const std::string& column) { return column + "=" + SqlString(kOpeningBook); }

@@ -31,6 +31,9 @@ std::string SqlNumber(std::int64_t number);
 /// Numbers with commas between them, as they stand behind "in".
 std::string SqlNumbers(std::span<const std::int64_t> numbers);
 
+/// The same of texts: 'A','B'.
+std::string SqlStrings(std::span<const std::string> texts);
+
 /// "dBook<>'MEM'": what counts in balances; `column` may carry an alias, "a.dBook".
 std::string InBalances(const std::string& column = "dBook");
 

@@ -58,12 +58,4 @@ Date DateRangeFields::First() const { return DateOf(txpDate1); }
 
 std::string DateRangeFields::Sql() const { return gStd->SqlDate(DateOf(txpDate1), DateOf(txpDate2)); }
 
-Date DateOf(const CTextPlus& field) { return Date::Parse(gStd->ParseDateText(field.Text(), "")); }
-
-bool RefuseAt(Control& field, const std::string& why) {
-  gStd->MsgBox(why);
-  field.SetFocus();
-  return false;
-}
-
 }  // namespace quillon

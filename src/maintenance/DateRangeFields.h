@@ -30,10 +30,4 @@ class DateRangeFields {
   std::string Sql() const;
 };
 
-/// The date of a field as a person writes it; empty for none.
-Date DateOf(const CTextPlus& field);
-
-/// Tells what is wrong and puts the user into the field; false.
-bool RefuseAt(Control& field, const std::string& why);
-
 }  // namespace quillon

@@ -11,9 +11,7 @@ namespace {
 /// With all ticked there is no condition, so that what is added to the account meanwhile is taken too.
 std::string OneOf(const std::string& column, const TickedNames& ticked) {
   if (ticked.IsAll) return "";
-  std::vector<std::string> quoted;
-  for (const std::string& name : ticked.Names) quoted.push_back(books::SqlString(name));
-  return " And " + column + " in (" + text::Join(quoted, ",") + ")";
+  return " And " + column + " in (" + books::SqlStrings(ticked.Names) + ")";
 }
 
 }  // namespace

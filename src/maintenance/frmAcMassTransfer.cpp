@@ -3,6 +3,7 @@
 #include "books/SqlText.h"
 #include "host/forms/BusyPointer.h"
 #include "host/forms/Fields.h"
+#include "host/forms/RuntimeBox.h"
 #include "host/forms/Unbroken.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
@@ -19,16 +20,6 @@ constexpr int kCredits = 1;
 constexpr int kHeadWidth = 20;
 
 CDbLink& Db() { return gSession->MainDb(); }
-
-/// The names that a query lists.
-std::vector<std::string> Names(const std::string& query) {
-  std::vector<std::string> names;
-  CDataSet rows;
-  for (rows.Open(query, Db()); !rows.Eof(); rows.MoveNext()) {
-    if (const Variant name = rows.Field(std::size_t{0}); !name.IsNull()) names.push_back(name.ToText());
-  }
-  return names;
-}
 
 }  // namespace
 
@@ -81,12 +72,15 @@ void frmAcMassTransfer::LoadDialog() {
   Dates.txpDate2.Text = gSession->Year().EndDate().Text();
   chkBooks.CheckValue = 1;
   chkTTypes.CheckValue = 1;
-  FillCheckList(lstBooks,
-                Names("Select distinct dBook From FAData a Where a.DCD=" + code + " And a.dBook<>'0B'"),
-                true);
-  FillCheckList(lstTTypes,
-                Names("Select distinct dTrnType from FAData a Where a.DCD=" + code + " And a.dTrnType<>'0B'"),
-                true);
+  FillCheckList(
+      lstBooks,
+      FirstColumn("Select distinct dBook From FAData a Where a.DCD=" + code + " And a.dBook<>'0B'", Db()),
+      true);
+  FillCheckList(
+      lstTTypes,
+      FirstColumn("Select distinct dTrnType from FAData a Where a.DCD=" + code + " And a.dTrnType<>'0B'",
+                  Db()),
+      true);
   LoadList();
 }
 
@@ -193,12 +187,7 @@ void frmAcMassTransfer::Tell(const EntryTransfer& transfer) {
 bool frmAcMassTransfer::MergeTransports() {
   if (!RequireTarget() || !gStd->AskYesNo("Are you sure to Transfer / Merge transports ?")) return false;
   quillon::MergeTransports(Db(), AcCode, Target());
-  MessageRequest done;
-  done.Text = "OK";
-  done.Icon = "I";
-  done.Buttons = {"OK"};
-  done.Title = Caption;
-  gRuntime->AskMessage(done);
+  TellInBox(*this, "OK", "I");
   return true;
 }
 

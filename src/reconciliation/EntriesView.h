@@ -11,6 +11,8 @@
 
 namespace quillon {
 
+class frmAcFilter2;
+
 /// The entries: the rows of the account's own statement with the column "Cleared On", the totals of what is
 /// marked, the filter, and the mark of a returned cheque.
 class EntriesView : public DatedView {
@@ -36,6 +38,9 @@ class EntriesView : public DatedView {
   /// already stay.
   void MassMark(bool unmark);
 
+  /// Asks which of the rows are to be seen, and hides the others.
+  void Filter();
+
   void TakeStored(const std::vector<ClearedDates::Change>& changes) override;
 
   void LetGo();
@@ -53,6 +58,9 @@ class EntriesView : public DatedView {
     std::int64_t Read = 0;
   };
 
+  void ShowFiltered(const frmAcFilter2& filter);
+  bool IsLetThrough(const frmAcFilter2& filter, int row) const;
+  void ShowSide(const std::string& side);
   void SetColumns();
   void CopyRows();
   void CopyRow(int row, int source);

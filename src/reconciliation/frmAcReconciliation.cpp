@@ -72,6 +72,7 @@ void frmAcReconciliation::RegisterRoutines() {
   Routine("SaveStatementRow", &frmAcReconciliation::SaveStatementRow);
   Routine("RunInterest", &frmAcReconciliation::RunInterest);
   Routine("MassMarking", &frmAcReconciliation::MassMarking);
+  Routine("Filter", &frmAcReconciliation::Filter);
   Routine("CalcInterest", &frmAcReconciliation::CalcInterest);
 }
 
@@ -230,6 +231,12 @@ void frmAcReconciliation::Pressed(const std::string& key) {
   } else if (key == "PassBook") {
     HideGrids();
     UpdateGridPassBook();
+  } else if (key == "Filter") {
+    Filter();
+  } else if (key == "Master") {
+    int code = 'M';
+    int shift = keys::kCtrl;
+    gApp->FormKeyDown(code, shift, *this);
   }
 }
 
@@ -260,6 +267,8 @@ void frmAcReconciliation::PopupMarking() {
 }
 
 void frmAcReconciliation::MassMarking(bool unmark) { entries_.MassMark(unmark); }
+
+void frmAcReconciliation::Filter() { entries_.Filter(); }
 
 void frmAcReconciliation::ShowReferences() {
   account_.ShowsReferences = !account_.ShowsReferences;

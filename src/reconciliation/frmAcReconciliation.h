@@ -38,6 +38,9 @@ class frmAcReconciliation : public ScreenForm, public AccountPeriod {
   void UpdateGridPassBook();
   void MassMarking(bool unmark);
 
+  /// Asks which of the entries are to be seen.
+  void Filter();
+
   /// Asks for the rate and the method, and shows the interest on the pass book, or on the account as it
   /// stands in the books.
   void RunInterest();

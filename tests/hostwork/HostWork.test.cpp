@@ -154,7 +154,7 @@ TEST_F(HostWork, ASiblingNamesFilesAndAccountsAreFilteredByTicks) {
     Key(*filter, keys::kF7);
   });
   EXPECT_FALSE(filter->Get("Cancelled").ToFlag());
-  EXPECT_EQ(filter->Get("AcCnd").ToText(), "a.dcd in (101,19)");
+  EXPECT_EQ(filter->Get("AcCnd").ToText(), "b.mcd not in (1)");
   EXPECT_EQ(filter->Get("CaptionTitle").ToText(), "Accounts: Sahyadri Bank, Pune; Suspense");
   gRuntime->Unload(*filter);
   run([&] { Do([&] { gRuntime->Unload(*filter, UnloadMode::CloseBox); }); });

@@ -38,6 +38,9 @@ constexpr ScreenSpec kScreen = {
 
 namespace col = account_col;
 
+/// What is kept out must not be overlooked.
+constexpr long kFilterColor = 0x80E0FF;
+
 /// The books of a year know nothing of the days before and after it, its opening balances included.
 bool IsInYear(const CDateDialog& period) {
   const FinYear& year = gSession->Year();
@@ -119,6 +122,7 @@ frmAccount::frmAccount()
   Member("WithOpening", WithOpening);
   Member("FAMaster", FAMaster);
   Member("MarksRead", MarksRead);
+  Routine("Filter", &frmAccount::Filter);
   mmOthers.Click = [this](int item) { others_.at(static_cast<std::size_t>(item)).Open(*this); };
 }
 
@@ -142,7 +146,10 @@ void frmAccount::FirstShow() {
 bool frmAccount::AskAccount() {
   const FlagHold asking(asking_);
   const std::optional<PickedAccount> picked = PickAccount(*this);
-  if (picked) AccountCode = picked->Code;
+  if (picked) {
+    AccountCode = picked->Code;
+    filter_.Remove();
+  }
   return picked.has_value();
 }
 
@@ -186,7 +193,12 @@ void frmAccount::ShowTitles() {
   MStrip1.Code = AccountCode;
   lblTitle1(1).Caption = "F.Y. " + YearName(gSession->Year().StartYear());
   lblTitle1(2).Caption = PeriodText();
-  lblTitle2.Caption = WithOpening ? "With Opening Balance" : "Without Opening Balance";
+  const bool filtered = filter_.IsInForce();
+  lblTitle2.Caption = filtered      ? filter_.Words()
+                      : WithOpening ? "With Opening Balance"
+                                    : "Without Opening Balance";
+  lblTitle2.BackColor = filtered ? kFilterColor : kDefaultColor;
+  lblTitle2.ToolTipText = filtered ? lblTitle2.Caption() + ". Ctrl+Shift+L shows all entries again." : "";
 }
 
 void frmAccount::FillGrid() {
@@ -207,7 +219,8 @@ void frmAccount::FillRows() {
   AddEntries(row, sums);
   Grid.Rows = std::max(row + 1, 2);
   ShowTotals(sums);
-  Grid.Row = 1;
+  if (filter_.IsInForce()) ShowFiltered();
+  PutCursorOn(1);
   ++MarksRead;
   fill.Done();
 }
@@ -218,13 +231,30 @@ void frmAccount::ShowTotals(const Sums& sums) {
   Grid.Footer.SetTextMatrix(0, col::kBalance, BalanceText(sums.balance, "C2"));
 }
 
+/// The balance after the last entry is not what these come to, so that none stands under them.
+void frmAccount::ShowFiltered() {
+  const AccountFilter::Sums sums = filter_.HideRows(Grid);
+  quillon::ShowTotals(Grid, 0, col::kNarration, "Totals of these entries",
+                      {{col::kDebit, sums.Debits}, {col::kCredit, sums.Credits}});
+  Grid.Footer.SetTextMatrix(0, col::kBalance, "");
+}
+
+/// On that row or, where the filter hides it, on the next one that is to be seen.
+void frmAccount::PutCursorOn(int row) {
+  const int seen = Grid.VisibleRowFrom(row, 1);
+  Grid.Row = seen > 0 ? seen : std::max(Grid.VisibleRowFrom(row, -1), 1);
+}
+
+Amount frmAccount::Opening() const {
+  return gSession->MainDb()
+      .Lookup("FADATA", "Sum(dAmt)",
+              "dcd=" + std::to_string(AccountCode) + " and (dVchDate<" + gStd->SqlDate(Date1) + " or " +
+                  books::IsOpening() + ") and " + books::InBalances())
+      .ToAmount();
+}
+
 void frmAccount::AddOpening(int& row, Sums& sums) {
-  const Amount opening =
-      gSession->MainDb()
-          .Lookup("FADATA", "Sum(dAmt)",
-                  "dcd=" + std::to_string(AccountCode) + " and (dVchDate<" + gStd->SqlDate(Date1) + " or " +
-                      books::IsOpening() + ") and " + books::InBalances())
-          .ToAmount();
+  const Amount opening = Opening();
   if (opening.IsZero()) return;
   Grid.Rows = ++row + 1;
   sums.Add(opening);
@@ -319,11 +349,32 @@ void frmAccount::PopupOthers() {
   PopupMenu(mmOthers, BtnBar1.Left + BtnBar1.Buttons("Others").Left(), BtnBar1.Top);
 }
 
+void frmAccount::AskFilter() {
+  if (!RequireNothingStandsOnIt()) return;
+  {
+    const FlagHold asking(asking_);
+    if (!filter_.Ask()) return;
+  }
+  FillGrid();
+  if (filter_.IsInForce()) gRuntime->Say("Ctrl+Shift+L shows all entries again.");
+}
+
+void frmAccount::Filter() {
+  if (!filter_.IsInForce()) {
+    AskFilter();
+  } else if (RequireNothingStandsOnIt()) {
+    filter_.Remove();
+    ReadAnew();
+    gRuntime->Say("All entries are shown.");
+  }
+}
+
 void frmAccount::Print(bool print) {
   CReportOptions options;
   options.SetOption("MainHeadForm1", "AcMain1");
   options.SetOption("MainHeadForm2", "AcMain2");
-  gReports->ShowGrid(Grid, &options, "Statement of Account: " + Grid.Title, lblTitle1(2).Caption, 3, print);
+  gReports->ShowGrid(Grid, &options, "Statement of Account: " + Grid.Title,
+                     lblTitle1(2).Caption + (filter_.IsInForce() ? "   " + filter_.Words() : ""), 3, print);
 }
 
 FormPtr frmAccount::ModuleScreen(const std::string& key) {
@@ -397,7 +448,7 @@ void frmAccount::ReadAnew() {
   const auto entry = books::EntryKey::OfRow(Grid, row, col::kVoucherId, col::kVchSubNo);
   FillRows();
   const std::vector<int> found = books::EntryRows(Grid, col::kVoucherId, col::kVchSubNo).Find(entry);
-  Grid.Row = found.empty() ? std::min(row, Grid.Rows - 1) : found.front();
+  PutCursorOn(found.empty() ? std::min(row, Grid.Rows - 1) : found.front());
   Grid.Col = column;
 }
 

@@ -6,6 +6,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include "desk/screens/AccountFilter.h"
 #include "desk/screens/AccountTool.h"
 #include "host/controls/ControlArray.h"
 #include "host/controls/Menu.h"
@@ -57,6 +58,18 @@ class frmAccount : public ListScreen, public AccountPeriod {
   /// Shows a screen on this account and period.
   void ShowForPeriod(Form& screen);
 
+  /// Asks which entries are to be seen. The others are hidden, and the filter stays in sight as long.
+  void AskFilter();
+
+  /// Ctrl+Shift+L: takes the filter away, or asks for one where none is in force.
+  void Filter();
+
+  /// What the account came to before the period, its opening balance included.
+  Amount Opening() const;
+
+  /// Of the account's entries in the period; FAData's alias is a.
+  std::string EntriesCondition() const;
+
  protected:
   void BuildBar() override;
   void LoadScreen() override;
@@ -81,12 +94,13 @@ class frmAccount : public ListScreen, public AccountPeriod {
   void RequireMaster();
   void FillRows();
   void ShowTitles();
-  std::string EntriesCondition() const;
   std::unordered_set<std::int64_t> ReturnedVouchers() const;
   void AddOpening(int& row, Sums& sums);
   void AddEntries(int& row, Sums& sums);
   void AddEntry(const Entry& entry, int row, bool returned, Sums& sums);
   void ShowTotals(const Sums& sums);
+  void ShowFiltered();
+  void PutCursorOn(int row);
   void ReadAnew();
   void ReadMarks();
 
@@ -95,6 +109,7 @@ class frmAccount : public ListScreen, public AccountPeriod {
   void PopupOthers();
 
   std::vector<AccountTool> others_;
+  AccountFilter filter_{*this};
   bool asking_ = false;  // while the picker is up, whose closing changes nothing by itself
 };
 

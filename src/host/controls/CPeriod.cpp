@@ -22,6 +22,11 @@ CPeriod::CPeriod(Control& parent, std::string name, int index)
 
 bool CPeriod::ValidatePeriod() {
   for (CTextPlus* field : {&Date1, &Date2}) {
+    // A key may have come before the field was left, and what stands there is still as it was typed.
+    if (!field->MayLeave()) {
+      field->SetFocus();
+      return false;
+    }
     if (Date::Parse(field->Text()).IsEmpty()) {
       gStd->MsgBox(field == &Date1 ? "Specify From Date" : "Specify To Date", "", "W");
       field->SetFocus();

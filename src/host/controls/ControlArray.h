@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/controls/Control.h"
@@ -15,6 +16,14 @@ class ControlArray {
  public:
   ControlArray(Control& parent, const std::string& name, const std::vector<int>& indexes) {
     for (const int index : indexes) items_.emplace(index, std::make_unique<T>(parent, name, index));
+  }
+
+  /// Those of several containers.
+  ControlArray(const std::string& name,
+               const std::vector<std::pair<Control*, std::vector<int>>>& containers) {
+    for (const auto& [parent, indexes] : containers) {
+      for (const int index : indexes) items_.emplace(index, std::make_unique<T>(*parent, name, index));
+    }
   }
 
   /// Throws SubscriptError for an index in a gap.

@@ -148,4 +148,13 @@ void CDataSet::Close() {
   atEnd_ = empty_ = true;
 }
 
+std::vector<std::string> FirstColumn(const std::string& query, CDbLink& db) {
+  std::vector<std::string> texts;
+  CDataSet rows;
+  for (rows.Open(query, db); !rows.Eof(); rows.MoveNext()) {
+    if (const Variant text = rows.Field(std::size_t{0}); !text.IsNull()) texts.push_back(text.ToText());
+  }
+  return texts;
+}
+
 }  // namespace quillon

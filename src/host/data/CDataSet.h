@@ -78,4 +78,7 @@ class CDataSet {
   RowSet::Changes changed_;
 };
 
+/// The texts of the first column of a query's rows; nulls are left out.
+std::vector<std::string> FirstColumn(const std::string& query, CDbLink& db);
+
 }  // namespace quillon

@@ -32,7 +32,10 @@ DialogForm::DialogForm(const DialogSpec& spec)
   const long left = Width - kButtonWidth - kEdge;
   btnOKCancel(kCancel).Caption = spec.onlyCloses ? "Esc: Close" : spec.cancelCaption;
   btnOKCancel(kCancel).Move(left, top, kButtonWidth, kButtonHeight);
-  btnOKCancel(kCancel).Click = [this] { Close(); };
+  btnOKCancel(kCancel).Click = [this] {
+    Cancelled = true;
+    Close();
+  };
   if (spec.onlyCloses) return;
   btnOKCancel(kOk).Caption = spec.okCaption;
   btnOKCancel(kOk).Move(left - kButtonWidth - kEdge, top, kButtonWidth, kButtonHeight);
@@ -46,6 +49,7 @@ void DialogForm::OnLoad() {
 
 void DialogForm::PressOk() {
   const FormPtr alive = Self();
+  Cancelled = true;
   if (!Confirm()) return;
   Cancelled = false;
   Close();
@@ -59,10 +63,12 @@ void DialogForm::Close() {
   }
 }
 
-/// The caller still reads what a dialog that keeps its answers was left with.
+/// The caller still reads what a dialog that keeps its answers was left with. One that was left already goes
+/// with its owner.
 void DialogForm::OnQueryUnload(bool& cancel, UnloadMode mode) {
-  if (mode != UnloadMode::CloseBox || !keepsLoaded_) return;
+  if (mode != UnloadMode::CloseBox || !keepsLoaded_ || !IsShownToUser()) return;
   cancel = true;
+  Cancelled = true;
   gRuntime->Hide(*this);
 }
 

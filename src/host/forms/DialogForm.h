@@ -33,7 +33,7 @@ struct DialogSpec {
 /// Tab, and the close box as Cancel.
 class DialogForm : public Form {
  public:
-  /// True from Load until the user confirmed.
+  /// True from Load until the user confirmed, and again when a dialog that stayed loaded is left otherwise.
   bool Cancelled = true;
 
   ControlArray<CButton> btnOKCancel;

@@ -1,6 +1,7 @@
 #include "host/forms/Fields.h"
 
 #include "host/services/IApp.h"
+#include "host/services/IStd.h"
 
 namespace quillon {
 
@@ -11,6 +12,14 @@ void MakeDateField(CTextPlus& field) {
     gApp->ValidDate(field.Text(), valid);
     cancel = !valid;
   };
+}
+
+Date DateOf(const CTextPlus& field) { return Date::Parse(gStd->ParseDateText(field.Text(), "")); }
+
+bool RefuseAt(Control& field, const std::string& why, const std::string& icon) {
+  gStd->MsgBox(why, "", icon);
+  field.SetFocus();
+  return false;
 }
 
 void FillCheckList(ListBox& list, const std::vector<std::string>& items, bool ticked) {

@@ -17,7 +17,8 @@ ListScreen::ListScreen(const ScreenSpec& spec, Origin origin)
 }
 
 void ListScreen::OpenCurrentRow() {
-  if (Grid.Row >= Grid.FixedRows && Grid.Row < Grid.Rows) OpenRow(Grid.Row);
+  const bool isRow = Grid.Row >= Grid.FixedRows && Grid.Row < Grid.Rows;
+  if (isRow && Grid.IsRowVisible(Grid.Row)) OpenRow(Grid.Row);
 }
 
 void ListScreen::ShowAccountOfRow(int row) {
