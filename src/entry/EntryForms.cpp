@@ -2,18 +2,27 @@
 
 #include "entry/frmAcFilter.h"
 #include "entry/frmFilterZoomOld.h"
+#include "entry/frmNarrations.h"
 #include "entry/frmPeakBalances.h"
+#include "entry/frmSimilarAcHead.h"
+#include "entry/frmSimilarVoucher.h"
 
 namespace quillon {
 
 std::span<const FormKey> EntryForms() {
   static constexpr FormKey kForms[] = {
+      // The firm's standard narrations.
+      {"narrations", MakeForm<frmNarrations>},
       // The largest and smallest balances of an account.
       {"peakbalances", MakeForm<frmPeakBalances>},
       // A statement of account is narrowed to some of its entries.
       {"acfilter", MakeForm<frmAcFilter>},
+      // Entries that resemble the voucher at hand.
+      {"similarvoucher", MakeForm<frmSimilarVoucher>},
       // The zoom of a book or ledger is narrowed.
       {"filterzoomold", MakeForm<frmFilterZoomOld>},
+      // Masters whose head resembles a new one.
+      {"similarachead", MakeForm<frmSimilarAcHead>},
   };
   return kForms;
 }

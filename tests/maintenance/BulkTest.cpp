@@ -80,10 +80,4 @@ void BulkTest::Type(const std::string& field, const std::string& text) {
 
 void BulkTest::PressOk() { Key(*dialog_, keys::kF7); }
 
-BulkTest::Texts BulkTest::Changes() {
-  Texts changes = Statements();
-  std::erase_if(changes, [](const std::string& sql) { return text::Upper(sql.substr(0, 6)) == "SELECT"; });
-  return changes;
-}
-
 }  // namespace quillon

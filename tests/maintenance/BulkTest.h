@@ -36,9 +36,6 @@ class BulkTest : public DeskTest {
   void Type(const std::string& field, const std::string& text);
   void PressOk();
 
-  /// Of the statements sent those that change something.
-  Texts Changes();
-
   FormPtr statement_;
   FormPtr dialog_;
 };

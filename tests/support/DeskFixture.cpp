@@ -195,6 +195,12 @@ DeskTest::Texts DeskTest::Updates() {
   return updates;
 }
 
+DeskTest::Texts DeskTest::Changes() {
+  Texts changes = Statements();
+  std::erase_if(changes, [](const std::string& sql) { return text::Upper(sql.substr(0, 6)) == "SELECT"; });
+  return changes;
+}
+
 DeskTest::Texts DeskTest::Told() {
   Texts told;
   for (const Json& event : Events("message"))

@@ -86,6 +86,9 @@ class DeskTest : public testing::Test {
   /// Of the statements those that change rows.
   Texts Updates();
 
+  /// And those that change anything.
+  Texts Changes();
+
   /// The messages with their icons: "W: Invalid date".
   Texts Told();
 
