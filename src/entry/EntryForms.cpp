@@ -1,6 +1,8 @@
 #include "entry/EntryForms.h"
 
 #include "entry/frmAcFilter.h"
+#include "entry/frmDataFormConfig.h"
+#include "entry/frmDataFormSetup.h"
 #include "entry/frmFilterZoomOld.h"
 #include "entry/frmNarrations.h"
 #include "entry/frmPeakBalances.h"
@@ -17,6 +19,10 @@ std::span<const FormKey> EntryForms() {
       {"peakbalances", MakeForm<frmPeakBalances>},
       // A statement of account is narrowed to some of its entries.
       {"acfilter", MakeForm<frmAcFilter>},
+      // The options of a data form.
+      {"dataformconfig", MakeForm<frmDataFormConfig>},
+      // A data form is defined.
+      {"dataformsetup", MakeForm<frmDataFormSetup>},
       // Entries that resemble the voucher at hand.
       {"similarvoucher", MakeForm<frmSimilarVoucher>},
       // The zoom of a book or ledger is narrowed.
