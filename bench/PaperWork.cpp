@@ -33,6 +33,10 @@ class WatchedReports : public IReports {
     Taken +=
         TimeOf([&] { own_.ShowGrid(grid, options, title, subtitle, value, print, heading, optionText); });
   }
+  std::vector<int> PagesOfRows(GridModel& grid, CReportOptions* options, const std::string& title,
+                               const std::string& subtitle, int value) override {
+    return own_.PagesOfRows(grid, options, title, subtitle, value);
+  }
   std::shared_ptr<PrintSetup> Print(const std::string& what) override { return own_.Print(what); }
   int PrinterMode() const override { return own_.PrinterMode(); }
 

@@ -4,6 +4,7 @@
 #include "entry/frmDataFormConfig.h"
 #include "entry/frmDataFormSetup.h"
 #include "entry/frmFilterZoomOld.h"
+#include "entry/frmLedgerIndex.h"
 #include "entry/frmNarrations.h"
 #include "entry/frmPeakBalances.h"
 #include "entry/frmSimilarAcHead.h"
@@ -27,6 +28,8 @@ std::span<const FormKey> EntryForms() {
       {"similarvoucher", MakeForm<frmSimilarVoucher>},
       // The zoom of a book or ledger is narrowed.
       {"filterzoomold", MakeForm<frmFilterZoomOld>},
+      // The accounts of a ledger with their pages.
+      {"ledgerindex", MakeForm<frmLedgerIndex>},
       // Masters whose head resembles a new one.
       {"similarachead", MakeForm<frmSimilarAcHead>},
   };

@@ -29,12 +29,11 @@ void DeskReports::ShowGrid(GridModel& grid, CReportOptions* options, const std::
   CReportOptions own;
   CReportOptions& used = options != nullptr ? *options : own;
   used.AddOptionText(optionText);
-  const ReportRequest request{
-      grid, used, title, subtitle, heading, value, desk_.Firm ? desk_.Firm() : ReportFirm(), Date::Today()};
+  const ReportRequest request{grid, used, title, subtitle, heading, value, Firm(), Date::Today()};
   ReportPages sheets;
   std::string file;
   int count = 0;
-  if (PrinterMode() >= kFirstTextMode) {
+  if (PrintsText()) {
     const PlainReport plain = PlainReport::Make(request);
     file = WriteText(plain.Text, desk_.OutputFolder);
     count = plain.Pages;
@@ -47,6 +46,16 @@ void DeskReports::ShowGrid(GridModel& grid, CReportOptions* options, const std::
     desk_.Observer->OnReport({title, subtitle, print, file, count, grid, sheets});
   if (print && desk_.Device)
     PageSender::Send(sheets, file, {.Printer = desk_.Device(), .Paper = sheets.PaperSize});
+}
+
+bool DeskReports::PrintsText() const { return PrinterMode() >= kFirstTextMode; }
+
+std::vector<int> DeskReports::PagesOfRows(GridModel& grid, CReportOptions* options, const std::string& title,
+                                          const std::string& subtitle, int value) {
+  const CReportOptions own;
+  const CReportOptions& used = options != nullptr ? *options : own;
+  const ReportRequest request{grid, used, title, subtitle, "", value, Firm(), Date::Today()};
+  return PrintsText() ? PlainReport::Make(request).RowPages : ReportLayout::Make(request).RowPages;
 }
 
 std::shared_ptr<PrintSetup> DeskReports::Print(const std::string& /*what*/) {

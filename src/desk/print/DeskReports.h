@@ -48,10 +48,15 @@ class DeskReports : public IReports {
   void ShowGrid(GridModel& grid, CReportOptions* options, const std::string& title,
                 const std::string& subtitle, int value, bool print, const std::string& heading = "",
                 const std::string& optionText = "") override;
+  std::vector<int> PagesOfRows(GridModel& grid, CReportOptions* options, const std::string& title,
+                               const std::string& subtitle, int value) override;
   std::shared_ptr<PrintSetup> Print(const std::string& what) override;
   int PrinterMode() const override { return desk_.Mode ? desk_.Mode() : 0; }
 
  private:
+  bool PrintsText() const;
+  ReportFirm Firm() const { return desk_.Firm ? desk_.Firm() : ReportFirm(); }
+
   Surroundings desk_;
 };
 

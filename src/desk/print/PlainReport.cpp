@@ -76,10 +76,12 @@ class Writer {
   }
 
   PlainReport Make() {
+    out_.RowPages.resize(static_cast<std::size_t>(request_.Grid.Rows()));
     StartPage();
     for (std::size_t i = 0; i < table_.Rows().size(); ++i) {
       const int row = table_.Rows()[i];
       WriteRow(row);
+      out_.RowPages[static_cast<std::size_t>(row)] = out_.Pages;
       const RowCommands commands = table_.Commands(row);
       if (commands.Rule) Rule();
       if (!commands.PageBreak || i + 1 == table_.Rows().size()) continue;

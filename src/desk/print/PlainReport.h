@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "desk/print/ReportSettings.h"
 
@@ -11,6 +12,9 @@ namespace quillon {
 struct PlainReport {
   std::string Text;  ///< lines end with LF; a form feed begins a new page
   int Pages = 1;
+
+  /// The page, from 1, of each row of the grid; 0 for one that is not printed.
+  std::vector<int> RowPages;
 
   static PlainReport Make(const ReportRequest& request);
 };

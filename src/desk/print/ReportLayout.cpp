@@ -36,6 +36,7 @@ class Layouter {
     pages_.Orientation = plan_.Orientation;
     pages_.Width = plan_.Sheet.Width;
     pages_.Height = plan_.Sheet.Height;
+    pages_.RowPages.resize(static_cast<std::size_t>(request.Grid.Rows()));
   }
 
   ReportPages Make() {
@@ -44,6 +45,7 @@ class Layouter {
     for (std::size_t i = 0; i < table_.Rows().size(); ++i, progress.Step()) {
       const int row = table_.Rows()[i];
       PlaceRow(row);
+      pages_.RowPages[static_cast<std::size_t>(row)] = static_cast<int>(pages_.Pages.size());
       if (table_.Commands(row).PageBreak && i + 1 < table_.Rows().size()) BreakPage();
     }
     PlaceFooter();

@@ -53,6 +53,9 @@ struct ReportPages {
   std::vector<quillon::Font> Fonts;
   std::vector<ReportPage> Pages;
 
+  /// The page, from 1, on which each row of the grid ends; 0 for one that is not printed.
+  std::vector<int> RowPages;
+
   /// The number of a font, which is entered when it is new.
   std::size_t FontNumber(const quillon::Font& font);
 };

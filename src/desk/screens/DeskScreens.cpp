@@ -6,6 +6,7 @@
 #include "desk/screens/frmBulkRuns.h"
 #include "desk/screens/frmChequeLayouts.h"
 #include "desk/screens/frmFilterAc.h"
+#include "desk/screens/frmLedger.h"
 #include "desk/screens/frmMain.h"
 #include "desk/screens/frmMainDB.h"
 #include "desk/screens/frmPrinter.h"
@@ -20,6 +21,7 @@ FormPtr DeskScreens::NewForm(const std::string& key) {
   if (wanted == "account") return std::make_shared<frmAccount>();
   if (wanted == "selectac") return std::make_shared<frmSelectAc>();
   if (wanted == "filterac") return std::make_shared<frmFilterAc>();
+  if (wanted == "ledger") return std::make_shared<frmLedger>();
   if (wanted == "chequelayouts") return std::make_shared<frmChequeLayouts>();
   if (wanted == "bulkruns") return std::make_shared<frmBulkRuns>();
   if (wanted == "printer") return std::make_shared<frmPrinter>();

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/services/CReportOptions.h"
 #include "host/services/PrintSetup.h"
@@ -25,6 +26,11 @@ class IReports {
   virtual void ShowGrid(GridModel& grid, CReportOptions* options, const std::string& title,
                         const std::string& subtitle, int value, bool print, const std::string& heading = "",
                         const std::string& optionText = "") = 0;
+
+  /// The pages, counted from 1, on which the rows of such a report would end; 0 for a row that is not
+  /// printed. Nothing is shown or written.
+  virtual std::vector<int> PagesOfRows(GridModel& grid, CReportOptions* options, const std::string& title,
+                                       const std::string& subtitle, int value) = 0;
 
   /// A new print dialog; `what` is "Print".
   virtual std::shared_ptr<PrintSetup> Print(const std::string& what) = 0;
