@@ -5,6 +5,7 @@
 #include "desk/screens/frmAlertLog.h"
 #include "desk/screens/frmBulkRuns.h"
 #include "desk/screens/frmChequeLayouts.h"
+#include "desk/screens/frmDayBook.h"
 #include "desk/screens/frmFilterAc.h"
 #include "desk/screens/frmLedger.h"
 #include "desk/screens/frmMain.h"
@@ -21,6 +22,7 @@ FormPtr DeskScreens::NewForm(const std::string& key) {
   if (wanted == "account") return std::make_shared<frmAccount>();
   if (wanted == "selectac") return std::make_shared<frmSelectAc>();
   if (wanted == "filterac") return std::make_shared<frmFilterAc>();
+  if (wanted == "daybook") return std::make_shared<frmDayBook>();
   if (wanted == "ledger") return std::make_shared<frmLedger>();
   if (wanted == "chequelayouts") return std::make_shared<frmChequeLayouts>();
   if (wanted == "bulkruns") return std::make_shared<frmBulkRuns>();

@@ -7,6 +7,7 @@
 #include "books/BooksNames.h"
 #include "books/EntryRows.h"
 #include "books/SqlText.h"
+#include "desk/screens/ModuleScreen.h"
 #include "desk/services/NarrationTexts.h"
 #include "host/forms/AccountPicker.h"
 #include "host/forms/BusyPointer.h"
@@ -377,16 +378,7 @@ void frmAccount::Print(bool print) {
                      lblTitle1(2).Caption + (filter_.IsInForce() ? "   " + filter_.Words() : ""), 3, print);
 }
 
-FormPtr frmAccount::ModuleScreen(const std::string& key) {
-  IModule* const module = gSession->Modules().Item("DutyworksModule");
-  FormPtr screen = module != nullptr ? module->GetForm(key) : nullptr;
-  if (screen) {
-    screen->CallingForm = Self();
-  } else {
-    gStd->MsgBox("The reconciliation module is not loaded.", "", "W");
-  }
-  return screen;
-}
+FormPtr frmAccount::ModuleScreen(const std::string& key) { return quillon::ModuleScreen(*this, key); }
 
 bool frmAccount::RequireBankAccount() const {
   const Variant group =

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "books/SqlText.h"
+#include "desk/screens/ModuleScreen.h"
 #include "desk/services/NarrationTexts.h"
 #include "host/data/CDataSet.h"
 #include "host/data/TransactionScope.h"
@@ -263,11 +264,9 @@ long frmLedger::AccountOfRow(int row) const {
 // --- The index
 
 void frmLedger::OpenIndex() {
-  IModule* const module = gSession->Modules().Item("DutyworksModule");
-  const FormPtr index = module != nullptr ? module->GetForm("ledgerindex") : nullptr;
+  const FormPtr index = ModuleScreen(*this, "ledgerindex");
   if (!index) return;
   StorePages();
-  index->CallingForm = Self();
   index->Set("TblName", "(Select * from LedgerPages where Ledger=" + books::SqlString(name_) + ") p");
   index->Set("Title", "   Index of " + Title() + ": " + Grid.Title);
   index->Set("Title1", lblTitle2.Caption());
