@@ -8,12 +8,14 @@ void frmSimilarVoucher::DesignControls() {
   constexpr long kEdge = 150;
   constexpr long kTitle = 420;
   constexpr long kLine = 360;
+  constexpr int kCentre = 2;
   Caption = "Similar / Duplicate Voucher Entries";
   Width = 11400;
   Height = 6000;
   Left = (gRuntime->ScreenWidth() - Width) / 2;
   Top = (gRuntime->ScreenHeight() - Height) / 2;
-  lblTitle.Caption = "   List of Similar Entries";
+  lblTitle.Caption = "List of Similar Entries";
+  lblTitle.Alignment = kCentre;
   lblTitle.Move(0, 0, Width, kTitle);
   lblAcHead.Caption = "Head of A/c";
   lblAcHead.Move(kEdge, kTitle + 60, Width - 2 * kEdge, kLine);
