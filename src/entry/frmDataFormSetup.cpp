@@ -164,8 +164,9 @@ void frmDataFormSetup::OpenHeads(int column) {
 void frmDataFormSetup::CheckHead(int row, std::string& head) {
   if (head.empty()) {
     Grid.SetTextMatrix(row, col::kCode, "");
-  } else {
-    head = Grid.TextMatrix(row, col::kHead);
+  } else if (const std::string picked = Grid.TextMatrix(row, col::kHead); head != picked) {
+    gRuntime->Say("No account of the list is \"" + head + "\".");
+    head = picked;
   }
 }
 

@@ -74,6 +74,7 @@ TEST_F(DataForms, AFormIsDefinedChangedAndDeleted) {
     Grid().UserType("Nobody");
     Key(*form_, keys::kF7);
   });
+  EXPECT_EQ(Take("said", "text"), Texts{"No account of the list is \"Nobody\"."});
   EXPECT_FALSE(form_->IsLoaded());
   const Texts sent = Changes();
   EXPECT_EQ(Texts(sent.begin(), sent.begin() + 4),
