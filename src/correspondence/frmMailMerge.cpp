@@ -57,6 +57,7 @@ frmMailMerge::frmMailMerge()
   txtLetter.MultiLine = true;
   Grid.Visible = false;
   SelGrid1.Visible = false;
+  SelGrid1.TakesNewNames = true;
   Connect();
 }
 

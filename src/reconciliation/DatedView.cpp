@@ -1,7 +1,5 @@
 #include "reconciliation/DatedView.h"
 
-#include <utility>
-
 #include "host/controls/RedrawHold.h"
 #include "host/forms/BusyJob.h"
 #include "host/forms/BusyPointer.h"
@@ -16,6 +14,7 @@ DatedView::DatedView(WorkbenchAccount& account, CGridPlus& grid, const Columns& 
   grid_.ValidateCell = [this](int row, int col, std::string& text, bool& cancel) {
     ValidateCell(row, col, text, cancel);
   };
+  grid_.Pasting = [this](bool begins) { Pasting(begins); };
 }
 
 books::EntryKey DatedView::EntryOf(int row) const {
@@ -24,13 +23,21 @@ books::EntryKey DatedView::EntryOf(int row) const {
 
 bool DatedView::TakeEdit() { return std::exchange(cellEdited_, false); }
 
+/// All dates of a pasted column are one act.
+void DatedView::Pasting(bool begins) {
+  warned_ = false;
+  pasting_.reset();
+  if (begins) pasting_.emplace(account_.Dates);
+}
+
 void DatedView::ValidateCell(int row, int col, std::string& text, bool& cancel) {
   if (col != columns_.Cleared || !cellEdited_) return;
-  if (text == "00" && row > 1) {
+  const bool isPasted = grid_.IsPasting();
+  if (text == "00" && row > 1 && !isPasted) {
     FillDown(row, text);
     return;
   }
-  if (text == "=" && row > 1) {
+  if (text == "=" && row > 1 && !isPasted) {
     text = EntryOf(row - 1).IsEntry() ? grid_.TextMatrix(row - 1, col) : "";
   } else if (!text.empty()) {
     const Date date = Date::Parse(gStd->ParseDateText(text, grid_.TextMatrix(row, columns_.Day)));

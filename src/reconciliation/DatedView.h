@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "reconciliation/WorkbenchView.h"
@@ -47,14 +49,20 @@ class DatedView : public WorkbenchView {
   /// Whether the editor was typed in since it opened; asking ends the edit.
   bool TakeEdit();
 
+  /// Whether something that the user should heed is to be told; of several dates pasted only the first time.
+  bool ShouldWarn() { return !grid_.IsPasting() || !std::exchange(warned_, true); }
+
  private:
   void ValidateCell(int row, int col, std::string& text, bool& cancel);
   void FillDown(int row, std::string& text);
+  void Pasting(bool begins);
   bool IsSource(int row) const;
 
   Columns columns_;
   std::unique_ptr<books::EntryRows> rows_;  // made when asked for
   bool cellEdited_ = false;
+  std::optional<ClearedDates::Act> pasting_;
+  bool warned_ = false;
 };
 
 }  // namespace quillon

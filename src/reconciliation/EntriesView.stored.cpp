@@ -61,7 +61,7 @@ void EntriesView::AfterEdit(int row) {
     marked_.Recount(grid_, row);
     const FinYear& year = gSession->Year();
     const Date date = Date::Parse(grid_.Cell(row, kClearedEdit));
-    if (!date.IsEmpty() && (date < year.StartDate() || date > year.EndDate())) {
+    if (!date.IsEmpty() && (date < year.StartDate() || date > year.EndDate()) && ShouldWarn()) {
       gStd->MsgBox("Be careful, Date does not fall in current F.Year", "", "I");
     }
   }

@@ -22,7 +22,8 @@ HERE = Path(__file__).resolve().parent
 LEAF_123 = json.dumps({"cmd": "query", "sql": "select VoucherID,IsuDate from ChqLeaves where ID=900"})
 COMMANDS = set(
     "firm form menu set get call show close forms key focus type paste click dblclick bar choose check row cell range "
-    "gridrow scroll pickbutton picked popup answer state tree query execute setting picture trace bulk goback menuline".split()
+    "gridrow scroll pickbutton picked popup answer state tree query execute setting picture trace bulk goback menuline "
+    "copy find sort".split()
 )
 
 

@@ -154,6 +154,41 @@ TEST_F(Fields, AListUnderAFieldTakesOnlyWhatWasTypedOrGoneTo) {
   EXPECT_THROW(List().OpenUnder(form_->fraTo), HostError);
 }
 
+TEST_F(Fields, AListNarrowsToWhatIsTypedBestFirst) {
+  AddAccount(201, "Bank of Pune", 140, "Pune");
+  AddAccount(202, "Asha Traders", 140, "Bankura");
+  AddAccount(203, "Sahyadri Bank", 140, "Pune");
+  AddAccount(204, "Embankment Works", 140, "Nashik");
+  List().Load("Select MHD,MCD,MST from FAMaster where MCD>200 and MCD<300 order by MCD", Db(), false, 0);
+  List().Grid.SetColWidth(1, 0);
+  Texts picked;
+  List().Selected = [&] { picked.push_back(List().Cell(List().Grid.Row, 1)); };
+  Do([&] {
+    form_->UserFocus(form_->txpName);
+    List().OpenUnder(form_->txpName);
+  });
+  const auto shown = [&](const std::string& typed) {
+    Do([&] { form_->txpName.UserType(typed); });
+    return List().Grid.ShownRows();
+  };
+  EXPECT_EQ(shown("bank"), (std::vector<int>{1, 3, 2})) << "the name's beginning, a word of it, the station";
+  EXPECT_EQ(shown("pune sah"), std::vector<int>{3});
+  EXPECT_EQ(shown("203"), std::vector<int>()) << "a column that nobody sees finds nothing";
+  Key(*form_, keys::kDown);
+  EXPECT_FALSE(List().HasChoice());
+  EXPECT_EQ(shown(""), (std::vector<int>{1, 2, 3, 4})) << "the caller's order before anything is typed";
+  EXPECT_EQ(shown("bank"), (std::vector<int>{1, 3, 2}));
+  Key(*form_, keys::kDown);
+  Key(*form_, keys::kEnter);
+  EXPECT_EQ(picked, Texts{"203"});
+  EXPECT_EQ(List().Grid.Row(), 3) << "rows are those of the list";
+  List().TakesNewNames = true;
+  shown("traders");
+  EXPECT_FALSE(List().HasChoice()) << "a new name is not taken for another";
+  shown("as");
+  EXPECT_TRUE(List().HasChoice());
+}
+
 TEST_F(Fields, AListUnderACellFollowsTheCell) {
   LoadParties();
   CEditGrid& grid = form_->Grid;

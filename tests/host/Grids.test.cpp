@@ -157,6 +157,155 @@ TEST_F(Grids, TellWhereTheCellOfTheCursorIs) {
   EXPECT_EQ(Cursor(), "28,1") << "a person comes to stand in what he sees";
 }
 
+class GridsOfEntries : public Grids {
+ protected:
+  /// Four shown rows, with a hidden one among them and a hidden column.
+  void SetUp() override {
+    OpenNewFirm();
+    Do([&] { gRuntime->Show(form_); });
+    const char* const rows[] = {"Date\tNarration\tBalance\tId",
+                                "05-Apr-2024\tCheque 470251\t12,34,567.00 Dr.\t1",
+                                "06-Apr-2024\tTo \"Asha\"\nMills\t-1,500.50\t2",
+                                "07-Apr-2024\tConcealed\t9.00\t3",
+                                "10-Apr-2024\tÜber Traders\t2,500.00 Cr.\t4",
+                                "\t\tN I L\t5"};
+    Grid().Rows = 0;
+    Grid().Cols = 4;
+    for (const char* row : rows) Grid().AddItem(row);
+    Grid().SetColAlignment(2, kAlignRight);
+    Grid().SetColWidth(3, 0);
+    Grid().SetRowHeight(3, 0);
+    Go(1, 2);
+  }
+  void Go(int row, int col) {
+    Do([&] { Grid().UserMoveTo(row, col); });
+  }
+  std::string Copied(int shift = 0) {
+    Key(*form_, 'C', keys::kCtrl | shift);
+    return runtime_.ClipboardText();
+  }
+  /// Where the cursor comes to stand while the text is typed over the last one.
+  std::string Found(const std::string& text) {
+    Key(*form_, 'A', keys::kCtrl);
+    TypeKeys(*form_, text);
+    return Cursor();
+  }
+};
+
+TEST_F(GridsOfEntries, AreCopiedAsSpreadsheetsReadThem) {
+  EXPECT_EQ(Copied(), "1234567");
+  EXPECT_EQ(Grid().SelectedFiguresText(), "");
+  Key(*form_, keys::kEnd, keys::kShift);
+  EXPECT_EQ(Copied(), "1234567\n-1500.5\n-2500\nN I L");
+  EXPECT_EQ(Grid().SelectedFiguresText(), "3 amounts, sum 12,30,566.50, -2,500.00 to 12,34,567.00");
+  Key(*form_, 'A', keys::kCtrl);
+  EXPECT_EQ(
+      Copied(keys::kShift),
+      "Date\tNarration\tBalance\n2024-04-05\tCheque 470251\t1234567\n2024-04-06\t\"To \"\"Asha\"\"\nMills\"\t"
+      "-1500.5\n2024-04-10\tÜber Traders\t-2500\n\t\tN I L");
+  EXPECT_EQ(Cursor(), "1,2") << "the cursor stays";
+  Key(*form_, keys::kDown);
+  EXPECT_EQ(Copied(), "-1500.5");
+  Do([&] { Grid().UserExtendTo(4, 1); });
+  EXPECT_EQ(Cursor() + " " + Taken(), "2,2 2-4,1-2");
+  EXPECT_EQ(Copied(), "\"To \"\"Asha\"\"\nMills\"\t-1500.5\nÜber Traders\t-2500");
+  Key(*form_, keys::kSpace, keys::kCtrl);
+  One("said", {{"text", "-1,500.50"}});
+  Grid().Col = 3;
+  EXPECT_EQ(Copied(), "2024-04-06\t\"To \"\"Asha\"\"\nMills\"\t-1500.5") << "a cursor nobody sees is its row";
+}
+
+TEST_F(GridsOfEntries, AreSearchedAsOneTypes) {
+  int heard = 0;
+  Grid().KeyDown = [&](KeyEvent&) { ++heard; };
+  Grid().KeyPress = [&](int&) { ++heard; };
+  Key(*form_, 'F', keys::kCtrl);
+  heard = 0;
+  for (const char* text : {"2500", "2,5", "500.00 cr"}) EXPECT_EQ(Found(text), "4,2") << text;
+  for (const char* text : {"10/4", "10-4-24", "1004", "10 apr", "10-Apr-2024"})
+    EXPECT_EQ(Found(text), "4,0") << text;
+  EXPECT_EQ(Found("über"), "4,1");
+  EXPECT_EQ(Found("ASHA"), "2,1");
+  Found("concealed");
+  EXPECT_FALSE(Grid().Finder.HasFound()) << "what is hidden is not found";
+  EXPECT_EQ(Found("apr"), "2,0") << "from where the cursor stood when the box opened";
+  Key(*form_, keys::kEnter);
+  EXPECT_EQ(Cursor(), "4,0");
+  Key(*form_, keys::kEnter);
+  EXPECT_EQ(Cursor(), "1,0") << "on from the top";
+  Key(*form_, keys::kEnter, keys::kShift);
+  EXPECT_EQ(Cursor(), "4,0");
+  EXPECT_TRUE(Grid().Finder.Marks("05-Apr-2024"));
+  EXPECT_EQ(heard, 0) << "what is typed into the box is not the form's";
+  Key(*form_, keys::kEscape);
+  EXPECT_TRUE(form_->IsShownToUser());
+  EXPECT_FALSE(Grid().Finder.Marks("05-Apr-2024"));
+  Key(*form_, 'G', keys::kCtrl | keys::kShift);
+  EXPECT_EQ(Cursor(), "2,0");
+  Key(*form_, 'G', keys::kCtrl);
+  EXPECT_EQ(Cursor(), "4,0");
+}
+
+TEST_F(GridsOfEntries, AreSortedAndNarrowedForLookingOnly) {
+  Refuses([&] { Grid().Look.UserSort(1); }, "The rows of Grid stand in an order of their own");
+  Grid().Look.IsAllowed = true;
+  const auto sort = [&](int col) {
+    Do([&] { Grid().Look.UserSort(col); });
+    return Grid().ShownRows();
+  };
+  Go(2, 2);
+  EXPECT_EQ(sort(2), (std::vector<int>{4, 2, 1, 5})) << "by value, texts behind";
+  EXPECT_EQ(Cursor(), "2,2") << "the cursor stays on its row";
+  Key(*form_, keys::kDown);
+  EXPECT_EQ(Cursor(), "1,2");
+  Key(*form_, keys::kHome);
+  EXPECT_EQ(Cursor(), "4,2");
+  Key(*form_, keys::kDown, keys::kShift);
+  EXPECT_EQ(Copied(), "-2500\n-1500.5");
+  EXPECT_TRUE(Grid().IsSelected(2, 2) && Grid().IsSelected(4, 2));
+  EXPECT_FALSE(Grid().IsSelected(1, 2));
+  EXPECT_EQ(sort(0), (std::vector<int>{1, 2, 4, 5}));
+  EXPECT_EQ(sort(0), (std::vector<int>{4, 2, 1, 5})) << "downwards, what is empty last";
+  Key(*form_, 'F', keys::kCtrl);
+  TypeKeys(*form_, "apr");
+  EXPECT_EQ(Cursor(), "2,0") << "the search walks the order on the screen";
+  Key(*form_, keys::kEscape);
+  EXPECT_EQ(sort(0), (std::vector<int>{1, 2, 4, 5}));
+  EXPECT_FALSE(Grid().HasView());
+
+  Key(*form_, 'F', keys::kCtrl | keys::kShift);
+  TypeKeys(*form_, "500");
+  EXPECT_EQ(Grid().ShownRows(), (std::vector<int>{2, 4}));
+  Key(*form_, keys::kEnter);
+  EXPECT_EQ(sort(2), (std::vector<int>{4, 2}));
+  Refuses([&] { Grid().UserMoveTo(1, 1); }, "Grid row 1 is hidden");
+  Key(*form_, keys::kEscape);
+  EXPECT_EQ(Grid().ShownRows(), (std::vector<int>{4, 2, 1, 5})) << "Esc shows all rows again";
+  EXPECT_TRUE(form_->IsShownToUser());
+  Grid().AddItem("1\t2\t3");
+  EXPECT_EQ(Grid().ShownRows(), (std::vector<int>{1, 2, 4, 5, 6})) << "new rows, the grid's own order";
+  EXPECT_EQ(Grid().TextMatrix(1, 0), "05-Apr-2024");
+}
+
+TEST_F(GridsOfEntries, AnEditorIsLeftByItsValidationBeforeTheSearch) {
+  bool refuses = true;
+  Grid().BeforeEdit = [](int, int, bool&, std::string&) {};
+  Grid().ValidateCell = [&](int, int, std::string&, bool& cancel) { cancel = refuses; };
+  Do([&] { ASSERT_TRUE(Grid().UserEnterCell(2, 1)); });
+  TypeKeys(*form_, "Asha");
+  Key(*form_, 'F', keys::kCtrl);
+  EXPECT_TRUE(Grid().EditMode());
+  EXPECT_FALSE(Grid().Finder.IsOpen());
+  refuses = false;
+  Key(*form_, 'F', keys::kCtrl);
+  EXPECT_EQ(Grid().TextMatrix(2, 1), "Asha");
+  EXPECT_EQ(Found("über"), "4,1");
+  Key(*form_, keys::kDown);
+  EXPECT_EQ(Cursor(), "5,1") << "from what was found one goes on in the grid";
+  TypeKeys(*form_, "new");
+  EXPECT_EQ(Grid().EditBox.Text(), "new");
+}
+
 TEST_F(Grids, RowsPutInAndTakenOutLeaveTheEditorOnItsRow) {
   Grid().BeforeEdit = [](int, int, bool&, std::string&) {};
   Grid().SetTextMatrix(4, 0, "four");

@@ -274,6 +274,50 @@ TEST_F(AdaptersTest, AGridIsWalkedSelectedAndEdited) {
   EXPECT_FALSE(editor->isVisible());
 }
 
+TEST_F(AdaptersTest, AGridIsExtendedSearchedAndSortedInTheWindow) {
+  auto& grid = WidgetOf<GridWidget>(form_->Grid);
+  form_->Grid.Rows = 60;
+  form_->Grid.SetTextMatrix(0, 0, "Fruit");
+  form_->Grid.SetTextMatrix(55, 0, "Pear");
+  form_->Grid.SetTextMatrix(56, 0, "Apple");
+  ClickCell(2, 1);
+  QTest::mouseClick(grid.viewport(), kLeft, Qt::ShiftModifier, grid.CellRect(4, 2).center());
+  EXPECT_EQ(form_->Grid.Row() * 100 + form_->Grid.RowSel() * 10 + form_->Grid.ColSel(), 242);
+
+  const auto box = [&]() -> QLineEdit* {
+    for (auto* each : grid.findChildren<QLineEdit*>()) {
+      if (each->accessibleName() == QLatin1String("Find")) return each;
+    }
+    return nullptr;
+  };
+  const int before = grid.Body().height();
+  Press(*form_, Qt::Key_F, Qt::ControlModifier);
+  Type(*form_, "pear");
+  ASSERT_NE(box(), nullptr);
+  EXPECT_TRUE(box()->isVisible());
+  EXPECT_EQ(box()->text(), "pear");
+  QApplication::processEvents();
+  EXPECT_EQ(form_->Grid.Row(), 55);
+  EXPECT_TRUE(grid.Body().contains(grid.CellRect(55, 0))) << "in sight, and not behind the box";
+  EXPECT_LT(grid.Body().height(), before);
+  Press(*form_, Qt::Key_Escape);
+  EXPECT_FALSE(box()->isVisible());
+  EXPECT_EQ(grid.Body().height(), before);
+  EXPECT_TRUE(form_->IsShownToUser());
+
+  const QPoint heading(grid.CellRect(55, 0).center().x(), grid.Body().top() - 5);
+  QTest::mouseClick(grid.viewport(), kLeft, {}, heading);
+  EXPECT_FALSE(form_->Grid.HasView()) << "where the screen does not allow it a heading does nothing";
+  form_->Grid.Look.IsAllowed = true;
+  QTest::mouseClick(grid.viewport(), kLeft, {}, heading);
+  QApplication::processEvents();
+  EXPECT_EQ(form_->Grid.OuterRow(1), 56);
+  EXPECT_LT(grid.CellRect(56, 0).top(), grid.CellRect(55, 0).top());
+  Press(*form_, Qt::Key_Home);
+  ClickCell(55, 0);
+  EXPECT_EQ(form_->Grid.Row(), 55) << "the mouse meets the rows where they are shown";
+}
+
 TEST_F(AdaptersTest, AScreenReaderHearsWhatTheControlsAre) {
   form_->txpField.Caption = "Rate of Interest";
   form_->Grid.Title = "Entries";

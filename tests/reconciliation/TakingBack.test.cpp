@@ -87,6 +87,39 @@ TEST_F(TakingBack, WhatSomebodyElseHasChangedSinceStays) {
   EXPECT_EQ(Books(), "|10-Apr-2024|30-Apr-2024|");
 }
 
+TEST_F(TakingBack, AColumnOfDatesIsPastedAsIfTypedAndIsOneAct) {
+  const auto paste = [this](int row, int col, const std::string& text) {
+    Do([&] { Entries().UserMoveTo(row, col); });
+    runtime_.SetClipboardText(text);
+    Key(*bench_, 'V', keys::kCtrl);
+  };
+  AnswerMessage();
+  paste(1, kCleared, "2024-04-06\r\n\r\n14/4\r\n31/2\r\n3/5\r\n");
+  EXPECT_EQ(Messages(), Texts{"Invalid Date"});
+  EXPECT_EQ(Books(), "06-Apr-2024|10-Apr-2024|14-Apr-2024|") << "an empty line passes its row by";
+  EXPECT_FALSE(Entries().EditMode());
+  EXPECT_EQ(Entries().Row(), 4);
+  Back();
+  EXPECT_EQ(Books(), "|10-Apr-2024||");
+  EXPECT_EQ(Said(), (Texts{"2 lines of 4 stored: line 4, \"31/2\": it was refused.", "2 dates taken back."}));
+
+  for (const char* text : {"=\n5", "00\n5"}) {
+    AnswerMessage();
+    paste(3, kCleared, text);
+  }
+  EXPECT_EQ(Messages(), (Texts{"Invalid Date", "Invalid Date"})) << "no date of another row";
+  paste(1, 11, "5\n6");
+  EXPECT_EQ(Books(), "|10-Apr-2024||");
+  AnswerMessage();
+  paste(3, kCleared, "2/4/2025\n3/4/2025\n4/4/2025");
+  EXPECT_EQ(Messages(), Texts{"Be careful, Date does not fall in current F.Year"}) << "told once";
+  EXPECT_EQ(Books(), "|10-Apr-2024|02-Apr-2025|03-Apr-2025");
+  EXPECT_EQ(Said().back(), "2 lines of 3 stored: line 3, \"4/4/2025\": there is no row for it.");
+  paste(1, kCleared, "7\n");
+  EXPECT_TRUE(Entries().EditMode()) << "one line is typed, and waits to be left";
+  EXPECT_EQ(Entries().EditBox.Text(), "7");
+}
+
 TEST_F(TakingBack, TheViewsShareTheListAndAnEditorKeepsItsOwn) {
   EXPECT_TRUE(EditCell(Entries(), 1, kCleared, "6"));
   AnswerDate("30-Apr-2024");

@@ -156,18 +156,23 @@ TEST_F(Account, EnterInThePickerTakesOnlyWhatWasTypedOrMovedTo) {
     EXPECT_EQ(Messages(), Texts{told});
     EXPECT_EQ(picker()->Name(), "frmSelectAc");
   };
-  const Acts acts = {
-      [&] { enter(keys::kEnter, "Type the beginning of the account's head, or move to its line."); },
-      [&] {
-        type("asha");
-        type("zzz");
-        enter(keys::kEnter, "No account begins with \"zzz\".");
-        enter(keys::kF7, "No account begins with \"zzz\".");
-      },
-      [&] {
-        Key(*picker(), keys::kDown);
-        Key(*picker(), keys::kEnter);
-      }};
+  const Acts acts = {[&] {
+                       enter(keys::kEnter,
+                             "Type the beginning of a word of the account's head, or move to its line.");
+                     },
+                     [&] {
+                       type("asha");
+                       type("zzz");
+                       enter(keys::kEnter, "No account is found by \"zzz\".");
+                       enter(keys::kF7, "No account is found by \"zzz\".");
+                     },
+                     [&] {
+                       Key(*picker(), keys::kDown);
+                       enter(keys::kEnter, "No account is found by \"zzz\".");
+                       type("");
+                       Key(*picker(), keys::kDown);
+                       Key(*picker(), keys::kEnter);
+                     }};
   During([&] { ShowStatement(0); }, acts);
   EXPECT_EQ(runtime_.ActiveForm()->Get("AccountCode").ToInteger(), 101)
       << "the line below the one that was found last";

@@ -47,6 +47,9 @@ Json StateOf(const Control& control, const Json& command) {
     for (Json& paint : state["colors"])
       paint = Named(paint, {"row", "firstcol", "lastcol", "backcolor", "forecolor"});
     if (state.contains("cell")) state["cell"] = Named(state["cell"], {"left", "top", "width", "height"});
+    if (state.contains("look")) state["look"] = Named(state["look"], {"sortedby", "downwards", "filter"});
+    if (state.contains("find")) state["find"] = Named(state["find"], {"text", "found", "note"});
+    state["selection"] = Named(state["selection"], {"firstrow", "firstcol", "lastrow", "lastcol"});
     state["cells"] = CellsOf(*grid, command);
   }
   if (state.contains("font") && state["font"].is_array()) {

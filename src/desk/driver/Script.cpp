@@ -51,7 +51,8 @@ Script::Command Script::Find(const std::string& name) {
       {"execute", &Script::DoExecute},   {"setting", &Script::DoSetting},
       {"picture", &Script::DoPicture},   {"trace", &Script::DoTrace},
       {"menuline", &Script::DoMenuLine}, {"bulk", &Script::DoBulk},
-      {"goback", &Script::DoGoBack}};
+      {"goback", &Script::DoGoBack},     {"copy", &Script::DoCopy},
+      {"find", &Script::DoFind},         {"sort", &Script::DoSort}};
   const auto known = kCommands.find(name);
   if (known == kCommands.end()) throw HostError("There is no command \"" + name + "\"");
   return known->second;

@@ -77,6 +77,9 @@ class Script {
   Json DoFocus(const Json& command);
   Json DoType(const Json& command);
   Json DoPaste(const Json& command);
+  Json DoCopy(const Json& command);
+  Json DoFind(const Json& command);
+  Json DoSort(const Json& command);
   Json DoClick(const Json& command);
   Json DoDblClick(const Json& command);
   Json DoBar(const Json& command);

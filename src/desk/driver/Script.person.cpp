@@ -75,10 +75,41 @@ Json Script::DoPaste(const Json& command) {
   return Act([&] {
     const FormPtr form = control.OwnerForm().Self();
     if (!form->UserFocus(control)) throw Refused("The field that has the focus was not left");
-    if (control.TypedBox() == nullptr) throw Refused(control.Name() + " is no field to paste into");
-    if (control.TypedBox()->Locked) throw Refused(control.Name() + " is locked");
+    TextBox* const box = control.TypedBox();
+    const bool takesText = box != nullptr || dynamic_cast<EditableGrid*>(&control) != nullptr;
+    if (!takesText) throw Refused(control.Name() + " is no field to paste into");
+    if (box != nullptr && box->Locked) throw Refused(control.Name() + " is locked");
     form->UserPaste(text);
   });
+}
+
+Json Script::DoCopy(const Json& command) {
+  Control& control = ControlOf(command);
+  const int shift = keys::kCtrl | (command.value("headings", false) ? keys::kShift : 0);
+  Act([&] {
+    if (control.OwnerForm().UserFocus(control)) control.OwnerForm().UserKey('C', shift, 0);
+  });
+  return {{"text", runtime_.ClipboardText()}};
+}
+
+Json Script::DoFind(const Json& command) {
+  auto& grid = Kind<GridModel>(command, "grid");
+  const std::string text = command.at("text").get<std::string>();
+  Act([&] {
+    if (!grid.OwnerForm().UserFocus(grid)) throw Refused("The field that has the focus was not left");
+    grid.OwnerForm().UserKey('F', keys::kCtrl, 0);
+    if (!grid.Finder.IsOpen()) throw Refused("The cell under edit was refused");
+    grid.Finder.Box.UserType(text);
+  });
+  return {{"found", grid.Finder.HasFound()},
+          {"note", grid.Finder.Note()},
+          {"row", grid.Row()},
+          {"col", grid.Col()}};
+}
+
+Json Script::DoSort(const Json& command) {
+  auto& grid = Kind<GridModel>(command, "grid");
+  return Act([&] { grid.Look.UserSort(command.at("col").get<int>()); });
 }
 
 Json Script::DoClick(const Json& command) {

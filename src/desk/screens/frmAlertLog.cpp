@@ -75,7 +75,7 @@ frmAlertLog::frmAlertLog()
 
 void frmAlertLog::OnKeyDown(KeyEvent& key) {
   DialogForm::OnKeyDown(key);
-  if (key.KeyCode != keys::kEnter || key.Shift != 0 || !Grid.HasFocus()) return;
+  if (key.KeyCode != keys::kEnter || key.Shift != 0 || !Grid.HasFocus() || Grid.Finder.IsOpen()) return;
   key.KeyCode = 0;
   Grid.DblClick.Raise();
 }

@@ -34,7 +34,7 @@ constexpr int kCount = 4;
 
 }  // namespace
 
-frmChequeLayouts::frmChequeLayouts() : ListScreen(kScreen, Origin::Desk) {}
+frmChequeLayouts::frmChequeLayouts() : ListScreen(kScreen, Origin::Desk) { Grid.Look.IsAllowed = true; }
 
 void frmChequeLayouts::BuildBar() {
   BtnBar1.AddButtons({"Layout,F2: Layout,Config", "Export,F3: Export,Save", "Exit,Esc: Exit,Close"});

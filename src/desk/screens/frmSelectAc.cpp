@@ -55,8 +55,8 @@ bool frmSelectAc::Confirm() {
 
 /// Nothing is taken that nobody asked for, and the user stays in the field.
 void frmSelectAc::TellNotFound(const std::string& typed) {
-  gStd->MsgBox(typed.empty() ? "Type the beginning of the account's head, or move to its line."
-                             : "No account begins with \"" + typed + "\".",
+  gStd->MsgBox(typed.empty() ? "Type the beginning of a word of the account's head, or move to its line."
+                             : "No account is found by \"" + typed + "\".",
                "", "W");
   txpAccount.SetFocus();
 }

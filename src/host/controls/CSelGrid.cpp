@@ -10,10 +10,6 @@
 
 namespace quillon {
 
-bool Finds(std::string_view typed, std::string_view line) {
-  return text::Lower(line).starts_with(text::Lower(typed));
-}
-
 namespace {
 
 constexpr long kLowest = 1200;
@@ -42,6 +38,7 @@ void CSelGrid::SetBoundText(TextBox* box) {
   if (bound_ != nullptr && bound_->Companion == this) bound_->Companion = nullptr;
   bound_ = box;
   hasChoice_ = false;
+  Grid.ClearView();
   if (bound_ != nullptr) bound_->Companion = this;
 }
 
@@ -100,7 +97,7 @@ bool CSelGrid::CompanionKey(const KeyEvent& key) {
     case keys::kDown:
     case keys::kPageUp:
     case keys::kPageDown:
-      hasChoice_ = true;
+      hasChoice_ = Grid.OuterRow(1) >= 0;
       PlaceInside();
       return Grid.HandleKey(key);
     case keys::kEnter:
@@ -115,7 +112,8 @@ bool CSelGrid::CompanionKey(const KeyEvent& key) {
 }
 
 void CSelGrid::CompanionTyped(const std::string& text) {
-  hasChoice_ = Visible && !text.empty() && Search(text);
+  hasChoice_ = Visible && Search(text);
+  if (TakesNewNames && !text::Lower(Cell(Grid.Row, 0)).starts_with(text::Lower(text))) hasChoice_ = false;
 }
 
 bool CSelGrid::CompanionEscape() {
@@ -135,6 +133,7 @@ void CSelGrid::Load(const std::string& sql, CDbLink& db, bool captionFlag, int w
   rows.Open(sql, db, 1, 1);
   const int cols = static_cast<int>(rows.FieldNames().size());
   Grid.Redraw = false;
+  names_.Clear();
   Grid.Clear();
   Grid.Cols = cols;
   Grid.Rows = static_cast<int>(rows.RecordCount()) + 1;
@@ -151,19 +150,37 @@ void CSelGrid::Load(const std::string& sql, CDbLink& db, bool captionFlag, int w
   loaded_ = true;
 }
 
-bool CSelGrid::Search(const std::string& text) {
+/// The name is the first column; of the others what is shown counts.
+void CSelGrid::ReadNames() {
+  names_.Clear();
   for (int row = 1; row < Grid.Rows; ++row) {
-    if (!Finds(text, Grid.Cell(row, 0))) continue;
-    Grid.Row = row;
-    return true;
+    std::string beside;
+    for (int col = 1; col < Grid.Cols; ++col) {
+      if (Grid.IsColVisible(col)) beside += " " + Grid.TextMatrix(row, col);
+    }
+    names_.Add(Grid.Cell(row, 0), beside);
   }
-  return false;
+}
+
+bool CSelGrid::Search(const std::string& text) {
+  if (names_.Count() != Grid.Rows - 1) ReadNames();
+  if (text.empty()) {
+    Grid.ClearView();
+    return false;
+  }
+  std::vector<int> rows = names_.Find(text);
+  for (int& row : rows) ++row;
+  const int best = rows.empty() ? 0 : rows.front();
+  Grid.SetView(std::move(rows));
+  if (best > 0) Grid.Row = best;
+  return best > 0;
 }
 
 void CSelGrid::Pick(int row) {
   if (row < 1 || row >= Grid.Rows) throw SubscriptError(FullName() + " row " + std::to_string(row));
   Grid.Row = row;
   hasChoice_ = false;
+  Grid.ClearView();
   if (bound_ != nullptr) bound_->Text = Cell(row, 0);
   Selected.Raise();
 }
@@ -187,6 +204,7 @@ void CSelGrid::UserPick(const std::string& text) {
 
 void CSelGrid::ReleaseHeavy() {
   loaded_ = false;
+  names_.Clear();
   Control::ReleaseHeavy();
 }
 
@@ -199,6 +217,9 @@ Control::State CSelGrid::Describe() const {
     Control& holder = *bound_->Parent();
     state.emplace_back("bound", holder.TypedBox() == bound_ ? holder.Name() : bound_->Name());
   }
+  Array shown;
+  for (const int row : Grid.ShownRows()) shown.emplace_back(row);
+  state.emplace_back("shown", shown);
   state.emplace_back("cells", Grid.CellTexts(1, Grid.Rows - 1, {}));
   return state;
 }

@@ -5,14 +5,12 @@
 
 #include "host/controls/Label.h"
 #include "host/controls/MSHFlexGrid.h"
+#include "host/controls/PickOrder.h"
 #include "host/controls/TextBox.h"
 
 namespace quillon {
 
 class CDbLink;
-
-/// Whether a typed text finds a line of a list, case ignored: the line begins with it.
-bool Finds(std::string_view typed, std::string_view line);
 
 /// A drop-down selection grid attached to a field: the first column is what the user sees and searches by.
 class CSelGrid : public Control, private ITextCompanion {
@@ -48,6 +46,10 @@ class CSelGrid : public Control, private ITextCompanion {
   /// Hides the list, unties it and gives it back the size that the screen made.
   void Close();
 
+  /// The field takes names that the list has not: Enter takes only a line that begins with what was typed, or
+  /// one that the person went to.
+  bool TakesNewNames = false;
+
   /// Whether the person went to a line, or what he typed found one: what Enter takes.
   bool HasChoice() const { return hasChoice_ && !IsEmpty(); }
 
@@ -63,7 +65,8 @@ class CSelGrid : public Control, private ITextCompanion {
   /// A row was picked: its first column stands in the bound box.
   Event<> Selected;
 
-  /// Moves to the first row that the text finds; false, and the row stays, when it finds none.
+  /// Shows only the rows that the text finds, the best first, and moves to that; false, and the row stays,
+  /// when it finds none. An empty text shows all again. Row numbers stay those of the list.
   bool Search(const std::string& text);
   void Pick(int row);
 
@@ -85,6 +88,7 @@ class CSelGrid : public Control, private ITextCompanion {
   bool CompanionEscape() override;
   bool TakesEnter() const override { return Visible && (HasChoice() || NotFound); }
   void PlaceInside();
+  void ReadNames();
 
   TextBox* bound_ = nullptr;
   bool open_ = false;
@@ -92,6 +96,7 @@ class CSelGrid : public Control, private ITextCompanion {
   long designedWidth_ = 0;
   long designedHeight_ = 0;
   bool loaded_ = false;
+  PickOrder names_;
 };
 
 }  // namespace quillon

@@ -116,6 +116,9 @@ class Control : public Object {
   /// makes.
   virtual void OfferKey(KeyEvent& key) { KeyDown.Raise(key); }
 
+  /// The character likewise, before the control takes it.
+  virtual void OfferChar(int& character) { KeyPress.Raise(character); }
+
   /// Esc is for what is open at the control first, before the form hears of it: a list under it, then a cell
   /// under edit. False when nothing is.
   virtual bool TakeEscape();
@@ -123,12 +126,22 @@ class Control : public Object {
   /// True while a person has typed what is not stored yet: MayLeave stores it, or tells why it cannot.
   virtual bool IsInEdit() const { return false; }
 
+  /// A text is pasted that the control deals with as a whole; false leaves it to be typed.
+  virtual bool TakePaste(const std::string& /*text*/) { return false; }
+
   /// Forgets what is typed and not stored.
   virtual void DropEdit() {}
 
   /// What a key does that the form let pass; false when it means nothing to the control.
   virtual bool HandleKey(const KeyEvent& key);
   virtual void HandleChar(int character);
+
+  /// What a menu at the control offers a person: words, and the key that does it.
+  struct KeyChoice {
+    std::string words;
+    KeyEvent key;
+  };
+  virtual std::vector<KeyChoice> KeyChoices() const { return {}; }
 
   /// The focus comes or goes; raises GotFocus and LostFocus.
   virtual void EnterFocus() { GotFocus.Raise(); }

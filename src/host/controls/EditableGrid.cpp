@@ -42,6 +42,7 @@ void EditableGrid::Open(int row, int col) {
     Rows = row + 1;
     RowAdded.Raise(row);
   }
+  Finder.Close();
   Row = row;
   Col = col;
   editing_ = false;
@@ -187,7 +188,7 @@ bool EditableGrid::HandleEditKey(const KeyEvent& key) {
     case keys::kUp:
     case keys::kDown: {
       const int direction = key.KeyCode == keys::kUp ? -1 : 1;
-      const int row = VisibleRowFrom(editRow_ + direction, direction);
+      const int row = RowBeside(editRow_, direction);
       if (row >= 0 && EndEdit()) KeyMoveTo(row, Col);
       return true;
     }
@@ -207,7 +208,10 @@ void EditableGrid::EmptyCell() {
 }
 
 bool EditableGrid::HandleKey(const KeyEvent& key) {
+  if (editing_ && key.KeyCode == 'F' && key.Shift == keys::kCtrl)
+    return !EndEdit() || GridModel::HandleKey(key);
   if (editing_) return HandleEditKey(key);
+  if (GridModel::TypedBox() != nullptr) return GridModel::HandleKey(key);
   if (key.KeyCode == keys::kDelete && key.Shift == 0 && BeforeEdit) {
     EmptyCell();
     return true;
@@ -217,10 +221,18 @@ bool EditableGrid::HandleKey(const KeyEvent& key) {
     OpenFrom(Row, Col);
     return true;
   }
+  if (key.KeyCode == 'V' && key.Shift == keys::kCtrl && BeforeEdit) {
+    OwnerForm().UserPaste(gRuntime->ClipboardText());
+    return true;
+  }
   return GridModel::HandleKey(key);
 }
 
 void EditableGrid::HandleChar(int character) {
+  if (!editing_ && GridModel::TypedBox() != nullptr) {
+    GridModel::HandleChar(character);
+    return;
+  }
   if (!editing_) {
     if (!BeforeEdit || !OpenFrom(Row, Col)) return;
     EditBox.SelectAll();

@@ -32,6 +32,10 @@ class EditableGrid : public GridModel {
   Event<int> RowAdded;
   Event<int, int, KeyEvent&> EditKeyDown;
 
+  /// True before the first of several pasted lines, false behind the last: what is stored between them is one
+  /// act of the person.
+  Event<bool> Pasting;
+
   /// The cell editor.
   TextBox EditBox;
 
@@ -61,9 +65,16 @@ class EditableGrid : public GridModel {
   bool UserLeaveCell() { return EndEdit(); }
 
   void UserMoveTo(int row, int col) override;
-  TextBox* TypedBox() override { return editing_ ? &EditBox : nullptr; }
+  TextBox* TypedBox() override { return editing_ ? &EditBox : GridModel::TypedBox(); }
   bool MayLeave() override;
   bool IsInEdit() const override { return editing_; }
+
+  /// Several lines go down the column from the cursor on, each by the whole cycle of an edit, to the shown
+  /// rows. An empty line passes its row by; a line that is refused ends it, and so does a row that may not be
+  /// edited. How many were stored is told.
+  bool TakePaste(const std::string& text) override;
+  bool IsPasting() const { return pasting_; }
+  std::vector<KeyChoice> KeyChoices() const override;
   void DropEdit() override { CancelEdit(); }
   bool TakeEscape() override;
   void LeaveFocus() override;
@@ -88,9 +99,21 @@ class EditableGrid : public GridModel {
   bool HandleEditKey(const KeyEvent& key);
   bool IsCandidate(int col) const;
 
+  /// Where the pasting of lines stands, and why it ended early.
+  struct Paste {
+    int row = 0;
+    int col = 0;
+    std::size_t given = 0;
+    std::size_t stored = 0;
+    std::string ended{};
+  };
+  void PasteLines(const std::vector<std::string>& lines, Paste& paste);
+  std::string PasteLine(const std::string& line, const Paste& paste);
+
   std::vector<bool> editable_;
   bool editing_ = false;
   bool validating_ = false;
+  bool pasting_ = false;
   int editRow_ = 0;
   int editCol_ = 0;
 };

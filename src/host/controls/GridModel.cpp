@@ -142,6 +142,7 @@ void GridModel::HideAllColumns() {
 }
 
 void GridModel::Clear() {
+  ClearView();
   for (std::size_t row = static_cast<std::size_t>(FixedRows()); row < rows_.size(); ++row) {
     rows_[row].cells.clear();
     rows_[row].extra.reset();
@@ -162,6 +163,7 @@ void GridModel::AddItem(std::string_view tabbedText, int row) {
   // The row is made below the last one, which may be refused, and then put in its place.
   Rows = Rows + 1;
   std::rotate(rows_.begin() + row, rows_.end() - 1, rows_.end());
+  ClearView();
   RowsShifted(row, 1);
   const std::vector<std::string> parts = text::Split(tabbedText, "\t");
   for (int col = 0; col < std::min(Cols(), static_cast<int>(parts.size())); ++col) {
@@ -174,6 +176,7 @@ void GridModel::RemoveItem(int row) {
   RequireRow(row);
   rows_.erase(rows_.begin() + row);
   Rows.PutSilently(Rows - 1);
+  ClearView();
   ClampCursor();
   RowsShifted(row, -1);
   Touched();
@@ -254,6 +257,7 @@ void GridModel::RequireCursor() {
 }
 
 void GridModel::CursorMoved() {
+  selectsAll_ = false;
   RowSel.PutSilently(Row);
   ColSel.PutSilently(Col);
   toldCol_ = Col;
@@ -282,6 +286,7 @@ void GridModel::ResizeRows() {
                     Name());
   }
   Rows.PutSilently(asked);
+  ClearView();
   ClampCursor();
 }
 
@@ -307,6 +312,7 @@ void GridModel::PropertyChanged(const PropertyBase& property) {
     RequireCursor();
     CursorMoved();
   } else if (&property == &RowSel || &property == &ColSel) {
+    selectsAll_ = false;
     RequireCursor();
   } else if (&property == &Width || &property == &Height) {
     sight_ = {};
@@ -349,6 +355,20 @@ Control::State GridModel::Describe() const {
   state.emplace_back("rowheight", heights);
   state.emplace_back("colors", colors);
   state.emplace_back("underlined", underlined);
+  const Rectangle taken = Selection();
+  state.emplace_back("selection", Array{taken.firstRow, taken.firstCol, taken.lastRow, taken.lastCol});
+  state.emplace_back("selectedamounts", SelectedFiguresText());
+  if (HasView()) {
+    Array shown;
+    for (const int row : ShownRows()) shown.emplace_back(row);
+    state.emplace_back("shown", shown);
+  }
+  if (Look.IsAllowed) {
+    state.emplace_back("look", Array{Look.SortedBy(), Look.IsDownwards(), Look.Box.Text()});
+  }
+  if (Finder.IsOpen()) {
+    state.emplace_back("find", Array{Finder.Box.Text(), Finder.HasFound(), Finder.Note()});
+  }
   if (Row >= 0 && Row < Rows && Col >= 0 && Col < Cols) {
     const Place cell = CellPlace(Row, Col);
     state.emplace_back("cell", Array{cell.left, cell.top, cell.width, cell.height});

@@ -70,7 +70,11 @@ GridModel::Place GridModel::CellPlace(int row, int col) const {
     place.left = place.left * sight.width / whole;
     place.width = right - place.left;
   }
-  for (int i = FixedRows; i < row; ++i) place.top += RowHeight(i);
+  if (HasView()) {
+    for (int i = OuterRow(1); i >= 0 && i != row; i = RowBeside(i, 1)) place.top += RowHeight(i);
+  } else {
+    for (int i = FixedRows; i < row; ++i) place.top += RowHeight(i);
+  }
   if (row == Row && col == Col) {
     sight.top = std::min(std::max(sight.top, place.top + place.height - sight.height), place.top);
     if (col >= FixedCols) {
@@ -85,25 +89,10 @@ GridModel::Place GridModel::CellPlace(int row, int col) const {
   return place;
 }
 
-GridModel::Rectangle GridModel::Selection() const {
-  const auto [firstRow, lastRow] = std::minmax(Row(), RowSel());
-  const auto [firstCol, lastCol] = std::minmax(Col(), ColSel());
-  Rectangle taken{firstRow, lastRow, firstCol, lastCol};
-  if (SelectionMode == 1) {
-    taken.firstCol = 0;
-    taken.lastCol = Cols - 1;
-  } else if (SelectionMode == 2) {
-    taken.firstRow = FixedRows;
-    taken.lastRow = Rows - 1;
-  }
-  return taken;
-}
-
 int GridModel::ScreenfulFrom(int row, int direction) const {
   long room = sight_.height > 0 ? sight_.height : OwnSight().height;
   int reached = row;
-  for (int next = VisibleRowFrom(row + direction, direction); next >= 0;
-       next = VisibleRowFrom(next + direction, direction)) {
+  for (int next = RowBeside(row, direction); next >= 0; next = RowBeside(next, direction)) {
     room -= RowHeight(next);
     if (room < 0 && reached != row) break;
     reached = next;
@@ -116,10 +105,10 @@ bool GridModel::MoveByKey(int keyCode, CellAt& to) const {
   int row = to.row;
   switch (keyCode) {
     case keys::kUp:
-      row = VisibleRowFrom(row - 1, -1);
+      row = RowBeside(row, -1);
       break;
     case keys::kDown:
-      row = VisibleRowFrom(row + 1, 1);
+      row = RowBeside(row, 1);
       break;
     case keys::kPageUp:
       row = ScreenfulFrom(row, -1);
@@ -134,10 +123,10 @@ bool GridModel::MoveByKey(int keyCode, CellAt& to) const {
       to.col = ColBeside(to.col, 1);
       break;
     case keys::kHome:
-      row = VisibleRowFrom(FixedRows, 1);
+      row = OuterRow(1);
       break;
     case keys::kEnd:
-      row = VisibleRowFrom(Rows - 1, -1);
+      row = OuterRow(-1);
       break;
     default:
       return false;
@@ -146,7 +135,43 @@ bool GridModel::MoveByKey(int keyCode, CellAt& to) const {
   return true;
 }
 
+TextBox* GridModel::TypedBox() {
+  if (Finder.IsOpen()) return &Finder.Box;
+  return Look.IsTyped() ? &Look.Box : nullptr;
+}
+
+bool GridModel::TakeEscape() {
+  if (Finder.IsOpen()) {
+    Finder.Close();
+  } else if (Look.IsFilterOpen()) {
+    Look.CloseFilter();
+  } else {
+    return Control::TakeEscape();
+  }
+  return true;
+}
+
+void GridModel::LeaveFocus() {
+  Finder.Close();
+  Look.EndTyping();
+  Control::LeaveFocus();
+}
+
+void GridModel::OfferKey(KeyEvent& key) {
+  if (GridModel::TypedBox() == nullptr) Control::OfferKey(key);
+}
+
+void GridModel::OfferChar(int& character) {
+  if (GridModel::TypedBox() == nullptr) Control::OfferChar(character);
+}
+
+void GridModel::HandleChar(int character) {
+  if (TextBox* const box = GridModel::TypedBox()) box->HandleChar(character);
+}
+
 bool GridModel::HandleKey(const KeyEvent& key) {
+  if (Finder.IsOpen()) return Finder.HandleKey(key);
+  if (Look.IsTyped()) return Look.HandleKey(key);
   if (key.AsksUndo() && Undo) {
     Undo.Raise();
     return true;
@@ -155,6 +180,7 @@ bool GridModel::HandleKey(const KeyEvent& key) {
     Redo.Raise();
     return true;
   }
+  if (HandleCtrlKey(key)) return true;
   const bool extends = key.Shift == keys::kShift;
   if (key.Shift != 0 && key.Shift != keys::kCtrl && !extends) return false;
   CellAt to = extends ? CellAt{RowSel, ColSel} : CellAt{Row, Col};
@@ -162,6 +188,7 @@ bool GridModel::HandleKey(const KeyEvent& key) {
   // A cursor on the titles of an empty grid goes nowhere.
   if (to.row < FixedRows || to.row >= Rows) return true;
   if (extends) {
+    selectsAll_ = false;
     RowSel = to.row;
     ColSel = to.col;
   } else {
@@ -176,7 +203,7 @@ void GridModel::RequireUserCell(int row, int col) const {
   if (row < FixedRows || row >= Rows || col < 0 || col >= Cols) {
     throw Refused(called + ", column " + std::to_string(col) + " is no cell of the grid");
   }
-  if (!IsRowVisible(row)) throw Refused(called + " is hidden");
+  if (!IsRowShown(row)) throw Refused(called + " is hidden");
 }
 
 int GridModel::UserCol() const {
@@ -189,6 +216,8 @@ void GridModel::UserMoveTo(int row, int col) {
   RequireUserCell(row, col);
   RequireSeen(*this, col);
   if (!OwnerForm().UserFocus(*this)) return;
+  Finder.Close();
+  Look.EndTyping();
   KeyMoveTo(row, col);
 }
 
@@ -196,14 +225,6 @@ void GridModel::KeyMoveTo(int row, int col) {
   Row.PutSilently(row);
   Col.PutSilently(col);
   CursorMoved();
-}
-
-void GridModel::UserSelect(int row, int col, int rowSel, int colSel) {
-  RequireUserCell(rowSel, colSel);
-  RequireSeen(*this, colSel);
-  UserMoveTo(row, col);
-  RowSel = rowSel;
-  ColSel = colSel;
 }
 
 void GridModel::UserDoubleClickRow(int row) {

@@ -7,6 +7,9 @@
 #include <vector>
 
 #include "host/controls/Control.h"
+#include "host/controls/GridFind.h"
+#include "host/controls/GridLook.h"
+#include "host/values/Amount.h"
 #include "host/values/CellText.h"
 
 namespace quillon {
@@ -68,6 +71,12 @@ class GridModel : public Control {
   Event<> Undo;
   Event<> Redo;
 
+  /// Ctrl+F, Ctrl+G.
+  GridFind Finder{*this};
+
+  /// A click on a heading, and Ctrl+Shift+F.
+  GridLook Look{*this};
+
   /// The selected cells, as SelectionMode widens them; rows above the first that scrolls are never taken by
   /// it.
   struct Rectangle {
@@ -82,6 +91,33 @@ class GridModel : public Control {
     bool IsOneCell() const { return firstRow == lastRow && firstCol == lastCol; }
   };
   Rectangle Selection() const;
+
+  /// What is selected as its user sees it: only what is shown, the rows in their order on the screen. A
+  /// cursor in a hidden column stands for its whole row.
+  std::vector<int> SelectedRows() const;
+  std::vector<int> SelectedCols() const;
+  bool IsSelected(int row, int col) const;
+
+  /// More is selected than the cursor's cell.
+  bool IsBlockSelected() const { return selectsAll_ || !Selection().IsOneCell(); }
+
+  /// The selected cells as lines of texts joined by tabs, dates and figures as spreadsheets read them; with
+  /// `headings` the shown titles stand above. Empty where no cell is selected.
+  std::string SelectedText(bool headings) const;
+
+  /// The amounts among the selected cells of one column; only a column of figures, aligned to the right, has
+  /// amounts.
+  struct Figures {
+    int col = 0;
+    std::int64_t count = 0;
+    Amount sum;
+    Amount least;
+    Amount most;
+  };
+  std::vector<Figures> SelectedFigures() const;
+
+  /// The same in words: "3 amounts, sum 4,500.00, 500.00 to 2,500.00"; empty below two amounts.
+  std::string SelectedFiguresText() const;
 
   /// Throws SubscriptError outside the grid.
   std::string TextMatrix(int row, int col) const { return std::string(Cell(row, col)); }
@@ -145,7 +181,16 @@ class GridModel : public Control {
 
   bool CanTakeFocus() const override { return true; }
   bool KeepsEnter() const override { return true; }
+  TextBox* TypedBox() override;
+  bool TakeEscape() override;
+  void LeaveFocus() override;
+
+  /// What is typed into the box that finds is not the form's.
+  void OfferKey(KeyEvent& key) override;
+  void OfferChar(int& character) override;
+  std::vector<KeyChoice> KeyChoices() const override;
   bool HandleKey(const KeyEvent& key) override;
+  void HandleChar(int character) override;
 
   /// A person moves the cursor to a cell that he can see.
   virtual void UserMoveTo(int row, int col);
@@ -154,11 +199,33 @@ class GridModel : public Control {
   /// right, else to its left, that he can see.
   int UserCol() const;
   void UserSelect(int row, int col, int rowSel, int colSel);
+
+  /// A person takes the far corner of the selection elsewhere.
+  void UserExtendTo(int row, int col);
+
+  /// All that is shown is selected until the cursor or the selection moves; the cursor stays.
+  void UserSelectAll();
   void UserDoubleClickRow(int row);
   void UserDoubleClick() override;
 
   /// The nearest visible row below the titles from `row` in steps of `step`; -1 when there is none.
   int VisibleRowFrom(int row, int step) const;
+
+  /// The shown row beside a row on the screen, below it (1) or above it (-1), and the first or the last one;
+  /// -1 when there is none.
+  int RowBeside(int row, int step) const;
+  int OuterRow(int step) const;
+
+  /// The order in which the rows are shown, whatever their own is: these rows and no others, hidden ones left
+  /// out. Rows, cells, heights and events stay what they are. It holds until rows are put in or taken out, or
+  /// the grid is emptied.
+  void SetView(std::vector<int> rows);
+  void ClearView();
+  bool HasView() const { return view_.has_value(); }
+
+  /// The rows below the titles that are shown, in the order on the screen.
+  std::vector<int> ShownRows() const;
+  bool IsRowShown(int row) const { return IsRowVisible(row) && (!view_ || PlaceInView(row) >= 0); }
 
   /// Where a cell is drawn, in twips from the grid's top left corner; no width and height for a hidden one.
   /// The cursor's cell is first brought into sight. Throws SubscriptError outside the grid.
@@ -217,6 +284,9 @@ class GridModel : public Control {
   void RequireUserCell(int row, int col) const;
 
  private:
+  friend class GridFind;
+  friend class GridLook;
+
   struct CellAt {
     int row;
     int col;
@@ -236,6 +306,9 @@ class GridModel : public Control {
     std::unique_ptr<RowExtra> extra;
   };
 
+  /// -1 for a row that the view leaves out.
+  int PlaceInView(int row) const;
+  int FirstInView(int place, int step) const;
   void PutText(int row, int col, CellText text);
   const CellText* Text(int row, int col) const;
   const ColumnData& Column(int col) const;
@@ -247,6 +320,10 @@ class GridModel : public Control {
   void ResizeRows();
   void ResizeCols();
   bool MoveByKey(int keyCode, CellAt& to) const;
+  bool HandleCtrlKey(const KeyEvent& key);
+  void DropView();
+  bool TakesWholeRows() const;
+  bool IsBelow(int row, int other) const;
   int ScreenfulFrom(int row, int direction) const;
   int ColBeside(int col, int direction) const;
   long BodyTop() const;
@@ -257,8 +334,11 @@ class GridModel : public Control {
 
   std::vector<RowData> rows_;
   std::vector<ColumnData> columns_;
+  std::optional<std::vector<int>> view_;
+  std::vector<int> places_;  // of each row in the view
   mutable Sight sight_;
   bool shownSoFar_ = false;
+  bool selectsAll_ = false;
   int toldRow_ = 1;
   int toldCol_ = 0;
 };

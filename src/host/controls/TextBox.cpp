@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/forms/Form.h"
+#include "host/forms/Runtime.h"
 #include "host/values/FlagHold.h"
 #include "host/values/Text.h"
 
@@ -100,6 +102,7 @@ bool TextBox::HandleKey(const KeyEvent& key) {
     SelectAll();
     return true;
   }
+  if (HandleClipboard(key)) return true;
   if (key.AsksUndo()) return TurnTyped(typed_, takenBack_);
   if (key.AsksRedo()) return TurnTyped(takenBack_, typed_);
   if (HandleMove(key)) return true;
@@ -119,6 +122,35 @@ bool TextBox::HandleKey(const KeyEvent& key) {
     case keys::kEnter:
       if (!MultiLine || Locked) return false;
       Replace(SelStart, SelLength, "\r\n");
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::vector<Control::KeyChoice> TextBox::KeyChoices() const {
+  std::vector<KeyChoice> choices;
+  if (!Locked && SelLength != 0) choices.push_back({"Cut", {'X', keys::kCtrl}});
+  if (SelLength != 0) choices.push_back({"Copy", {'C', keys::kCtrl}});
+  if (!Locked) choices.push_back({"Paste", {'V', keys::kCtrl}});
+  choices.push_back({"Select All", {'A', keys::kCtrl}});
+  if (!typed_.empty()) choices.push_back({"Undo", {'Z', keys::kCtrl}});
+  if (!takenBack_.empty()) choices.push_back({"Redo", {'Y', keys::kCtrl}});
+  return choices;
+}
+
+bool TextBox::HandleClipboard(const KeyEvent& key) {
+  if (key.Shift != keys::kCtrl) return false;
+  switch (key.KeyCode) {
+    case 'C':
+    case 'X':
+      if (SelLength == 0) return true;
+      gRuntime->SetClipboardText(
+          text::Mid(Text(), static_cast<std::size_t>(SelStart) + 1, static_cast<std::size_t>(SelLength)));
+      if (key.KeyCode == 'X' && !Locked) Replace(SelStart, SelLength, "");
+      return true;
+    case 'V':
+      OwnerForm().UserPaste(gRuntime->ClipboardText());
       return true;
     default:
       return false;

@@ -63,6 +63,7 @@ class TextBox : public Control {
   /// A person pastes a text in place of the selection. A box of one line takes the first.
   void UserPaste(const std::string& text);
 
+  std::vector<KeyChoice> KeyChoices() const override;
   bool HandleKey(const KeyEvent& key) override;
   void HandleChar(int character) override;
   void EnterFocus() override;
@@ -85,6 +86,7 @@ class TextBox : public Control {
  private:
   std::string Accepted(const std::string& text) const;
   void Replace(int start, int length, const std::string& with);
+  bool HandleClipboard(const KeyEvent& key);
   bool HandleMove(const KeyEvent& key);
   bool MoveTarget(const KeyEvent& key, int& to, long& indent) const;
   int LineTarget(int lines, long& indent) const;

@@ -5,9 +5,11 @@
 #include "host/controls/CButton.h"
 #include "host/controls/CStdButtons.h"
 #include "host/controls/Menu.h"
+#include "host/controls/SpreadsheetText.h"
 #include "host/controls/TextBox.h"
 #include "host/forms/Runtime.h"
 #include "host/services/IApp.h"
+#include "host/values/Date.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -168,7 +170,7 @@ void Form::DispatchKey(KeyEvent& key, int character) {
   if (key.KeyCode == 0 || !StillAlive()) return;
   if (character != 0 && (key.Shift & (keys::kCtrl | keys::kAlt)) == 0) {
     OnKeyPress(character);
-    if (character != 0 && focused != nullptr && StillAlive()) focused->KeyPress.Raise(character);
+    if (character != 0 && focused != nullptr && StillAlive()) focused->OfferChar(character);
     if (character == 0 || !StillAlive()) return;
   }
   if (focused != nullptr && active_ != focused) return;
@@ -190,10 +192,14 @@ void Form::UserPaste(const std::string& text) {
     box->UserPaste(text);
     return;
   }
+  if (focused != nullptr && focused->TakePaste(text)) return;
   const FormPtr alive = Self();
-  for (std::size_t at = 0; at < text.size() && StillAlive() && gRuntime->ActiveForm() == alive;) {
-    const std::size_t bytes = text::CharBytes(text, at);
-    const int character = text::CodePoint(text.substr(at, bytes));
+  const std::vector<std::string> lines = PastedLines(text);
+  const bool isDate = lines.size() == 1 && !Date::Parse(lines.front()).IsEmpty();
+  const std::string typed = isDate ? lines.front() : text;
+  for (std::size_t at = 0; at < typed.size() && StillAlive() && gRuntime->ActiveForm() == alive;) {
+    const std::size_t bytes = text::CharBytes(typed, at);
+    const int character = text::CodePoint(typed.substr(at, bytes));
     if (character < keys::kSpace) return;
     UserKey(CodeOfCharacter(character), 0, character);
     at += bytes;

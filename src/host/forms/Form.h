@@ -84,7 +84,8 @@ class Form : public Surface, public std::enable_shared_from_this<Form> {
   /// A key as a person presses it; `character` is its Unicode value, 0 when it makes none.
   void UserKey(int keyCode, int shift, int character);
 
-  /// A person pastes a text: whole into a box of several lines, elsewhere its first line as if typed.
+  /// A person pastes a text: whole into a box of several lines, down a column of a grid whose cells are
+  /// edited, elsewhere its first line as if typed.
   void UserPaste(const std::string& text);
 
   /// Shows the menu and runs the chosen item's Click.

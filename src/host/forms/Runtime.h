@@ -16,6 +16,7 @@
 namespace quillon {
 
 class CPickList;
+class GridModel;
 class IPrinter;
 class Menu;
 class PrintSetup;
@@ -184,6 +185,9 @@ class Runtime {
 
   /// Tells what was done, in a word that nobody need answer.
   virtual void Say(const std::string& /*text*/) {}
+
+  /// Shows a text of the cursor's cell whole, which the cell may be too narrow for.
+  virtual void ShowCell(GridModel& /*grid*/, const std::string& text) { Say(text); }
 
   /// A statement waits for what another program is changing, or no longer. It may be called on another thread
   /// than the forms'.

@@ -55,7 +55,11 @@ void ScreenForm::PressKey(const std::string& key) {
     return;
   } else if (key == "Preview" || key == "Print") {
     const CGridPlus* const grid = PrintedGrid();
-    if (MayPrint() && (grid == nullptr || RequireComplete(*grid))) Print(key == "Print");
+    if (!MayPrint() || (grid != nullptr && !RequireComplete(*grid))) return;
+    if (grid != nullptr && grid->HasView()) {
+      gRuntime->Say("The pages have all rows, in the order of the screen itself.");
+    }
+    Print(key == "Print");
   } else {
     Pressed(key);
   }

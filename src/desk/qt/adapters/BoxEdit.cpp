@@ -1,10 +1,12 @@
 #include "desk/qt/adapters/BoxEdit.h"
 
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 
 #include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/KeyMenu.h"
 #include "desk/qt/adapters/Theme.h"
 #include "host/forms/Form.h"
 
@@ -20,7 +22,6 @@ BoxEdit::BoxEdit(TextBox& box, Control& owner, QWidget* parent)
     : QLineEdit(parent), box_(box), owner_(owner) {
   setFrame(false);
   setTextMargins(kMargin, 0, kMargin, 0);
-  setContextMenuPolicy(Qt::NoContextMenu);
   setDragEnabled(false);
   setAcceptDrops(false);
   setFocusPolicy(Qt::TabFocus);
@@ -87,6 +88,13 @@ void BoxEdit::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !IsOwned()) return;
   QLineEdit::mouseDoubleClickEvent(event);
   TellCaret();
+}
+
+void BoxEdit::contextMenuEvent(QContextMenuEvent* event) {
+  if (!IsOwned()) {
+    Acts::Run([this] { owner_.OwnerForm().UserFocus(owner_); });
+  }
+  if (IsOwned()) KeyMenu::Show(*this, event->globalPos(), owner_, box_.KeyChoices());
 }
 
 }  // namespace quillon

@@ -7,7 +7,9 @@
 
 #include "desk/qt/adapters/Acts.h"
 #include "desk/qt/adapters/BoxEdit.h"
+#include "desk/qt/adapters/FindStrip.h"
 #include "desk/qt/adapters/GridWidget.h"
+#include "desk/qt/adapters/KeyMenu.h"
 #include "host/forms/Form.h"
 #include "host/forms/Runtime.h"
 
@@ -19,6 +21,11 @@ GridAdapter::GridAdapter(GridModel& model, QWidget* parent)
       editable_(dynamic_cast<EditableGrid*>(&model)),
       shown_(static_cast<GridWidget*>(&Widget())) {
   shown_->OnPress = [this](int row, int col) { Acts::Run([&] { grid_.UserMoveTo(row, col); }); };
+  shown_->OnExtend = [this](int row, int col) { Acts::Run([&] { grid_.UserExtendTo(row, col); }); };
+  shown_->OnHeading = [this](int col) {
+    if (grid_.Look.IsAllowed) Acts::Run([&] { grid_.Look.UserSort(col); });
+  };
+  shown_->OnMenu = [this](int row, int col, const QPoint& place) { ShowMenu(row, col, place); };
   shown_->OnDrag = [this](int row, int col, int toRow, int toCol) {
     Acts::Run([&] { grid_.UserSelect(row, col, toRow, toCol); });
   };
@@ -45,6 +52,14 @@ void GridAdapter::DoubleClick(int row, int col) {
   });
 }
 
+/// On a cell outside the selection the cursor goes there first.
+void GridAdapter::ShowMenu(int row, int col, const QPoint& place) {
+  if (row >= 0 && col >= 0 && !(grid_.HasFocus() && grid_.IsSelected(row, col))) {
+    Acts::Run([&] { grid_.UserMoveTo(row, col); });
+  }
+  if (grid_.HasFocus()) KeyMenu::Show(*shown_, place, grid_, grid_.KeyChoices());
+}
+
 /// In the midst of an act nothing is read; its end settles the grid once more.
 void GridAdapter::ReadCells(int firstRow, int lastRow) {
   if (Acts::IsPainting()) return;
@@ -63,6 +78,7 @@ void GridAdapter::ReadCells(int firstRow, int lastRow) {
 std::string GridAdapter::SpokenName() const { return grid_.Title().empty() ? grid_.Name() : grid_.Title(); }
 
 QWidget* GridAdapter::FocusWidget() {
+  if (find_ != nullptr && find_->Edit() != nullptr) return find_->Edit();
   return editable_ != nullptr && editable_->EditMode() ? static_cast<QWidget*>(editor_) : shown_;
 }
 
@@ -76,7 +92,17 @@ void GridAdapter::Dress() {
 
 void GridAdapter::Draw() { shown_->Touch(); }
 
-void GridAdapter::Settle() { shown_->Settle(); }
+void GridAdapter::Settle() {
+  ShowFind();
+  shown_->Settle();
+}
+
+void GridAdapter::ShowFind() {
+  const bool open = grid_.Finder.IsOpen() || grid_.Look.IsFilterOpen();
+  if (open && find_ == nullptr) find_ = new FindStrip(grid_, shown_);
+  if (open) find_->ShowBoxes();
+  shown_->ShowStrip(open ? find_ : nullptr);
+}
 
 void GridAdapter::PlaceEditor() {
   if (editor_ == nullptr) return;

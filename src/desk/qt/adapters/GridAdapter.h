@@ -6,6 +6,7 @@
 namespace quillon {
 
 class BoxEdit;
+class FindStrip;
 class GridWidget;
 
 /// Shows a grid of any kind, with the cell editor of an editable one.
@@ -24,6 +25,8 @@ class GridAdapter : public Adapter {
 
  private:
   void PlaceEditor();
+  void ShowFind();
+  void ShowMenu(int row, int col, const QPoint& place);
   void DoubleClick(int row, int col);
   void ReadCells(int firstRow, int lastRow);
 
@@ -31,6 +34,7 @@ class GridAdapter : public Adapter {
   EditableGrid* editable_;
   GridWidget* shown_;
   BoxEdit* editor_ = nullptr;
+  FindStrip* find_ = nullptr;
   bool readingFailed_ = false;
 };
 

@@ -7,6 +7,12 @@
 
 namespace quillon {
 
+namespace {
+
+constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
+
+}  // namespace
+
 void GridLayout::Measure(const GridModel& grid, int room) {
   modelRows_ = grid.Rows;
   rows_.clear();
@@ -21,11 +27,12 @@ void GridLayout::Measure(const GridModel& grid, int room) {
     titleTops_.push_back(Scale::Px(twips += grid.RowHeight(row)));
   }
   twips = 0;
-  for (int row = fixed; row < grid.Rows; ++row) {
-    const long height = grid.RowHeight(row);
-    if (height <= 0) continue;
+  places_.clear();
+  if (grid.HasView()) places_.assign(static_cast<std::size_t>(grid.Rows()), kNowhere);
+  for (int row = grid.OuterRow(1); row >= 0; row = grid.RowBeside(row, 1)) {
+    if (grid.HasView()) places_[static_cast<std::size_t>(row)] = rows_.size();
     rows_.push_back(row);
-    tops_.push_back(Scale::Px(twips += height));
+    tops_.push_back(Scale::Px(twips += grid.RowHeight(row)));
   }
   MeasureColumns(grid, room);
 }
@@ -50,6 +57,9 @@ std::size_t GridLayout::PlaceAt(int y) const {
 }
 
 std::size_t GridLayout::PlaceOf(int row) const {
+  if (!places_.empty()) {
+    return row >= 0 && row < modelRows_ ? places_[static_cast<std::size_t>(row)] : kNowhere;
+  }
   return static_cast<std::size_t>(std::lower_bound(rows_.begin(), rows_.end(), row) - rows_.begin());
 }
 

@@ -37,7 +37,8 @@ class GridLayout {
   /// The place of the row at `y`; the number of rows below the last one.
   std::size_t PlaceAt(int y) const;
 
-  /// The place of a row, or of the next shown one.
+  /// The place of a row, or of the next shown one; where rows are shown in another order than their own, one
+  /// that is left out has a place beyond all.
   std::size_t PlaceOf(int row) const;
 
   /// The shown column at `x`; -1 right of the last one.
@@ -47,6 +48,7 @@ class GridLayout {
   void MeasureColumns(const GridModel& grid, int room);
 
   int modelRows_ = 0;
+  std::vector<std::size_t> places_;  // of each row, where they are shown in another order than their own
   std::vector<int> rows_;
   std::vector<int> tops_{0};
   std::vector<int> titles_;

@@ -1,11 +1,13 @@
 #include "desk/qt/adapters/GridWidget.h"
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "desk/qt/adapters/GridAccessible.h"
 #include "desk/qt/adapters/LinePainter.h"
@@ -80,7 +82,12 @@ void GridWidget::Look() {
   const int top = verticalScrollBar()->value();
   const std::size_t last = layout_.Rows().size() - 1;
   const std::size_t from = std::min(layout_.PlaceAt(top), last);
-  OnLook(layout_.Rows()[from], layout_.Rows()[std::min(layout_.PlaceAt(top + Body().height()), last)]);
+  const std::size_t to = std::min(layout_.PlaceAt(top + Body().height()), last);
+  if (!model_.HasView()) {
+    OnLook(layout_.Rows()[from], layout_.Rows()[to]);
+    return;
+  }
+  for (std::size_t place = from; place <= to; ++place) OnLook(layout_.Rows()[place], layout_.Rows()[place]);
 }
 
 /// What was not read yet is not empty.
@@ -173,9 +180,12 @@ GridWidget::CellPlace GridWidget::CellAt(const QPoint& point) const {
   if (!body.contains(point)) return {};
   const std::size_t place = layout_.PlaceAt(point.y() - body.top() + verticalScrollBar()->value());
   if (place >= layout_.Rows().size()) return {};
-  int col = layout_.ColAt(point.x());
-  if (col >= model_.FixedCols || col < 0) col = layout_.ColAt(point.x() + horizontalScrollBar()->value());
-  return {layout_.Rows()[place], col};
+  return {layout_.Rows()[place], ColAt(point.x())};
+}
+
+int GridWidget::ColAt(int x) const {
+  const int col = layout_.ColAt(x);
+  return col >= 0 && col < model_.FixedCols ? col : layout_.ColAt(x + horizontalScrollBar()->value());
 }
 
 bool GridWidget::HasKeys() const { return leads_ || model_.HasFocus(); }
@@ -238,6 +248,11 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
   // While a form fills the grid, its rows are not for showing.
   if (!model_.IsShownSoFar()) return;
   if (stale_ || !layout_.Fits(model_)) Measure();
+  if (model_.HasView() && layout_.Rows().empty()) {
+    painter.setPen(Theme::Muted());
+    painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, 0), Qt::AlignTop | Qt::AlignLeft,
+                     QStringLiteral("Nothing found"));
+  }
   PaintRows(painter);
   PaintCursor(painter);
   PaintTitles(painter);
@@ -265,7 +280,9 @@ void GridWidget::PaintTitles(QPainter& painter) const {
       painter.setPen(Theme::Border());
       painter.drawLine(cell.right(), cell.top() + kPadding, cell.right(), cell.bottom() - kPadding);
       painter.setPen(Theme::Text());
-      DrawText(painter, cell, model_.Cell(row, col), model_.HeadingAlignment(col));
+      const bool sorts = col == model_.Look.SortedBy() && place + 1 == layout_.Titles().size();
+      const std::string arrow = !sorts ? "" : model_.Look.IsDownwards() ? " ▼" : " ▲";
+      DrawText(painter, cell, model_.TextMatrix(row, col) + arrow, model_.HeadingAlignment(col));
     });
   }
 }
@@ -287,8 +304,7 @@ void GridWidget::PaintRow(QPainter& painter, int row, const QRect& band) const {
   const std::vector<GridModel::Paint>& paints = model_.Paints(row);
   const QColor own =
       model_.ForeColor == Control::kDefaultColor ? Theme::Text() : Theme::ColorOf(model_.ForeColor);
-  const GridModel::Rectangle taken = model_.Selection();
-  const bool block = !taken.IsOneCell();
+  const bool block = model_.IsBlockSelected();
   EachCol(painter, band, [&](int col, const QRect& cell) {
     QColor fore = own;
     for (const GridModel::Paint& paint : paints) {
@@ -296,8 +312,13 @@ void GridWidget::PaintRow(QPainter& painter, int row, const QRect& band) const {
       if (paint.backColor != Control::kDefaultColor) painter.fillRect(cell, Theme::ColorOf(paint.backColor));
       if (paint.foreColor != Control::kDefaultColor) fore = Theme::ColorOf(paint.foreColor);
     }
-    if (block && taken.Contains(row, col)) {
+    if (block && model_.IsSelected(row, col)) {
       painter.fillRect(cell, Translucent(Theme::Accent(), 60));
+    }
+    if (model_.Finder.Marks(Known(row, col))) {
+      painter.fillRect(cell.adjusted(1, 1, -1, -2), Theme::Found());
+      painter.setPen(Theme::FoundEdge());
+      painter.drawRect(cell.adjusted(1, 1, -2, -3));
     }
     const bool command = col == layout_.Cols() - 1 && Known(row, col) == kRuled;
     if (command) return;
@@ -348,7 +369,23 @@ void GridWidget::PaintFooter(QPainter& painter) const {
   painter.drawLine(0, top, viewport()->width(), top);
 }
 
+void GridWidget::ShowStrip(QWidget* strip) {
+  if (strip != strip_ && strip_ != nullptr) strip_->hide();
+  strip_ = strip;
+  const int height = strip != nullptr ? strip->sizeHint().height() : 0;
+  if (viewportMargins().bottom() != height) setViewportMargins(0, 0, 0, height);
+  PlaceStrip();
+}
+
+void GridWidget::PlaceStrip() {
+  if (strip_ == nullptr) return;
+  const QRect cells = viewport()->geometry();
+  strip_->setGeometry(cells.left(), cells.bottom() + 1, cells.width(), strip_->sizeHint().height());
+  strip_->show();
+}
+
 void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
+  PlaceStrip();
   stale_ = true;
   cursor_ = {};
   Touch();
@@ -364,8 +401,18 @@ void GridWidget::scrollContentsBy(int /*dx*/, int /*dy*/) {
 void GridWidget::mousePressEvent(QMouseEvent* event) {
   pressed_ = event->button() == Qt::LeftButton ? CellAt(event->position().toPoint()) : CellPlace();
   dragged_ = pressed_;
+  const QPoint at = event->position().toPoint();
+  if (event->button() == Qt::LeftButton && at.y() >= TitleLine() && at.y() < Body().top()) {
+    const int col = ColAt(at.x());
+    if (OnHeading && col >= 0) OnHeading(col);
+  }
   if (pressed_.row < 0 || pressed_.col < 0) return;
-  if (OnPress) OnPress(pressed_.row, pressed_.col);
+  if (OnExtend && (event->modifiers() & Qt::ShiftModifier)) {
+    const CellPlace corner = std::exchange(pressed_, CellPlace());
+    OnExtend(corner.row, corner.col);
+  } else if (OnPress) {
+    OnPress(pressed_.row, pressed_.col);
+  }
 }
 
 void GridWidget::mouseMoveEvent(QMouseEvent* event) {
@@ -382,6 +429,16 @@ void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
   const CellPlace cell = CellAt(event->position().toPoint());
   if (event->button() != Qt::LeftButton || cell.row < 0 || cell.col < 0) return;
   if (OnDoubleClick) OnDoubleClick(cell.row, cell.col);
+}
+
+void GridWidget::contextMenuEvent(QContextMenuEvent* event) {
+  if (!OnMenu) return;
+  if (event->reason() == QContextMenuEvent::Mouse) {
+    const CellPlace cell = CellAt(event->pos());
+    OnMenu(cell.row, cell.col, event->globalPos());
+  } else {
+    OnMenu(-1, -1, viewport()->mapToGlobal(CellRect(model_.Row, model_.Col).bottomLeft()));
+  }
 }
 
 bool GridWidget::viewportEvent(QEvent* event) {

@@ -15,8 +15,17 @@ class GridWidget : public QAbstractScrollArea {
 
   /// The mouse on a cell: pressed, dragged on to another one (the cell pressed comes first), clicked twice.
   std::function<void(int row, int col)> OnPress;
+
+  /// Pressed on a heading.
+  std::function<void(int col)> OnHeading;
+
+  /// Pressed with Shift held.
+  std::function<void(int row, int col)> OnExtend;
   std::function<void(int row, int col, int toRow, int toCol)> OnDrag;
   std::function<void(int row, int col)> OnDoubleClick;
+
+  /// The menu is asked for, by the mouse on a cell or by the key: then without one.
+  std::function<void(int row, int col, const QPoint& place)> OnMenu;
 
   /// The keys move in the grid although it has not the focus: the list of a field.
   void LeadKeys() { leads_ = true; }
@@ -29,6 +38,9 @@ class GridWidget : public QAbstractScrollArea {
 
   /// The model changed; it is measured and drawn when the hand is free.
   void Touch();
+
+  /// Shows a strip below the cells, or none; it stays the caller's.
+  void ShowStrip(QWidget* strip);
 
   /// Measures what changed and brings a cursor that moved into sight.
   void Settle();
@@ -52,6 +64,7 @@ class GridWidget : public QAbstractScrollArea {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   bool viewportEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   struct CellPlace {
@@ -65,11 +78,13 @@ class GridWidget : public QAbstractScrollArea {
   void Look();
   std::string_view Known(int row, int col) const;
   void TellSight();
+  void PlaceStrip();
   int TitleLine() const;
   int FooterHeight() const;
   int FooterLine() const;
   int X(int col) const;
   CellPlace CellAt(const QPoint& point) const;
+  int ColAt(int x) const;
   template <class DrawCell>
   void EachCol(QPainter& painter, const QRect& band, const DrawCell& draw) const;
   void PaintTitles(QPainter& painter) const;
@@ -87,6 +102,7 @@ class GridWidget : public QAbstractScrollArea {
   CellPlace cursor_;
   CellPlace pressed_;
   CellPlace dragged_;
+  QWidget* strip_ = nullptr;
   bool leads_ = false;
   bool stale_ = true;
   bool waiting_ = false;

@@ -22,6 +22,8 @@ class Theme {
   static QColor Accent() { return {0x17, 0x6B, 0x75}; }
   static QColor AccentSoft() { return {0xDC, 0xED, 0xEE}; }
   static QColor Heading() { return {0xE6, 0xEB, 0xF0}; }
+  static QColor Found() { return {0xFF, 0xD5, 0x4F}; }
+  static QColor FoundEdge() { return {0x8A, 0x5A, 0x00}; }
 
   /// Style, palette and font of the whole program. The forms' fonts are their own.
   static void Apply(QApplication& application);

@@ -2,13 +2,16 @@
 
 #include <QFile>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <algorithm>
 
 #include "desk/qt/adapters/PushButton.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
 #include "host/controls/CButtonBar.h"
 #include "host/controls/CommandButton.h"
+#include "host/controls/EditableGrid.h"
 #include "host/forms/Form.h"
 
 /// A resource inside a static library has to be asked for, outside every namespace.
@@ -19,8 +22,11 @@ namespace quillon {
 namespace {
 
 constexpr long kKeyWidth = 1500;
-constexpr long kWordsWidth = 4500;
+constexpr long kWordsWidth = 3600;
 constexpr long kRowGap = 60;
+constexpr long kColumnGap = 450;
+
+const QString kBetween = QStringLiteral(" | ");  // a key and its words
 
 struct KeyLine {
   const char* key;
@@ -32,29 +38,65 @@ constexpr KeyLine kEverywhere[] = {
     {"Shift+Tab", "Field before"},
     {"Ctrl+Tab", "Next window"},
     {"Ctrl+M", "Account of the screen"},
-    {"Ctrl+C, Ctrl+V", "Copy, paste"},
+    {"Ctrl+C, Ctrl+X, Ctrl+V", "Copy, cut, paste"},
     {"Ctrl+O", "Open a firm"},
     {"Ctrl+T", "Statement of account"},
     {"Ctrl+L", "Accounts"},
     {"Alt", "Menus"},
 };
 
+constexpr KeyLine kInGrid[] = {
+    {"Arrows, Page Up, Page Down", "Move"},
+    {"Home, End", "First, last row"},
+    {"Shift and these", "Select rows and blocks"},
+    {"Ctrl+A", "Select all"},
+    {"Ctrl+C", "Copy what is selected"},
+    {"Ctrl+Shift+C", "Copy it with the headings"},
+    {"Ctrl+Space", "The cell in full"},
+    {"Ctrl+F", "Find"},
+    {"Ctrl+G, Ctrl+Shift+G", "Find the next, the one before"},
+};
+
+constexpr KeyLine kInEditedGrid[] = {
+    {"Enter, F2", "Change the cell, where it may be"},
+    {"Ctrl+V", "Paste; several lines go down the column"},
+    {"Del", "Empty the cell"},
+};
+
+constexpr KeyLine kLook[] = {
+    {"Click on a heading", "Sort for looking"},
+    {"Ctrl+Shift+F", "Show only the rows that have a text"},
+};
+
+constexpr KeyLine kUndo[] = {{"Ctrl+Z, Ctrl+Y", "Take back, put back"}};
+
 }  // namespace
 
 KeysDialog::KeysDialog(const Form* form, int context, QWidget* parent)
-    : DeskDialog(QStringLiteral("Keys"), parent), table_(new QGridLayout) {
-  table_->setVerticalSpacing(Scale::Px(kRowGap));
-  table_->setColumnMinimumWidth(0, Scale::Px(kKeyWidth));
-  table_->setColumnMinimumWidth(1, Scale::Px(kWordsWidth));
+    : DeskDialog(QStringLiteral("Keys"), parent), columns_(new QHBoxLayout) {
+  columns_->setSpacing(Scale::Px(kColumnGap));
   AddText(context);
+  Content().addLayout(columns_);
+  AddColumn();
   if (form != nullptr) AddKeysOf(*form);
   AddHeading(QStringLiteral("Everywhere"));
   for (const KeyLine& line : kEverywhere)
     AddKey(QString::fromLatin1(line.key), QString::fromLatin1(line.what));
-  Content().addLayout(table_);
+  if (form != nullptr) AddGridKeys(*form);
   PushButton& close = AddButton(QStringLiteral("Esc: Close"), [this] { reject(); });
   close.setDefault(true);
   close.setFocus();
+}
+
+void KeysDialog::AddColumn() {
+  auto* const column = new QVBoxLayout;
+  table_ = new QGridLayout;
+  table_->setVerticalSpacing(Scale::Px(kRowGap));
+  table_->setColumnMinimumWidth(0, Scale::Px(kKeyWidth));
+  table_->setColumnMinimumWidth(1, Scale::Px(kWordsWidth));
+  column->addLayout(table_);
+  column->addStretch();
+  columns_->addLayout(column);
 }
 
 /// The file of that number in the folder of help.
@@ -62,10 +104,14 @@ void KeysDialog::AddText(int context) {
   InitHelp();
   QFile file(QStringLiteral(":/help/%1.txt").arg(context));
   if (!file.open(QIODevice::ReadOnly)) return;
-  auto* const text = new QLabel(QString::fromUtf8(file.readAll()).trimmed(), this);
+  QStringList words;
+  for (const QString& line : QString::fromUtf8(file.readAll()).trimmed().split(QLatin1Char('\n'))) {
+    (line.contains(kBetween) ? keyLines_ : words) << line;
+  }
+  auto* const text = new QLabel(words.join(QLatin1Char('\n')), this);
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
-  text->setFixedWidth(Scale::Px(kKeyWidth + kWordsWidth));
+  text->setMinimumWidth(Scale::Px(kKeyWidth + kWordsWidth));
   Content().addWidget(text);
 }
 
@@ -111,6 +157,27 @@ void KeysDialog::AddKeysOf(const Form& form) {
       add(button->Caption(), "", button->Enabled);
     }
   }
+  for (const QString& line : keyLines_) AddKey(line.section(kBetween, 0, 0), line.section(kBetween, 1));
+}
+
+/// Of the grid that its user sees.
+void KeysDialog::AddGridKeys(const Form& form) {
+  const std::vector<Control*>& controls = form.Controls();
+  const auto shown = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
+    return control->Visible && dynamic_cast<const GridModel*>(control) != nullptr;
+  });
+  if (shown == controls.end()) return;
+  AddColumn();
+  AddHeading(QStringLiteral("In the grid"));
+  const auto add = [this](const auto& lines) {
+    for (const KeyLine& line : lines) AddKey(QString::fromLatin1(line.key), QString::fromLatin1(line.what));
+  };
+  add(kInGrid);
+  const auto* const edited = dynamic_cast<const EditableGrid*>(*shown);
+  if (edited != nullptr && edited->BeforeEdit) add(kInEditedGrid);
+  const auto& grid = dynamic_cast<const GridModel&>(**shown);
+  if (grid.Undo) add(kUndo);
+  if (grid.Look.IsAllowed) add(kLook);
 }
 
 }  // namespace quillon

@@ -3,6 +3,7 @@
 #include "desk/qt/dialogs/DeskDialog.h"
 
 class QGridLayout;
+class QHBoxLayout;
 
 namespace quillon {
 
@@ -16,12 +17,20 @@ class KeysDialog : public DeskDialog {
   KeysDialog(const Form* form, int context, QWidget* parent);
 
  private:
+  /// Where the next lines go: a column of its own.
+  void AddColumn();
+
+  /// What stands under the context; those of its lines that have a " | " are keys, which come with the
+  /// form's.
   void AddText(int context);
   void AddHeading(const QString& text);
   void AddKey(const QString& key, const QString& what, bool enabled = true);
   void AddKeysOf(const Form& form);
+  void AddGridKeys(const Form& form);
 
-  QGridLayout* table_;
+  QHBoxLayout* columns_;
+  QGridLayout* table_ = nullptr;
+  QStringList keyLines_;
 };
 
 }  // namespace quillon

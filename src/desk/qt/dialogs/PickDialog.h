@@ -1,13 +1,15 @@
 #pragma once
 
 #include "desk/qt/dialogs/DeskDialog.h"
+#include "host/controls/PickOrder.h"
 #include "host/forms/CPickList.h"
 
+class QLineEdit;
 class QTreeWidget;
 
 namespace quillon {
 
-/// A list of lines to pick one from: Enter, F7 or a double click.
+/// A list of lines to pick one from: Enter, F7 or a double click. What is typed narrows it.
 class PickDialog : public DeskDialog {
  public:
   PickDialog(const CPickList& list, QWidget* parent);
@@ -17,10 +19,15 @@ class PickDialog : public DeskDialog {
 
  protected:
   bool Check() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void PlaceColumns(const CPickList& list);
+  void ShowLines();
 
+  const CPickList& list_;
+  PickOrder names_;
+  QLineEdit* find_;
   QTreeWidget* lines_;
 };
 

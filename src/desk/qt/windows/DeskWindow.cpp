@@ -40,6 +40,7 @@ namespace {
 
 constexpr int kWidth = 1280;
 constexpr int kHeight = 760;
+constexpr long kBesideAmounts = 300;
 constexpr int kSaidFor = 8000;  // milliseconds
 constexpr int kLookEvery = 3000;
 
@@ -52,6 +53,7 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
       firm_(new QLabel(this)),
       year_(new QToolButton(this)),
       user_(new QLabel(this)),
+      selected_(new QLabel(this)),
       busy_(new QLabel(this)) {
   setWindowIcon(Icons::Of(QStringLiteral("desk")));
   auto* const middle = new QWidget(this);
@@ -67,6 +69,8 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   statusBar()->addWidget(firm_);
   statusBar()->addWidget(year_);
   statusBar()->addWidget(user_, 1);
+  selected_->setContentsMargins(Scale::Px(kBesideAmounts), 0, 0, 0);
+  statusBar()->addPermanentWidget(selected_);
   statusBar()->addPermanentWidget(busy_);
   statusBar()->setSizeGripEnabled(false);
   BuildMenus();
@@ -75,6 +79,7 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   runtime_.OnSaid = [this](const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text), kSaidFor);
   };
+  runtime_.OnSelected = [this](const std::string& text) { selected_->setText(QString::fromStdString(text)); };
   runtime_.OnProgress = [this](const std::string& text) { busy_->setText(QString::fromStdString(text)); };
   runtime_.OnWaiting = [this](bool on) { ShowWaiting(on); };
   start_->OnOpen = [this] { AskFirm(); };
@@ -113,6 +118,7 @@ DeskWindow::~DeskWindow() {
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   runtime_.OnBusy = {};
   runtime_.OnSaid = {};
+  runtime_.OnSelected = {};
   runtime_.OnProgress = {};
   runtime_.OnWaiting = {};
   runtime_.OnTopChanged = {};

@@ -104,6 +104,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   QLabel* firm_;
   QToolButton* year_;
   QLabel* user_;
+  QLabel* selected_;
   QLabel* busy_;
   QString beforeWaiting_;  // what busy_ told
   QString folder_;

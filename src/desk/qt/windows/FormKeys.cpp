@@ -20,6 +20,9 @@ const std::map<int, int> kNamed = {
     {Qt::Key_Home, keys::kHome},      {Qt::Key_Left, keys::kLeft},         {Qt::Key_Up, keys::kUp},
     {Qt::Key_Right, keys::kRight},    {Qt::Key_Down, keys::kDown},         {Qt::Key_Delete, keys::kDelete}};
 
+constexpr std::pair<QKeySequence::StandardKey, int> kClipboard[] = {
+    {QKeySequence::Copy, 'C'}, {QKeySequence::Cut, 'X'}, {QKeySequence::Paste, 'V'}};
+
 constexpr int kLastPlainKey = 0x7F;
 
 int ShiftOf(const QKeyEvent& key) {
@@ -52,7 +55,8 @@ bool BelongsToField(const QObject& watched, const QKeyEvent& key) {
     case Qt::Key_Delete:
       return true;
     default:
-      return !key.text().isEmpty() && key.text().at(0).isPrint();
+      return key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Cut) ||
+             key.matches(QKeySequence::Paste) || (!key.text().isEmpty() && key.text().at(0).isPrint());
   }
 }
 
@@ -76,6 +80,10 @@ PressedKey FormKeys::Of(const QKeyEvent& key) {
   if (key.key() >= Qt::Key_F1 && key.key() <= Qt::Key_F12) {
     pressed.KeyCode = keys::kF1 + key.key() - Qt::Key_F1;
     return pressed;
+  }
+  // By whatever keys the toolkit knows them.
+  for (const auto& [sequence, letter] : kClipboard) {
+    if (key.matches(sequence)) return {letter, keys::kCtrl, 0};
   }
   if ((pressed.Shift & (keys::kCtrl | keys::kAlt)) != 0) {
     if (key.key() <= kLastPlainKey) pressed.KeyCode = CodeOfCharacter(key.key());

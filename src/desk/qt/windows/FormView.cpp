@@ -12,18 +12,9 @@
 #include "desk/qt/adapters/SurfaceAdapter.h"
 #include "desk/qt/adapters/Theme.h"
 #include "desk/qt/windows/FormKeys.h"
-#include "host/controls/EditableGrid.h"
 #include "host/forms/Runtime.h"
-#include "host/values/Text.h"
 
 namespace quillon {
-
-namespace {
-
-/// The text box that a control is typed into, or nothing.
-TextBox* BoxOf(Control* control) { return control != nullptr ? control->TypedBox() : nullptr; }
-
-}  // namespace
 
 FormView::FormView(const FormPtr& form, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), form_(form) {
@@ -102,23 +93,6 @@ void FormView::ControlChanged(Control& /*control*/, const PropertyBase* property
 bool FormView::TakeKey(const QKeyEvent& key) {
   // A modal screen in the area keeps its keys from the other windows too.
   if (gRuntime->IsCovered(*form_)) return true;
-  if (key.matches(QKeySequence::Copy)) {
-    CopySelection();
-    return true;
-  }
-  if (key.matches(QKeySequence::Cut)) {
-    const TextBox* const box = BoxOf(form_->ActiveControl());
-    if (box == nullptr || box->SelLength <= 0) return true;
-    CopySelection();
-    const FormPtr form = form_;
-    Acts::Run([&] { form->UserKey(keys::kDelete, 0, 0); });
-    return true;
-  }
-  if (key.matches(QKeySequence::Paste)) {
-    const FormPtr form = form_;
-    Acts::Run([&] { form->UserPaste(gRuntime->ClipboardText()); });
-    return true;
-  }
   const PressedKey pressed = FormKeys::Of(key);
   if (pressed.KeyCode == 0 && pressed.Character == 0) return false;
   const FormPtr form = form_;
@@ -133,29 +107,6 @@ void FormView::TypeText(const QString& text) {
     const int code = static_cast<int>(character);
     Acts::Run([&] { form->UserKey(CodeOfCharacter(code), 0, code); });
   }
-}
-
-void FormView::CopySelection() {
-  Control* const focused = form_->ActiveControl();
-  if (const TextBox* box = BoxOf(focused)) {
-    gRuntime->SetClipboardText(text::Mid(box->Text(),
-                                         static_cast<std::size_t>(std::max(box->SelStart, 0)) + 1,
-                                         static_cast<std::size_t>(std::max(box->SelLength, 0))));
-    return;
-  }
-  const auto* grid = dynamic_cast<const GridModel*>(focused);
-  if (grid == nullptr) return;
-  const GridModel::Rectangle taken = grid->Selection();
-  std::vector<std::string> lines;
-  for (int row = taken.firstRow; row <= taken.lastRow; ++row) {
-    if (!grid->IsRowVisible(row)) continue;
-    std::vector<std::string> cells;
-    for (int col = taken.firstCol; col <= taken.lastCol; ++col) {
-      if (grid->IsColVisible(col)) cells.push_back(grid->TextMatrix(row, col));
-    }
-    lines.push_back(text::Join(cells, "\t"));
-  }
-  gRuntime->SetClipboardText(text::Join(lines, "\n"));
 }
 
 void FormView::closeEvent(QCloseEvent* event) {

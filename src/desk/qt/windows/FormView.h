@@ -45,7 +45,6 @@ class FormView : public QWidget, private IControlListener {
   void ControlChanged(Control& control, const PropertyBase* property) override;
   void Build(Control& parent, QWidget* container, Adapter* holder);
   void Dress();
-  void CopySelection();
 
   FormPtr form_;
   std::vector<Adapter*> adapters_;

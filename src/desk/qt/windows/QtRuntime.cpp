@@ -5,22 +5,34 @@
 #include <QEventLoop>
 #include <QLocale>
 #include <QScreen>
+#include <QTextDocument>
 #include <QThread>
+#include <QToolTip>
 #include <cmath>
 
 #include "desk/firebird/EngineThread.h"
 #include "desk/print/Spooler.h"
 #include "desk/print/TextMeasure.h"
 #include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/Adapter.h"
+#include "desk/qt/adapters/GridWidget.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/windows/DeskArea.h"
 #include "desk/qt/windows/FormPicture.h"
 #include "desk/qt/windows/FormView.h"
+#include "host/controls/GridModel.h"
 #include "host/forms/ScreenForm.h"
 #include "host/services/ISession.h"
 #include "host/values/FlagHold.h"
 
 namespace quillon {
+
+namespace {
+
+constexpr int kRests = 60;  // milliseconds
+constexpr int kCellShownFor = 60'000;
+
+}  // namespace
 
 /// What fills the main window's area, rather than standing before it. A modal window keeps the area from the
 /// user, so what it opens is a window too.
@@ -33,6 +45,9 @@ bool QtRuntime::IsScreen(const Form& form) const {
 QtRuntime::QtRuntime(std::string outputFolder) : printer_(std::move(outputFolder), this) {
   printer_.AskSight = [this](const ReportPages& pages) { return AskSight(pages); };
   Acts::SetAfterwards([this] { Settle(); });
+  selected_.setSingleShot(true);
+  selected_.setInterval(kRests);
+  QObject::connect(&selected_, &QTimer::timeout, [this] { TellSelected(); });
   EngineThread::Start([](bool mayBreak) { return Acts::PaintAndListen(mayBreak); });
 }
 
@@ -93,6 +108,17 @@ void QtRuntime::HideProgress() {
 
 void QtRuntime::Say(const std::string& text) {
   if (OnSaid) OnSaid(text);
+}
+
+void QtRuntime::ShowCell(GridModel& grid, const std::string& text) {
+  FormView* const view = ViewOf(grid.OwnerForm());
+  Adapter* const adapter = view != nullptr ? view->AdapterOf(grid) : nullptr;
+  auto* const shown = adapter != nullptr ? dynamic_cast<GridWidget*>(&adapter->Widget()) : nullptr;
+  if (shown == nullptr) return;
+  // As rich text its lines are broken.
+  const QPoint below = shown->viewport()->mapToGlobal(shown->CellRect(grid.Row, grid.Col).bottomLeft());
+  QToolTip::showText(below, Qt::convertFromPlainText(QString::fromStdString(text)), shown->viewport(), {},
+                     kCellShownFor);
 }
 
 void QtRuntime::ShowWaiting(bool on) {
@@ -197,6 +223,14 @@ void QtRuntime::Settle() {
     if (OnTopChanged) OnTopChanged();
   }
   if (view != nullptr) view->Settle();
+  if (!selected_.isActive()) selected_.start();
+}
+
+void QtRuntime::TellSelected() {
+  const FormPtr top = ActiveForm();
+  const auto* const grid = top ? dynamic_cast<const GridModel*>(top->ActiveControl()) : nullptr;
+  const bool isReady = grid != nullptr && grid->Redraw && !Acts::IsPainting();
+  if (OnSelected) OnSelected(isReady ? grid->SelectedFiguresText() : std::string());
 }
 
 void QtRuntime::PointerChanged(int pointer) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <functional>
 #include <map>
 #include <string>
@@ -38,6 +39,10 @@ class QtRuntime : public Runtime, private PrintObserver {
   /// Called with what was done and is told in passing.
   std::function<void(const std::string& text)> OnSaid;
 
+  /// Called with the sum, count and range of the amounts that are selected, and with an empty text where none
+  /// are.
+  std::function<void(const std::string& text)> OnSelected;
+
   /// Called with the words for how far a job has come, and with none at its end.
   std::function<void(const std::string& text)> OnProgress;
 
@@ -61,6 +66,7 @@ class QtRuntime : public Runtime, private PrintObserver {
   void ShowProgress(const std::string& text, std::int64_t done, std::int64_t whole) override;
   void HideProgress() override;
   void Say(const std::string& text) override;
+  void ShowCell(GridModel& grid, const std::string& text) override;
   void ShowWaiting(bool on) override;
   long TextWidth(const Font& font, const std::string& text) const override;
   std::string ClipboardText() const override;
@@ -109,11 +115,13 @@ class QtRuntime : public Runtime, private PrintObserver {
   void ShowView(Form& form);
   void HideView(Form& form);
   void Settle();
+  void TellSelected();
 
   PdfPrinter printer_;
   DeskArea* area_ = nullptr;
   std::map<const Form*, FormView*> views_;
   std::weak_ptr<Form> top_;
+  QTimer selected_;  // the amounts are summed when the hand rests
   bool waits_ = false;
 };
 
