@@ -12,6 +12,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolButton>
+#include <algorithm>
 #include <filesystem>
 
 #include "desk/firm/FirmFile.h"
@@ -43,6 +44,8 @@ constexpr int kHeight = 760;
 constexpr long kBesideAmounts = 300;
 constexpr int kSaidFor = 8000;  // milliseconds
 constexpr int kLookEvery = 3000;
+
+QString PlaceKey() { return QStringLiteral("place"); }
 
 }  // namespace
 
@@ -123,6 +126,30 @@ DeskWindow::~DeskWindow() {
   runtime_.OnWaiting = {};
   runtime_.OnTopChanged = {};
   runtime_.SetArea(nullptr);
+}
+
+void DeskWindow::RestorePlace() { restoreGeometry(QSettings().value(PlaceKey()).toByteArray()); }
+
+void DeskWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  // Its frame is known when it is on the screen.
+  QMetaObject::invokeMethod(this, &DeskWindow::FitScreen, Qt::QueuedConnection);
+}
+
+/// With its frame the window lies on the screen, also when that is another one than the last time.
+void DeskWindow::FitScreen() {
+  if (isMaximized() || isFullScreen()) return;
+  const QRect room = screen()->availableGeometry();
+  const QSize frame = frameGeometry().size() - size();
+  if (frameGeometry().width() > room.width() || frameGeometry().height() > room.height()) {
+    resize(size().boundedTo(room.size() - frame));
+  }
+  const QRect whole(pos(), size() + frame);
+  const int left =
+      std::clamp(whole.left(), room.left(), std::max(room.left(), room.right() + 1 - whole.width()));
+  const int top =
+      std::clamp(whole.top(), room.top(), std::max(room.top(), room.bottom() + 1 - whole.height()));
+  if (QPoint(left, top) != pos()) move(left, top);
 }
 
 ScreenArea DeskWindow::AreaNow() const {
@@ -421,6 +448,7 @@ void DeskWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   CloseFirm();
+  QSettings().setValue(PlaceKey(), saveGeometry());
   event->accept();
   QApplication::quit();
 }

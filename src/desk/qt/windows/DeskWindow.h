@@ -43,6 +43,9 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   /// In a firm of trial: opens the screen, "acmassdeletion:201", and closes the desk when it is left.
   void CarryOutTrial(const std::string& work);
 
+  /// Before it is shown: place, size and state as they were when a desk was last closed.
+  void RestorePlace();
+
   /// Starts a desk on another firm, which this process cannot open beside the first: called when this desk is
   /// ready to close, and closes afterwards. Without it the firm is opened here.
   std::function<void(const QString& folder, const QString& user, int startYear)> OnOtherFirm;
@@ -50,6 +53,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -94,6 +98,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   bool MayCloseScreens(const std::string& why);
   void ShowPage();
   void TakeArea();
+  void FitScreen();
   void Tell(const QString& text);
   ScreenArea AreaNow() const;
 

@@ -160,6 +160,7 @@ int main(int count, char** words) {
     window.OnTrial = [&](const QString& folder, const QString& user, int year, const QString& work) {
       RunTrial(folder, user, year, arguments.module, work);
     };
+    window.RestorePlace();
     window.show();
     window.activateWindow();
     if (!arguments.folder.isEmpty()) {
