@@ -80,7 +80,6 @@ frmChqLeaves::frmChqLeaves()
       txpParties(picFilter, "txpParties"),
       btnOKCancel2(picFilter, "btnOKCancel2", {0, 1}),
       mmOthers(*this, "mmOthers") {
-  Grid.Look.IsAllowed = true;
   Member("BankCode", BankCode);
   Routine("FillGrid", &frmChqLeaves::FillGrid);
   for (const char* type : {"All", "Pending Only", "Issued Only", "Cancelled Only"}) cmbRType.AddItem(type);

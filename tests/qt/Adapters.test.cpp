@@ -299,6 +299,11 @@ TEST_F(AdaptersTest, AGridIsExtendedSearchedAndSortedInTheWindow) {
   QApplication::processEvents();
   EXPECT_EQ(form_->Grid.Row(), 55);
   EXPECT_TRUE(grid.Body().contains(grid.CellRect(55, 0))) << "in sight, and not behind the box";
+  for (int row = 1; row <= 55; ++row) {
+    const QRect cell = grid.CellRect(row, 0);
+    const bool isCut = cell.top() < grid.Body().top() && cell.bottom() >= grid.Body().top();
+    EXPECT_FALSE(isCut) << "no row is shown in half, not " << row;
+  }
   EXPECT_LT(grid.Body().height(), before);
   Press(*form_, Qt::Key_Escape);
   EXPECT_FALSE(box()->isVisible());

@@ -157,7 +157,8 @@ std::vector<GridModel::Figures> GridModel::SelectedFigures() const {
 }
 
 std::string GridModel::SelectedFiguresText() const {
-  if (!IsBlockSelected()) return {};
+  // Without books there is no one who writes amounts.
+  if (gStd == nullptr || !IsBlockSelected()) return {};
   std::vector<Figures> all;
   try {
     all = SelectedFigures();

@@ -79,7 +79,7 @@ void GridWidget::Settle() {
 
 void GridWidget::Look() {
   if (!OnLook || !model_.Redraw || layout_.Rows().empty() || !isVisible()) return;
-  const int top = verticalScrollBar()->value();
+  const int top = Scrolled();
   const std::size_t last = layout_.Rows().size() - 1;
   const std::size_t from = std::min(layout_.PlaceAt(top), last);
   const std::size_t to = std::min(layout_.PlaceAt(top + Body().height()), last);
@@ -97,18 +97,38 @@ std::string_view GridWidget::Known(int row, int col) const {
 
 void GridWidget::UpdateBars() {
   const QRect body = Body();
-  verticalScrollBar()->setRange(0, std::max(0, layout_.Height() - body.height()));
+  verticalScrollBar()->setRange(0, WholeFrom(std::max(0, layout_.Height() - body.height())));
   verticalScrollBar()->setPageStep(std::max(1, body.height()));
-  verticalScrollBar()->setSingleStep(Scale::Px(model_.RowHeightMin() > 0 ? model_.RowHeightMin() : 330));
+  verticalScrollBar()->setSingleStep(layout_.Rows().empty() ? 1 : layout_.RowHeight(0));
   horizontalScrollBar()->setRange(0, std::max(0, layout_.Width() - body.width()));
   horizontalScrollBar()->setPageStep(std::max(1, body.width()));
   horizontalScrollBar()->setSingleStep(Scale::Px(600));
   TellSight();
 }
 
+/// No row is shown in half, unless so few have room that much of it would stay empty.
+bool GridWidget::IsShownWhole(std::size_t place) const {
+  constexpr int kFewRows = 4;
+  return layout_.RowHeight(place) * kFewRows <= Body().height();
+}
+
+/// The scrolling, as far as the row that begins there.
+int GridWidget::Scrolled() const {
+  const int value = verticalScrollBar()->value();
+  const std::size_t place = layout_.PlaceAt(value);
+  return place < layout_.Rows().size() && IsShownWhole(place) ? layout_.RowTop(place) : value;
+}
+
+/// The same or the beginning of the next row, so that nothing before it is shown in half.
+int GridWidget::WholeFrom(int scrolling) const {
+  const std::size_t place = layout_.PlaceAt(scrolling);
+  const bool begins = place >= layout_.Rows().size() || layout_.RowTop(place) == scrolling;
+  return begins || !IsShownWhole(place) ? scrolling : layout_.RowTop(place + 1);
+}
+
 void GridWidget::TellSight() {
   const QRect body = Body();
-  model_.TellSight({Scale::Twips(horizontalScrollBar()->value()), Scale::Twips(verticalScrollBar()->value()),
+  model_.TellSight({Scale::Twips(horizontalScrollBar()->value()), Scale::Twips(Scrolled()),
                     Scale::Twips(body.width()), Scale::Twips(body.height())});
 }
 
@@ -119,8 +139,8 @@ void GridWidget::ScrollTo(int row, int col) {
   if (place < layout_.Rows().size()) {
     const int top = layout_.RowTop(place);
     const int bottom = top + layout_.RowHeight(place);
-    if (top < down.value()) down.setValue(top);
-    if (bottom > down.value() + body.height()) down.setValue(bottom - body.height());
+    if (top < Scrolled()) down.setValue(top);
+    if (bottom > Scrolled() + body.height()) down.setValue(WholeFrom(bottom - body.height()));
   }
   if (col < 0 || col >= layout_.Cols() || layout_.ColWidth(col) == 0) return;
   QScrollBar& right = *horizontalScrollBar();
@@ -157,7 +177,7 @@ QRect GridWidget::CellRect(int row, int col) const {
   const std::size_t place = layout_.PlaceOf(row);
   if (place >= layout_.Rows().size() || layout_.Rows()[place] != row) return {};
   if (col < 0 || col >= layout_.Cols() || layout_.ColWidth(col) == 0) return {};
-  const int y = Body().top() + layout_.RowTop(place) - verticalScrollBar()->value();
+  const int y = Body().top() + layout_.RowTop(place) - Scrolled();
   return {X(col), y, layout_.ColWidth(col), layout_.RowHeight(place)};
 }
 
@@ -178,7 +198,7 @@ QString GridWidget::CursorText() const {
 GridWidget::CellPlace GridWidget::CellAt(const QPoint& point) const {
   const QRect body = Body();
   if (!body.contains(point)) return {};
-  const std::size_t place = layout_.PlaceAt(point.y() - body.top() + verticalScrollBar()->value());
+  const std::size_t place = layout_.PlaceAt(point.y() - body.top() + Scrolled());
   if (place >= layout_.Rows().size()) return {};
   return {layout_.Rows()[place], ColAt(point.x())};
 }
@@ -291,10 +311,11 @@ void GridWidget::PaintRows(QPainter& painter) const {
   const QRect body = Body();
   painter.save();
   painter.setClipRect(body);
-  const int scrolled = verticalScrollBar()->value();
+  const int scrolled = Scrolled();
   for (std::size_t place = layout_.PlaceAt(scrolled); place < layout_.Rows().size(); ++place) {
     const int top = body.top() + layout_.RowTop(place) - scrolled;
-    if (top > body.bottom()) break;
+    const bool whole = top + layout_.RowHeight(place) <= body.bottom() + 1;
+    if (top > body.bottom() || (!whole && IsShownWhole(place))) break;
     PaintRow(painter, layout_.Rows()[place], {0, top, body.width(), layout_.RowHeight(place)});
   }
   painter.restore();
@@ -339,7 +360,7 @@ void GridWidget::PaintCursor(QPainter& painter) const {
   if (place >= layout_.Rows().size() || layout_.Rows()[place] != model_.Row) return;
   painter.save();
   painter.setClipRect(body);
-  const QRect row(0, body.top() + layout_.RowTop(place) - verticalScrollBar()->value(),
+  const QRect row(0, body.top() + layout_.RowTop(place) - Scrolled(),
                   std::min(body.width(), layout_.Width() - horizontalScrollBar()->value()),
                   layout_.RowHeight(place));
   painter.fillRect(row, Translucent(Theme::Accent(), HasKeys() ? 38 : 18));

@@ -77,6 +77,9 @@ class GridWidget : public QAbstractScrollArea {
   void UpdateBars();
   void Look();
   std::string_view Known(int row, int col) const;
+  bool IsShownWhole(std::size_t place) const;
+  int Scrolled() const;
+  int WholeFrom(int scrolling) const;
   void TellSight();
   void PlaceStrip();
   int TitleLine() const;
