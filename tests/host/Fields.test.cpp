@@ -28,6 +28,7 @@ class frmLetter : public Form {
   ControlArray<Label> Lbl{*this, "Lbl", {0, 2}};
   Frame fraTo{*this, "fraTo"};
   TextBox txtToAc{fraTo, "txtToAc"};
+  CheckBox chkCopy{*this, "chkCopy"};
   CEditGrid Grid{*this, "Grid"};
   CSelGrid SelGrid1{*this, "SelGrid1"};
 
@@ -263,6 +264,18 @@ TEST_F(Fields, AFunctionKeyNeverPressesAButtonThatAPersonCannotPress) {
   EXPECT_EQ(screen->PressedKeys, std::vector<std::string>{"One"});
   Refuses([&] { screen->BtnBar1.UserPress("Two"); }, "BtnBar1 button Two is hidden");
   Refuses([&] { screen->BtnBar1.UserPress("Three"); }, "BtnBar1 button Three is disabled");
+}
+
+TEST_F(Fields, ACheckBoxIsTurnedByTheBlankKey) {
+  int turned = 0;
+  form_->chkCopy.Click = [&turned] { ++turned; };
+  Do([this] { form_->UserFocus(form_->chkCopy); });
+  for (const int value : {1, 0}) {
+    Key(*form_, keys::kSpace);
+    EXPECT_EQ(form_->chkCopy.CheckValue, value);
+  }
+  Key(*form_, keys::kSpace, keys::kCtrl);
+  EXPECT_EQ(turned, 2);
 }
 
 TEST_F(Fields, HelpIsTheFormsOwnAffair) {

@@ -221,6 +221,8 @@ void GoBackOn(const fs::path& folder, const FirebirdAddress& server) {
   add(2);
   EXPECT_EQ(GoingBack(*mine, run, "Meera").Since(),
             std::vector<std::string>{"2024-25: 1 row added to FAMASTER"});
+  const std::unique_ptr<Firm> idle = Firm::Open(folder);
+  EXPECT_EQ(idle->OpenYear(2024).Db->Lookup("FAMaster", "count(*)", "").ToInteger(), 2);
   GoingBack(*mine, run, "Meera").Do(0);
   EXPECT_THROW(add(3), HostError) << "who is thrown out stores nothing more";
   const std::unique_ptr<Firm> again = Firm::Open(folder);

@@ -119,6 +119,12 @@ TEST_F(Statement, AnEditedDateReachesTheBooksTheEntriesAndTheStatementOfAccount)
   // Headings, balances and other columns are not edited.
   for (const int row : {1, 2, 4, 7}) EXPECT_FALSE(EditCell(View(), row, kClearedOn, "5")) << row;
   EXPECT_FALSE(EditCell(View(), 5, 3, "x"));
+  // Left by its button in the middle of an edit, what was typed goes and the view stays.
+  TypeInCell(View(), 5, kClearedOn, "7");
+  Do([this] { Bar().UserPress("Exit"); });
+  EXPECT_FALSE(View().EditMode());
+  EXPECT_TRUE(View().Visible);
+  EXPECT_EQ(Stored(3, 7), "");
   // Back among the entries the totals count what was marked here.
   Key(*bench_, keys::kEscape);
   EXPECT_TRUE(EditCell(Entries(), 1, kCleared, "12"));

@@ -156,6 +156,12 @@ void FirebirdAttachment::Delete(const FirebirdAddress& address) noexcept {
   if (!address.IsServer()) fs::remove(address.Database, ignored);
 }
 
+void FirebirdAttachment::Cut() noexcept {
+  if (!address_.IsServer()) return;
+  Firebird::CheckStatusWrapper status = SilentStatus();
+  attachment_->cancelOperation(&status, fb_cancel_abort);
+}
+
 FirebirdAttachment::~FirebirdAttachment() {
   if (attachment_ == nullptr) return;
   const EngineWatch::Call call(address_, attachment_);

@@ -41,6 +41,9 @@ class FirebirdAttachment {
   FirebirdAttachment& operator=(const FirebirdAttachment&) = delete;
   ~FirebirdAttachment();
 
+  /// Cuts the line to a server: a client that was thrown out and then takes its leave may never be answered.
+  void Cut() noexcept;
+
   Firebird::IAttachment* operator->() const { return attachment_; }
   Firebird::IAttachment* Handle() const { return attachment_; }
 

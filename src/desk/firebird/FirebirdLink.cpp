@@ -108,7 +108,10 @@ void FirebirdLink::Tell(const std::string& sql, std::int64_t rows, const std::st
 }
 
 void FirebirdLink::NoteFailure(const std::string& sql, const DbError& error) {
-  if (error.Why() == DbError::Reason::kLost) Drop();
+  if (error.Why() == DbError::Reason::kLost) {
+    if (attachment_) attachment_->Cut();
+    Drop();
+  }
   Tell(sql, 0, error.what());
 }
 
