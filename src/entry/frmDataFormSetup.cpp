@@ -251,6 +251,7 @@ void frmDataFormSetup::MoveRow(int by) {
   const int to = from + by;
   if (from < 1 || to < 1 || to >= Grid.Rows || !Grid.EndEdit()) return;
   std::vector<std::string> cells;
+  cells.reserve(static_cast<std::size_t>(Grid.Cols));
   for (int column = 0; column < Grid.Cols; ++column) cells.push_back(Grid.TextMatrix(from, column));
   Grid.RemoveItem(from);
   Grid.AddItem(text::Join(cells, "\t"), to < Grid.Rows ? to : kNoIndex);

@@ -18,7 +18,7 @@ class DataForms : public DeskTest {
   }
 
   /// What a person does in the setup of a form.
-  void Setup(const std::string& type, const std::string& name, const std::function<void()>& act) {
+  void InSetup(const std::string& type, const std::string& name, const std::function<void()>& act) {
     form_ = gSession->Modules().Item("DutyworksModule")->GetForm("dataformsetup");
     During([&] { gStd->ShowDialog(form_, nullptr); }, {[&] {
              At<ComboBox>(form_, "cmbFormType").UserChoose(type);
@@ -55,7 +55,7 @@ class DataForms : public DeskTest {
 };
 
 TEST_F(DataForms, AFormIsDefinedChangedAndDeleted) {
-  Setup("Sale", "SL2", [&] {
+  InSetup("Sale", "SL2", [&] {
     At<TextBox>(form_, "txtFormTitle").UserType("Counter");
     EXPECT_FALSE(Grid().UserEnterCell(1, 0));
     EXPECT_FALSE(Grid().UserEnterCell(2, 1)) << "rows are filled one after the other";
@@ -87,7 +87,7 @@ TEST_F(DataForms, AFormIsDefinedChangedAndDeleted) {
             (Texts{"DATE|Date|0||1|10|0|0||", "PARTY|Party|0||2|25|0|0||", "NAR1|Narration|0||3|20|0|0||",
                    "AMOUNT|Amount|-1|D|4|10|2|-1||", "COL-1|Freight out|-1|C|5|10|2|-1|301|"}))
       << "an account without a width is left out";
-  Setup("Sale", "SL2", [&] {
+  InSetup("Sale", "SL2", [&] {
     EXPECT_EQ(At<TextBox>(form_, "txtFormTitle").Text(), "Counter");
     EXPECT_EQ(RowText(Grid(), 1, {0, 1, 2, 3, 4}), "COL-1|Freight|Freight out|10|301");
     PickHead(2, "Cash");
@@ -104,11 +104,11 @@ TEST_F(DataForms, AFormIsDefinedChangedAndDeleted) {
   AnswerMessage(2);
   AnswerMessage();
   const auto deleted = [&] { At<CButton>(form_, "Command1", 3).UserClick(); };
-  Setup("Sale", "SL2", deleted);
+  InSetup("Sale", "SL2", deleted);
   Db().Execute("delete from FAData");
-  Setup("Sale", "SL2", deleted);
+  InSetup("Sale", "SL2", deleted);
   EXPECT_EQ(Columns("SL2").size(), 6U);
-  Setup("Sale", "SL2", [&] {
+  InSetup("Sale", "SL2", [&] {
     Grid().UserMoveTo(1, 1);
     Key(*form_, keys::kF3);
     EXPECT_EQ(RowTexts(Grid(), {0, 1})[0] + " " + RowTexts(Grid(), {0, 1})[9], "COL-1|Freight COL-10|");
@@ -124,20 +124,20 @@ TEST_F(DataForms, AFormIsDefinedChangedAndDeleted) {
 
 TEST_F(DataForms, EachKindStoresItsFixedColumns) {
   AnswerMessage();
-  Setup("Cash Payments", "PC1", [&] { Key(*form_, keys::kF7); });
+  InSetup("Cash Payments", "PC1", [&] { Key(*form_, keys::kF7); });
   EXPECT_EQ(Told(), Texts{"W: Cash Column not specified, can't save Form without Cash Column"});
   EXPECT_TRUE(Changes().empty());
-  Setup("Cash Purchase", "CP9", [&] { Key(*form_, keys::kF7); });
+  InSetup("Cash Purchase", "CP9", [&] { Key(*form_, keys::kF7); });
   EXPECT_EQ(Columns("CP9"), (Texts{"DATE|Date|0||1|10|0|0||", "NAR1|Narration|0||3|20|0|0||-1",
                                    "AMOUNT|Amount|-1|C|4|10|2|-1|1|"}));
   EXPECT_EQ(Db().Lookup("EntryForms", "BookCode", "FormName='CP9'").ToText(), "C");
-  Setup("Journal (Cr.)", "JC1", [&] {
+  InSetup("Journal (Cr.)", "JC1", [&] {
     PickHead(1, "Cash");
     EditCell(Grid(), 1, 3, "9");
     Key(*form_, keys::kF7);
   });
   EXPECT_EQ(Columns("JC1").back(), "COL-1||-1|D|5|9|2|-1|1|");
-  Setup("Journal (Cr.)", "JC1", [&] {
+  InSetup("Journal (Cr.)", "JC1", [&] {
     At<TextBox>(form_, "txtFormTitle").UserType("Ravi's");
     Key(*form_, keys::kF7);
     EXPECT_TRUE(form_->IsLoaded());

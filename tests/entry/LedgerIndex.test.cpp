@@ -19,7 +19,7 @@ class LedgerIndex : public DeskTest {
   }
 
   FormPtr Show(bool withOpening, bool stock = false) {
-    const FormPtr form = gSession->Modules().Item("DutyworksModule")->GetForm("ledgerindex");
+    FormPtr form = gSession->Modules().Item("DutyworksModule")->GetForm("ledgerindex");
     form->Set("TblName", "Pages");
     form->Set("Title", "  Ledger of Sharda ");
     form->Set("Title1", "Year 2024");

@@ -3,6 +3,7 @@
 #include "desk/firebird/BooksDigest.h"
 #include "desk/firebird/EngineTools.h"
 #include "desk/firm/BulkTurn.h"
+#include "desk/safety/CopiedFirm.h"
 #include "desk/safety/GoingBack.h"
 #include "tests/maintenance/BulkTest.h"
 #include "tests/support/FirebirdServer.h"
@@ -156,6 +157,66 @@ TEST_F(BulkNet, OnlyTheLastCopiesAreKept) {
   EXPECT_TRUE(fs::exists(Copy("2-2024.fbk")));
   EXPECT_EQ(Rows("select RunNo,Gone from BookCopies order by RunNo", Common()), (Texts{"1|1", "2|0"}));
   Told();
+}
+
+TEST_F(BulkNet, ACopyIsLookedAtBesideTheBooks) {
+  const BooksDigest before = BooksDigest::Of(Year());
+  DeleteCash({1, 1, 1});
+  Messages();
+  fs::path shown;
+  desk_.Session().ShowCopy = [&shown](const std::string& folder) { shown = folder; };
+  const FormPtr journal = gApp->GetForm("BulkRuns");
+  const auto look = [&] {
+    Do([&] { gApp->ShowForm(journal); });
+    Key(*journal, keys::kF5);
+  };
+  look();
+  ASSERT_FALSE(shown.empty());
+  const FirmFile copied = FirmFile::Read(shown);
+  EXPECT_EQ(copied.Name.substr(0, 8), "COPY of ");
+  {
+    const CopiedFirm::Visit visit(shown);
+    const FirebirdAddress year = copied.Years.at(2024).Database;
+    EXPECT_EQ(BooksDigest::Of(year), before);
+    try {
+      FirebirdLink::Open(year, "")->Execute("update FAMaster set mst='Goa'");
+      ADD_FAILURE() << "a copy takes no change";
+    } catch (const DbError& error) {
+      EXPECT_EQ(std::string(error.what()),
+                "These books are a copy to look at: nothing can be stored in them.");
+    }
+    look();
+    EXPECT_EQ(Told(), Texts{"W: The copy of No. 1 is open already."});
+    CopiedFirm::RemoveLeft(desk_.Session().Books());
+    EXPECT_TRUE(fs::exists(year.Database));
+  }
+  EXPECT_FALSE(fs::exists(shown));
+}
+
+TEST_F(BulkNet, WhatKilledProgramsLeftIsRemovedByTheNextRun) {
+  const fs::path firm = folder_.Path() / "firm";
+  const std::vector<fs::path> left{firm / "2024-run7.fdb", firm / "2024-run7-2.fdb",
+                                   firm / "copies/7-2024.part", firm / "copies/7-2024.scratch.fdb",
+                                   firm / "copies/trial-7/common.fdb"};
+  fs::create_directories(firm / "copies/trial-7");
+  for (const fs::path& file : left) std::ofstream(file) << "half";
+  DeleteCash({1, 1, 1});
+  GoBack(1);
+  for (const fs::path& file : left) EXPECT_FALSE(fs::exists(file)) << file;
+  const std::string place = Year().Database;
+  DeleteCash({1, 1, 1});
+  EXPECT_TRUE(fs::exists(place)) << "where the year lies now";
+  EXPECT_TRUE(fs::exists(firm / "2024.fdb")) << "what the going back left";
+  GoBack(3);
+  EXPECT_EQ(Rows("select count(*) from FAData where VoucherID<3"), Texts{"5"});
+}
+
+TEST_F(BulkNet, ACopyOfAnOlderVersionIsBroughtUp) {
+  Db().Execute("drop table LedgerPages");
+  Db().Execute("update SchemaVersion set Version=3");
+  DeleteCash({1, 1, 1});
+  GoBack(1);
+  EXPECT_TRUE(Db().TableExists("LEDGERPAGES"));
 }
 
 TEST_F(BulkNet, OneAtATimeAndTheDeadAreReleased) {

@@ -108,6 +108,7 @@ BooksDigest BooksDigest::Of(const FirebirdAddress& database) {
       const bool hasKey =
           std::any_of(columns.begin(), columns.end(), [](const Column& c) { return c.IsKey; });
       std::vector<std::string> names;
+      names.reserve(columns.size());
       for (const Column& column : columns) names.push_back(Quoted(column.Name));
       Rows& rows = digest.tables_[table.first];
       reader.Each("select " + text::Join(names, ",") + " from " + Quoted(table.first),

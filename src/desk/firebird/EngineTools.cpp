@@ -117,4 +117,10 @@ void EngineTools::BringOnline(const FirebirdAddress& database) {
   Run(database, {"gfix", "-online", "normal", NameOf(database)});
 }
 
+void EngineTools::MakeReadOnly(const FirebirdAddress& database) {
+  // Whoever opens it would have its pages written at once, which could not be set any more.
+  Run(database, {"gfix", "-write", "sync", NameOf(database)});
+  Run(database, {"gfix", "-mode", "read_only", NameOf(database)});
+}
+
 }  // namespace quillon

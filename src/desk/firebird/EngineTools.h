@@ -21,6 +21,9 @@ class EngineTools {
   /// Throws everybody out of the database and lets nobody in until BringOnline.
   static void ShutDown(const FirebirdAddress& database);
   static void BringOnline(const FirebirdAddress& database);
+
+  /// From now on nothing can be stored in it. Nobody may have it open.
+  static void MakeReadOnly(const FirebirdAddress& database);
 };
 
 }  // namespace quillon

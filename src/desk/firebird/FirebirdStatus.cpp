@@ -32,6 +32,7 @@ struct Meaning {
 };
 
 constexpr const char* kTaken = "Another user is changing the same record just now.";
+constexpr const char* kToLookAt = "These books are a copy to look at: nothing can be stored in them.";
 constexpr const char* kLost = "The database cannot be reached. Try again in a while.";
 constexpr const char* kTwice = "There is a record with this key already.";
 constexpr const char* kDamaged = "The database is damaged.";
@@ -54,6 +55,7 @@ constexpr Meaning kMeanings[] = {
     {isc_arith_except, Reason::kOther, "A calculation in the database failed."},
     {isc_convert_error, Reason::kOther, "A value is of another kind than its place in the books."},
     {isc_cancelled, Reason::kOther, "The work was broken off."},
+    {isc_read_only_database, Reason::kOther, kToLookAt},
     {isc_att_shutdown, Reason::kLost, kLost},
     {isc_net_server_shutdown, Reason::kLost, kLost},
     {isc_network_error, Reason::kLost, kLost},

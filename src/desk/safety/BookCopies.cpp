@@ -1,9 +1,13 @@
 #include "desk/safety/BookCopies.h"
 
+#include <regex>
+#include <set>
+
 #include "books/SqlText.h"
 #include "desk/firebird/BooksDigest.h"
 #include "desk/firebird/EngineTools.h"
 #include "desk/firm/BulkTurn.h"
+#include "desk/firm/SchemaUpgrade.h"
 #include "desk/firm/YearPlaces.h"
 #include "host/data/CDataSet.h"
 #include "host/services/FinYear.h"
@@ -128,6 +132,10 @@ void BookCopies::Restore(const BookCopy& copy, const FirebirdAddress& into) cons
     throw HostError("The copy of the year " + YearName(copy.StartYear) +
                     " has not the rows that were copied");
   }
+  FirmFile file;
+  file.Common = common_.Address();
+  file.Years[copy.StartYear].Database = into;
+  SchemaUpgrade(firm_.Folder(), file, AllSchemaSteps()).RaiseAll();
 }
 
 std::vector<BookCopy> BookCopies::Read(const std::string& condition) const {
@@ -165,6 +173,22 @@ void BookCopies::Drop(int run) {
     std::error_code ignored;
     fs::remove(Before(run, copy.StartYear), ignored);
     fs::remove(After(run, copy.StartYear), ignored);
+  }
+}
+
+/// In a folder that other firms may share nothing tells whose a database is.
+void BookCopies::RemoveLeft() const {
+  static const std::regex kHalf(".*\\.(part|scratch\\.fdb)");
+  static const std::regex kRestored("[0-9]{4}-run[0-9]+(-[0-9]+)?\\.fdb");
+  std::set<std::string> used;
+  for (const BookCopy& copy : All()) used.insert(copy.FileName);
+  for (const int year : firm_.Years()) used.insert(YearPlaces::NameOf(firm_.PlaceOfYear(year).Database));
+  std::error_code ignored;
+  for (const auto& [folder, left] : {std::pair(folder_, kHalf), std::pair(firm_.Folder(), kRestored)}) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
+      const std::string name = entry.path().filename().string();
+      if (std::regex_match(name, left) && !used.contains(name)) fs::remove(entry.path(), ignored);
+    }
   }
 }
 

@@ -39,7 +39,8 @@ class BookCopies {
   /// Records a database that stays beside the year's as the copy of what was there.
   void Record(const BookCopy& copy);
 
-  /// Makes a database of a copy and proves that it has the very rows. Throws HostError.
+  /// Makes a database of a copy, proves that it has the very rows, and brings one of an older version of this
+  /// program up. Throws HostError.
   void Restore(const BookCopy& copy, const FirebirdAddress& into) const;
 
   std::vector<BookCopy> Of(int run) const;
@@ -50,6 +51,9 @@ class BookCopies {
 
   /// Drops the oldest beyond the limits, but never those of the last run and of runs that have not ended.
   void DropBeyond(const CopyLimits& limits);
+
+  /// Removes files that programs which were killed have left half made. Needs the firm's turn for bulk work.
+  void RemoveLeft() const;
 
   /// Where it is noted what the rows of a year were before and after a run.
   std::filesystem::path Before(int run, int startYear) const;

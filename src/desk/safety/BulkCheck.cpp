@@ -43,6 +43,7 @@ std::string Listed(const std::vector<std::string>& names) {
 
 std::string Listed(const std::set<std::int64_t>& numbers) {
   std::vector<std::string> names;
+  names.reserve(numbers.size());
   for (const std::int64_t number : numbers) names.push_back(std::to_string(number));
   return Listed(names);
 }

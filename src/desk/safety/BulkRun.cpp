@@ -1,5 +1,6 @@
 #include "desk/safety/BulkRun.h"
 
+#include "desk/safety/CopiedFirm.h"
 #include "desk/services/DeskSession.h"
 #include "desk/services/Settings.h"
 #include "host/forms/BusyJob.h"
@@ -30,6 +31,14 @@ CopyLimits LimitsOf(DeskSession& session) {
   return limits;
 }
 
+/// How much there is to copy, where that can be seen from here.
+std::string SizeOf(DeskSession& session, int year) {
+  const FirebirdAddress& place = session.Books().PlaceOfYear(year).Database;
+  std::error_code unseen;
+  const std::uintmax_t bytes = std::filesystem::file_size(place.Database, unseen);
+  return unseen ? "" : ", " + std::to_string((bytes >> 20U) + 1) + " MB";
+}
+
 }  // namespace
 
 BulkRun::BulkRun(DeskSession& session, BulkEntry work, std::vector<int> years)
@@ -39,7 +48,10 @@ BulkRun::BulkRun(DeskSession& session, BulkEntry work, std::vector<int> years)
       journal_(session.CommonDb()),
       work_(WithUser(std::move(work), session.CurrentUser().Name)),
       years_(std::move(years)),
-      number_(journal_.Begin(work_)) {}
+      number_(journal_.Begin(work_)) {
+  copies_.RemoveLeft();
+  CopiedFirm::RemoveLeft(session_.Books());
+}
 
 BulkRun::~BulkRun() {
   for (const int year : years_) session_.Books().OpenYear(year).Db->BeforeFirstStore = nullptr;
@@ -47,9 +59,12 @@ BulkRun::~BulkRun() {
 
 void BulkRun::Copy() {
   try {
-    for (const int year : years_) {
-      const BusyJob busy("Copying the year " + YearName(year) + " …");
-      copies_.Make(number_, year);
+    for (std::size_t i = 0; i < years_.size(); ++i) {
+      const std::string place =
+          years_.size() > 1 ? ", " + std::to_string(i + 1) + " of " + std::to_string(years_.size()) : "";
+      const BusyJob busy("Copying the year " + YearName(years_[i]) + place + SizeOf(session_, years_[i]) +
+                         " …");
+      copies_.Make(number_, years_[i]);
     }
   } catch (const HostError&) {
     copies_.Drop(number_);

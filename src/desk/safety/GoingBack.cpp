@@ -71,6 +71,7 @@ std::vector<std::string> GoingBack::Since() const {
 
 void GoingBack::Do(int patience) {
   const BulkTurn turn(*firm_.Common(), user_, "Going back to before " + entry_.Words(), true);
+  copies_.RemoveLeft();
   try {
     RestoreAll();
     Empty(patience);

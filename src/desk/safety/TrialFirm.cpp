@@ -1,13 +1,11 @@
 #include "desk/safety/TrialFirm.h"
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <set>
 
 #include "books/SqlText.h"
 #include "desk/firebird/BooksDigest.h"
-#include "desk/firebird/EngineTools.h"
 #include "desk/services/Settings.h"
 #include "host/data/CDataSet.h"
 #include "host/services/FinYear.h"
@@ -21,7 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kMark = "trial";
 constexpr std::size_t kMostRows = 5000;  // that are told by their columns
 
 std::string WordOf(const std::string& table) {
@@ -126,66 +123,17 @@ void CompareBalances(FirebirdLink& before, FirebirdLink& after, const std::strin
 
 }  // namespace
 
-TrialFirm::TrialFirm(Firm& firm, int run)
-    : firm_(firm),
-      folder_(firm.Folder() / "copies" / ("trial-" + std::to_string(run))),
-      copies_(BookCopies(firm).Of(run)) {
-  try {
-    Make(run);
-  } catch (const fs::filesystem_error& error) {
-    fs::remove_all(folder_);
-    throw HostError(error.what());
-  } catch (...) {
-    fs::remove_all(folder_);
-    throw;
-  }
-}
-
 TrialFirm::~TrialFirm() {
   std::error_code ignored;
-  fs::remove_all(folder_, ignored);
-}
-
-bool TrialFirm::IsIn(const fs::path& folder) { return fs::exists(folder / kMark); }
-
-FirebirdAddress TrialFirm::Place(const std::string& name) const {
-  FirebirdAddress place{(folder_ / name).string(), "", "", false};
-  firm_.LetEngineName(place);
-  return place;
-}
-
-/// Its name says what it is wherever a firm's name stands, on pages too.
-void TrialFirm::Make(int run) {
-  fs::remove_all(folder_);
-  fs::create_directories(folder_);
-  FirmFile file;
-  file.Name = "TRIAL - " + firm_.Name();
-  for (const BookCopy& copy : copies_) {
-    const FirmFile::Year& year = firm_.PlaceOfYear(copy.StartYear);
-    const FirebirdAddress place = Place(std::to_string(copy.StartYear) + ".fdb");
-    BookCopies(firm_).Restore(copy, place);
-    file.Years[copy.StartYear] = {place, year.StartDate, year.EndDate};
-  }
-  const fs::path common = folder_ / "common.fbk";
-  EngineTools::Copy(firm_.Common()->Address(), common);
-  file.Common = Place("common.fdb");
-  EngineTools::Restore(common, file.Common);
-  fs::remove(common);
-  const auto link = FirebirdLink::Open(file.Common, "");
-  for (const char* table : {"BulkTurn", "YearPlaces", "BulkRuns", "BookCopies"}) {
-    link->Execute("delete from " + std::string(table));
-  }
-  link->Execute("update Firm set FirmName=" + books::SqlString(text::Left(file.Name, 80)));
-  std::ofstream(folder_ / kMark) << run << "\n";
-  file.Write(folder_);
+  fs::remove_all(Folder(), ignored);
 }
 
 std::vector<TrialLine> TrialFirm::Compare() const {
   std::vector<TrialLine> lines;
   std::vector<TrialLine> rows;
-  for (const BookCopy& copy : copies_) {
+  for (const BookCopy& copy : tried_.Copies()) {
     const std::string year = YearName(copy.StartYear);
-    const FirebirdAddress tried = Place(std::to_string(copy.StartYear) + ".fdb");
+    const FirebirdAddress tried = tried_.Place(std::to_string(copy.StartYear) + ".fdb");
     const BooksDigest before = BooksDigest::Read(BookCopies(firm_).Before(copy.Run, copy.StartYear));
     const std::vector<RowChange> changes = before.ChangesTo(BooksDigest::Of(tried));
     if (changes.empty()) continue;
@@ -205,7 +153,7 @@ std::vector<TrialLine> TrialFirm::Compare() const {
 }
 
 std::string TrialFirm::Setting(const std::string& key) const {
-  return Settings(*FirebirdLink::Open(Place("common.fdb"), ""), "").OfFirm(key);
+  return Settings(*FirebirdLink::Open(tried_.Place("common.fdb"), ""), "").OfFirm(key);
 }
 
 }  // namespace quillon

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
-#include "desk/safety/BookCopies.h"
+#include "desk/safety/CopiedFirm.h"
 
 namespace quillon {
 
@@ -17,20 +16,16 @@ struct TrialLine {
   std::string After;
 };
 
-/// A firm of its own, made of the copies of a run and of a copy of the common database: what is tried there
-/// changes nothing in the firm itself. Its folder goes with it.
+/// A copied firm in which work is tried, and what it changed there. Its folder goes with it.
 class TrialFirm {
  public:
   /// Throws HostError in plain words.
-  TrialFirm(Firm& firm, int run);
+  TrialFirm(Firm& firm, int run) : firm_(firm), tried_(firm, run, CopiedFirm::Use::kTrial) {}
   TrialFirm(const TrialFirm&) = delete;
   TrialFirm& operator=(const TrialFirm&) = delete;
   ~TrialFirm();
 
-  const std::filesystem::path& Folder() const { return folder_; }
-
-  /// Whether the firm in a folder is one of trial.
-  static bool IsIn(const std::filesystem::path& folder);
+  const std::filesystem::path& Folder() const { return tried_.Folder(); }
 
   /// Compares its years with the copies, when whoever tried something has left them.
   std::vector<TrialLine> Compare() const;
@@ -39,12 +34,8 @@ class TrialFirm {
   std::string Setting(const std::string& key) const;
 
  private:
-  FirebirdAddress Place(const std::string& name) const;
-  void Make(int run);
-
   Firm& firm_;
-  std::filesystem::path folder_;
-  std::vector<BookCopy> copies_;
+  CopiedFirm tried_;
 };
 
 }  // namespace quillon

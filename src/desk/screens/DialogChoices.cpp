@@ -30,6 +30,7 @@ std::string AllRows(const GridModel& grid) {
   std::vector<std::string> rows;
   for (int row = grid.FixedRows; row < grid.Rows; ++row) {
     std::vector<std::string> cells;
+    cells.reserve(static_cast<std::size_t>(grid.Cols));
     for (int col = 0; col < grid.Cols; ++col) cells.emplace_back(grid.Cell(row, col));
     rows.push_back(text::Join(cells, kNext));
   }
@@ -124,10 +125,11 @@ void DialogChoices::Put(Form& form, const std::string& text) {
   if (texts.size() != form.Controls().size()) return;
   for (const bool lists : {false, true}) {
     std::size_t at = 0;
-    for (Control* control : form.Controls()) {
+    for (Control* const each : form.Controls()) {
+      Control& control = *each;
       const std::string& value = texts[at++];
-      const bool isList = dynamic_cast<ListBox*>(control) != nullptr;
-      if (isList == lists && !value.empty()) PutText(*control, value);
+      const bool isList = dynamic_cast<ListBox*>(&control) != nullptr;
+      if (isList == lists && !value.empty()) PutText(control, value);
     }
   }
 }

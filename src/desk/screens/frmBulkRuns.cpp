@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "desk/firm/BulkTurn.h"
-#include "desk/safety/BookCopies.h"
+#include "desk/safety/CopiedFirm.h"
 #include "desk/safety/GoingBack.h"
 #include "desk/services/DeskSession.h"
 #include "host/forms/BusyJob.h"
@@ -22,7 +22,7 @@ constexpr ScreenSpec kScreen = {
     .rightKey = "bulk.journal",
     .registerTitle = "Bulk Work",
     .iconKey = "List",
-    .firstKey = keys::kF6,
+    .firstKey = keys::kF5,
     .lastKey = keys::kF9,
 };
 
@@ -44,8 +44,9 @@ constexpr int kCount = 7;
 frmBulkRuns::frmBulkRuns() : ListScreen(kScreen, Origin::Desk) {}
 
 void frmBulkRuns::BuildBar() {
-  BtnBar1.AddButtons({"Open,F6: What it did,Open", "GoBack,F7: Go Back,LeftArrow",
-                      "Preview,F8: Preview,Preview", "Print,F9: Print,Print", "Exit,Esc: Exit,Close"});
+  BtnBar1.AddButtons({"Copy,F5: Open Copy,Search", "Open,F6: What it did,Open",
+                      "GoBack,F7: Go Back,LeftArrow", "Preview,F8: Preview,Preview", "Print,F9: Print,Print",
+                      "Exit,Esc: Exit,Close"});
 }
 
 void frmBulkRuns::LoadScreen() { PlaceGrid(ContentTop()); }
@@ -97,7 +98,9 @@ void frmBulkRuns::FillGrid() {
 void frmBulkRuns::Pressed(const std::string& key) {
   const auto run = static_cast<int>(ValInteger(Grid.Cell(Grid.Row, col::kRun)));
   if (run == 0) return;
-  if (key == "Open") {
+  if (key == "Copy") {
+    LookAtCopy(run);
+  } else if (key == "Open") {
     OpenRow(Grid.Row);
   } else if (key == "GoBack") {
     GoBack(run);
@@ -115,6 +118,19 @@ void frmBulkRuns::OpenRow(int row) {
                    (entry.EndedAt.empty() ? "" : "\n" + entry.Outcome + ", " + SpokenTime(entry.EndedAt)) +
                    part("What was filled in:", entry.Choices) + part("What it told:", entry.Told),
                "", "I");
+}
+
+/// In a desk beside this one, so that both can be compared.
+void frmBulkRuns::LookAtCopy(int run) const {
+  DeskSession& session = DeskSession::Current();
+  try {
+    if (!session.ShowCopy) throw HostError("A copy opens in a window of its own, which this program has not");
+    const BusyJob busy("Making a firm of the copy …");
+    const CopiedFirm firm(session.Books(), run, CopiedFirm::Use::kLook);
+    session.ShowCopy(firm.Folder().string());
+  } catch (const HostError& error) {
+    gStd->MsgBox(std::string(error.what()) + ".", "", "W");
+  }
 }
 
 /// Whoever takes the firm back loses what came after too, so that he is told first what that is.

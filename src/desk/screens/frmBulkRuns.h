@@ -22,6 +22,7 @@ class frmBulkRuns : public ListScreen {
  private:
   void FillGrid();
   std::string CopyOf(int run) const;
+  void LookAtCopy(int run) const;
   void GoBack(int run);
 };
 

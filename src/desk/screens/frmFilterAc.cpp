@@ -81,7 +81,7 @@ std::string frmFilterAc::GroupCondition() const {
 void frmFilterAc::FillAccounts() {
   std::vector<std::string> heads;
   codes_.clear();
-  const std::string group = GroupCondition();
+  std::string group = GroupCondition();
   CDataSet accounts;
   for (accounts.Open("Select b.mhd,b.mst,b.mcd from FAMaster b" + (group.empty() ? "" : " where " + group) +
                          " order by b.mhd,b.mst",
@@ -108,7 +108,7 @@ std::string frmFilterAc::Condition() const {
   for (int item = 0; item < lstAccounts.ListCount(); ++item) {
     (lstAccounts.Selected(item) ? ticked : others).push_back(codes_.at(static_cast<std::size_t>(item)));
   }
-  const std::string group = GroupCondition();
+  std::string group = GroupCondition();
   if (others.empty()) return group;
   if (ticked.size() <= others.size()) return CodesCondition(ticked, true);
   return (group.empty() ? "" : group + " and ") + CodesCondition(others, false);

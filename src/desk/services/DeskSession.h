@@ -59,6 +59,10 @@ class DeskSession : public ISession {
   /// Whether the user is asked if he wants one.
   bool AsksAboutTrial = true;
 
+  /// Opens a desk of its own on a copied firm, which goes with it. Without it copies are not looked at.
+  /// Throws HostError.
+  std::function<void(const std::string& folder)> ShowCopy;
+
   /// The firm is to be taken back to before a run of the journal, as soon as the event at hand has ended.
   std::function<void(int run)> OnGoBack;
 

@@ -37,6 +37,7 @@ void Desk::OpenFirm(const std::string& folder, const std::string& user, int star
   session_->SetArea(options_.Area);
   session_->CopiesBulkWork = options_.CopiesBulkWork;
   session_->RunTrial = RunTrial;
+  session_->ShowCopy = ShowCopy;
   session_->OnGoBack = [this](int run) {
     if (OnGoBack) OnGoBack(run);
   };

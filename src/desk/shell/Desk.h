@@ -49,6 +49,7 @@ class Desk {
 
   /// See DeskSession.
   std::function<void(const std::string& folder, const std::string& form, std::int64_t account)> RunTrial;
+  std::function<void(const std::string& folder)> ShowCopy;
 
   /// Ends the module's forms and the desk's own, then the session.
   void CloseFirm();

@@ -26,7 +26,7 @@ GridModel::Rectangle GridModel::Selection() const {
 }
 
 bool GridModel::TakesWholeRows() const {
-  return selectsAll_ || SelectionMode == 1 || (Col == ColSel && Col < Cols && !IsColVisible(Col));
+  return selectsAll_ || SelectionMode == 1 || (Col() == ColSel() && Col < Cols && !IsColVisible(Col));
 }
 
 std::vector<int> GridModel::SelectedRows() const {

@@ -106,6 +106,10 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
     OnTrial(QString::fromStdString(folder), QString::fromStdString(session.UserToOpenWith()),
             session.Year().StartYear(), QString::fromStdString(form + ":" + std::to_string(account)));
   };
+  desk_->ShowCopy = [this](const std::string& folder) {
+    if (!OnCopy) throw HostError("This desk cannot start another one");
+    OnCopy(QString::fromStdString(folder), QString::fromStdString(desk_->Session().UserToOpenWith()));
+  };
   auto* const look = new QTimer(this);
   connect(look, &QTimer::timeout, this, &DeskWindow::LeaveWhereAsked);
   look->start(kLookEvery);
@@ -186,9 +190,12 @@ QString DeskWindow::OpenFirm(const QString& folder, const QString& user, int sta
   return fault;
 }
 
-void DeskWindow::CarryOutTrial(const std::string& work) {
-  // Nobody shall take it for the firm itself.
+void DeskWindow::MarkAsCopy() {
   setStyleSheet(QStringLiteral("QStatusBar, QStatusBar * { background: #9a3412; color: white; }"));
+}
+
+void DeskWindow::CarryOutTrial(const std::string& work) {
+  MarkAsCopy();
   desk_->Session().CopiesBulkWork = false;
   const std::size_t colon = work.find(':');
   Acts::Run([&] { quillon::CarryOutTrial(work.substr(0, colon), ValInteger(work.substr(colon + 1))); });

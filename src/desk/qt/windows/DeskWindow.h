@@ -40,6 +40,12 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   /// HostError.
   std::function<void(const QString& folder, const QString& user, int startYear, const QString& work)> OnTrial;
 
+  /// Starts a desk of its own to look at a copied firm. Throws HostError.
+  std::function<void(const QString& folder, const QString& user)> OnCopy;
+
+  /// Nobody shall take what is open in this desk for the firm itself.
+  void MarkAsCopy();
+
   /// In a firm of trial: opens the screen, "acmassdeletion:201", and closes the desk when it is left.
   void CarryOutTrial(const std::string& work);
 

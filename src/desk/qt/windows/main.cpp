@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -19,6 +20,7 @@
 #include "desk/qt/adapters/Theme.h"
 #include "desk/qt/windows/DeskWindow.h"
 #include "desk/qt/windows/QtRuntime.h"
+#include "desk/safety/CopiedFirm.h"
 #include "desk/shell/RuntimeFolder.h"
 #include "host/values/AskedAbout.h"
 
@@ -30,6 +32,7 @@ struct Arguments {
   std::string module;
   int year = 0;
   std::string trial;  // the form and the account
+  bool isCopy = false;
 };
 
 constexpr const char* kUsage =
@@ -50,6 +53,8 @@ bool Read(const QStringList& words, Arguments& arguments) {
       if (word == QLatin1String("--trial")) arguments.trial = words[i].toStdString();
       if (word == QLatin1String("--year")) arguments.year = words[i].toInt(&understood);
       if (!understood) return false;
+    } else if (word == QLatin1String("--copy")) {
+      arguments.isCopy = true;
     } else if (word.startsWith(QLatin1String("--")) || !arguments.folder.isEmpty()) {
       return false;
     } else {
@@ -124,9 +129,11 @@ void RunTrial(const QString& folder, const QString& user, int startYear, const s
   if (!ran) throw quillon::HostError("The desk of the trial did not come to its end");
 }
 
-void StartAnew(const QString& folder, const QString& user, int startYear, const std::string& module) {
+void StartAnew(const QString& folder, const QString& user, int startYear, const std::string& module,
+               bool isCopy = false) {
   QProcess desk;
   Prepare(desk, folder, user, startYear, module);
+  if (isCopy) desk.setArguments(desk.arguments() << QStringLiteral("--copy"));
   if (!desk.startDetached()) throw quillon::HostError("Another desk cannot be started");
 }
 
@@ -153,6 +160,8 @@ int main(int count, char** words) {
   if (!arguments.trial.empty()) QApplication::setApplicationName(QStringLiteral("quillon-trial"));
   try {
     quillon::QtRuntime runtime(PrintFolder(arguments));
+    std::optional<quillon::CopiedFirm::Visit> visit;
+    if (arguments.isCopy) visit.emplace(arguments.folder.toStdString());
     quillon::DeskWindow window(runtime, arguments.module);
     window.OnOtherFirm = [&](const QString& folder, const QString& user, int year) {
       StartAnew(folder, user, year, arguments.module);
@@ -160,6 +169,10 @@ int main(int count, char** words) {
     window.OnTrial = [&](const QString& folder, const QString& user, int year, const QString& work) {
       RunTrial(folder, user, year, arguments.module, work);
     };
+    window.OnCopy = [&](const QString& folder, const QString& user) {
+      StartAnew(folder, user, 0, arguments.module, true);
+    };
+    if (visit) window.MarkAsCopy();
     window.RestorePlace();
     window.show();
     window.activateWindow();
