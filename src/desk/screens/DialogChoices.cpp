@@ -81,21 +81,21 @@ std::string TextOf(const Control& control) {
   return ticks;
 }
 
-void PutText(Control& control, const std::string& text) {
-  if (auto* grid = dynamic_cast<EditableGrid*>(&control)) {
+void PutText(Control* control, const std::string& text) {
+  if (auto* grid = dynamic_cast<EditableGrid*>(control)) {
     PutRows(*grid, text);
-  } else if (auto* field = dynamic_cast<CTextPlus*>(&control)) {
+  } else if (auto* field = dynamic_cast<CTextPlus*>(control)) {
     field->Text = text;
-  } else if (auto* box = dynamic_cast<TextBox*>(&control)) {
+  } else if (auto* box = dynamic_cast<TextBox*>(control)) {
     // A text that changes may clear the mark beside it, so the mark comes last.
     const std::vector<std::string> parts = text::Split(text, kNext);
     box->Text = parts.front();
     box->Tag = parts.back();
-  } else if (auto* mark = dynamic_cast<CheckBox*>(&control)) {
+  } else if (auto* mark = dynamic_cast<CheckBox*>(control)) {
     mark->CheckValue = static_cast<int>(ValInteger(text));
-  } else if (auto* option = dynamic_cast<OptionButton*>(&control)) {
+  } else if (auto* option = dynamic_cast<OptionButton*>(control)) {
     option->Chosen = text == "1";
-  } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
+  } else if (auto* list = dynamic_cast<ListBox*>(control)) {
     const int count = std::min(list->ListCount(), static_cast<int>(text.size()));
     for (int item = 0; item < count; ++item)
       list->SetSelected(item, text[static_cast<std::size_t>(item)] == '1');
@@ -125,10 +125,9 @@ void DialogChoices::Put(Form& form, const std::string& text) {
   if (texts.size() != form.Controls().size()) return;
   for (const bool lists : {false, true}) {
     std::size_t at = 0;
-    for (Control* const each : form.Controls()) {
-      Control& control = *each;
+    for (Control* control : form.Controls()) {
       const std::string& value = texts[at++];
-      const bool isList = dynamic_cast<ListBox*>(&control) != nullptr;
+      const bool isList = dynamic_cast<ListBox*>(control) != nullptr;
       if (isList == lists && !value.empty()) PutText(control, value);
     }
   }
