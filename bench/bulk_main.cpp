@@ -6,7 +6,9 @@
 #include "bench/BenchFirm.h"
 #include "bench/BulkWork.h"
 #include "bench/RawClient.h"
+#include "desk/firebird/EngineTools.h"
 #include "desk/firm/Firm.h"
+#include "desk/safety/BookCopies.h"
 #include "tests/support/TempFolder.h"
 
 namespace {
@@ -47,6 +49,30 @@ void Measure(const std::filesystem::path& firm, const std::filesystem::path& cop
        }));
 }
 
+/// What the net does before bulk work, beside the engine's own copy and restore of the same year.
+void MeasureCopies(const std::filesystem::path& folder) {
+  const std::unique_ptr<Firm> firm = Firm::Open(folder);
+  const FirebirdAddress year = firm->PlaceOfYear(kYear).Database;
+  const std::filesystem::path copy = folder / "bench.fbk";
+  const FirebirdAddress restored{(folder / "bench.fdb").string(), "", "", false};
+  firm->LetEngineName(restored);
+  const double floor = TimeOf([&] {
+    EngineTools::Copy(year, copy);
+    EngineTools::Restore(copy, restored);
+  });
+  std::filesystem::remove(restored.Database);
+  BookCopies copies(*firm);
+  const double made = TimeOf([&] { copies.Make(1, kYear); });
+  const double back = TimeOf([&] { copies.Restore(copies.Of(1).front(), restored); });
+  const double restore = TimeOf([&] {
+    std::filesystem::remove(restored.Database);
+    EngineTools::Restore(copy, restored);
+  });
+  std::printf("%-28s | %10s | %8.3f | %8.3f | %5.2f\n", "Copy with its proof", "", made, floor, made / floor);
+  std::printf("%-28s | %10s | %8.3f | %8.3f | %5.2f\n", "Restore with its proof", "", back, restore,
+              back / restore);
+}
+
 }  // namespace
 
 int main(int count, char** words) {
@@ -58,6 +84,7 @@ int main(int count, char** words) {
   try {
     MakeFirms(folder.Path() / "firm", folder.Path() / "copy", quick ? 1000 : 100000);
     Measure(folder.Path() / "firm", folder.Path() / "copy", quick ? 10 : 100);
+    MeasureCopies(folder.Path() / "firm");
     return 0;
   } catch (const Firebird::FbException&) {
     std::fputs("quillon_bulk_bench: the floor failed\n", stderr);

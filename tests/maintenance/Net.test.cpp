@@ -55,7 +55,28 @@ class BulkNet : public BulkTest {
          }});
   }
 
+  void DeleteWhileAnotherDeskWorks();
+
   int wanted_ = 0;
+};
+
+/// The same books on a server.
+class BulkNetOnServer : public BulkNet {
+ protected:
+  void SetUp() override {
+    if (!FirebirdServer::IsInstalled()) GTEST_SKIP() << "the Firebird server is not installed";
+    place_.emplace();
+    server_ = place_->Address("common.fdb");
+    server_.Database.resize(server_.Database.size() - std::string("/common.fdb").size());
+    BulkNet::SetUp();
+  }
+  void TearDown() override {
+    statement_.reset();
+    desk_.CloseFirm();
+  }
+
+ private:
+  std::optional<FirebirdServer> place_;
 };
 
 TEST_F(BulkNet, ADeletionIsGoneBackOnAndTheGoingBackToo) {
@@ -112,12 +133,14 @@ TEST_F(BulkNet, WhatTheScreenDoesNotExplainIsTold) {
   EXPECT_EQ(asked.at("default"), 2) << "going back, without looking";
 }
 
-TEST_F(BulkNet, WhatOthersWroteSinceTheCopyIsCopiedAgain) {
+/// Another desk works on while the dialog is open; what it stored stays when the deletion is gone back on.
+void BulkNet::DeleteWhileAnotherDeskWorks() {
   for (const int button : {1, 1, 1, 1}) AnswerMessage(button);
   Open("MassDeletion", 201, {[this] {
          Type("txpDate1", "1/4/24");
          Type("txpDate2", "31/3/25");
          const std::unique_ptr<Firm> other = Firm::Open(folder_.Path() / "firm");
+         EXPECT_THROW(BulkTurn(*other->Common(), "Ravi", "Purge"), HostError) << "one at a time";
          other->OpenYear(2024).Db->Execute("update FAMaster set mst='Goa' where mcd=202");
          PressOk();
        }});
@@ -125,6 +148,36 @@ TEST_F(BulkNet, WhatOthersWroteSinceTheCopyIsCopiedAgain) {
   GoBack(1);
   EXPECT_EQ(Rows("select mst from FAMaster where mcd=202"), Texts{"Goa"}) << "and the deletion is undone";
   EXPECT_EQ(Rows("select count(*) from FAData"), Texts{"7"});
+}
+
+TEST_F(BulkNet, WhatOthersWroteSinceTheCopyIsCopiedAgain) { DeleteWhileAnotherDeskWorks(); }
+
+TEST_F(BulkNet, WhatARunHadDoneWhenItFailedIsGoneBackOn) {
+  const BooksDigest before = BooksDigest::Of(Year());
+  Refuse("before delete or update", "old.VoucherID=2 and old.dVchSubNo<3");
+  const auto run = [this, &before](const std::string& tool, const std::function<void()>& fill) {
+    AnswerMessage();
+    Acts acts{[&] {
+      fill();
+      PressOk();
+    }};
+    if (tool == "MassTransfer") acts.emplace_back([this] { Key(*dialog_, keys::kEscape); });
+    Open(tool, 201, acts);
+    EXPECT_EQ(Errors().size(), 1U) << tool;
+    EXPECT_NE(BooksDigest::Of(Year()), before) << tool << " had begun";
+    const auto number = static_cast<int>(Common().Lookup("BulkRuns", "max(RunNo)", "").ToInteger());
+    GoBack(number);
+    EXPECT_EQ(BooksDigest::Of(Year()), before) << tool;
+  };
+  run("MassDeletion", [this] {
+    Type("txpDate1", "1/4/24");
+    Type("txpDate2", "31/3/25");
+  });
+  run("MassTransfer", [this] {
+    dialog_->ControlAt("txtToAc").Set("Text", "Bharat Mills");
+    dialog_->ControlAt("txtToAc").Set("Tag", "202");
+    Type("txpDate2", "31/3/25");
+  });
 }
 
 TEST_F(BulkNet, NothingRunsWithoutACopyUnlessOneMayAndWantsTo) {
@@ -294,6 +347,8 @@ TEST(BulkNetElsewhere, InAFolderThatTheEngineCannotName) {
   const TempFolder folder;
   GoBackOn(folder.Path() / "a:b", {});
 }
+
+TEST_F(BulkNetOnServer, WhatOthersWroteSinceTheCopyIsCopiedAgain) { DeleteWhileAnotherDeskWorks(); }
 
 TEST(BulkNetElsewhere, OnAServer) {
   if (!FirebirdServer::IsInstalled()) GTEST_SKIP() << "the Firebird server is not installed";

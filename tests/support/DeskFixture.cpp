@@ -57,6 +57,12 @@ DeskTest::~DeskTest() {
 
 std::string DeskTest::MakeFirm(const std::string& name) {
   const std::filesystem::path made = folder_.Path() / name;
+  if (!server_.Database.empty()) {
+    FirmDetails details;
+    details.FirmName = "Sharda";
+    CreateFirm(made, details, {2023, 2024}, server_);
+    return made.string();
+  }
   std::filesystem::copy(Template(), made, std::filesystem::copy_options::recursive);
   return made.string();
 }

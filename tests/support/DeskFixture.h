@@ -97,6 +97,7 @@ class DeskTest : public testing::Test {
   Json One(const std::string& kind, const Json& members = Json::object());
 
   TempFolder folder_;
+  FirebirdAddress server_;  ///< where the firm's databases are made; nothing for files
   std::ostringstream lines_;
   EventLog log_{lines_};
   DriverRuntime runtime_{log_, folder_.Path().string()};
