@@ -11,7 +11,10 @@ namespace quillon {
 
 DeskMenu::DeskMenu(IModule& module, DeskSession& session, std::vector<DeskMenuLine> lines)
     : module_(module), session_(session), lines_(std::move(lines)) {
-  std::erase_if(lines_, [this](const DeskMenuLine& line) { return !module_.GetForm(line.FormKey); });
+  std::erase_if(lines_, [this](const DeskMenuLine& line) {
+    const std::string form = line.FormKey;
+    return !form.empty() && !module_.GetForm(form);
+  });
 }
 
 bool DeskMenu::IsOn(const DeskMenuLine& line) const {

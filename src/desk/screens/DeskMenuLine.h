@@ -15,7 +15,7 @@ struct DeskMenuLine {
   const char* Caption;         ///< its letter marked by &
   const char* Shortcut = "";   ///< as "Ctrl+E"; empty for none
   const char* RightKey = "";   ///< the line is off for who may not open screens on it; empty is for everybody
-  const char* FormKey;         ///< of IModule.GetForm
+  const char* FormKey = "";    ///< of IModule.GetForm; empty for a line that needs no form of the module
   const char* MenuEvent = "";  ///< the main menu's event that makes the module open it; empty opens the form
   const char* DeskForm = "";   ///< the desk's own screen that is opened in place of the module's form
   void (*Open)(const std::shared_ptr<Form>& form) = nullptr;  ///< opens the form in place of a plain show

@@ -10,8 +10,10 @@
 #include "desk/screens/frmLedger.h"
 #include "desk/screens/frmMain.h"
 #include "desk/screens/frmMainDB.h"
+#include "desk/screens/frmParameters.h"
 #include "desk/screens/frmPrinter.h"
 #include "desk/screens/frmSelectAc.h"
+#include "desk/screens/frmUsers.h"
 #include "desk/screens/frmVoucher.h"
 #include "host/values/Text.h"
 
@@ -27,6 +29,8 @@ FormPtr DeskScreens::NewForm(const std::string& key) {
   if (wanted == "chequelayouts") return std::make_shared<frmChequeLayouts>();
   if (wanted == "bulkruns") return std::make_shared<frmBulkRuns>();
   if (wanted == "printer") return std::make_shared<frmPrinter>();
+  if (wanted == "parameters") return std::make_shared<frmParameters>();
+  if (wanted == "users") return std::make_shared<frmUsers>();
   if (wanted == "maindb") return std::make_shared<frmMainDB>();
   return nullptr;
 }

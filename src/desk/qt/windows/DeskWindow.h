@@ -121,7 +121,8 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   QString folder_;
   QList<QAction*> firmActs_;
   QList<QAction*> lineActs_;
-  QList<QMenu*> lineMenus_;  // those that stand for their lines alone
+  QList<QMenu*> lineMenus_;     // those that stand for their lines alone
+  QAction* firmEnd_ = nullptr;  // lines of the Firm menu come before it
   QMenu* windows_ = nullptr;
   std::unique_ptr<Desk> desk_;
 };

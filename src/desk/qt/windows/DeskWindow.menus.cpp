@@ -44,7 +44,7 @@ void DeskWindow::BuildFirmMenu() {
             << AddAct(menu, QStringLiteral("&User …"), QKeySequence(Qt::CTRL | Qt::Key_U),
                       &DeskWindow::AskUser)
             << AddAct(menu, QStringLiteral("&Printer …"), {}, &DeskWindow::AskPrinter);
-  menu.addSeparator();
+  firmEnd_ = menu.addSeparator();
   QAction* const exit = menu.addAction(QStringLiteral("E&xit"));
   exit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
   connect(exit, &QAction::triggered, this, [this] { close(); });
@@ -78,7 +78,9 @@ void DeskWindow::ShowMenuLines() {
   if (!desk_->HasFirm()) return;
   DeskMenu& lines = desk_->Menu();
   for (const DeskMenuLine& line : lines.Lines()) {
-    QAction* const act = MenuOfLine(QString::fromUtf8(line.Menu)).addAction(QString::fromUtf8(line.Caption));
+    QMenu& menu = MenuOfLine(QString::fromUtf8(line.Menu));
+    auto* const act = new QAction(QString::fromUtf8(line.Caption), &menu);
+    menu.insertAction(menu.actions().contains(firmEnd_) ? firmEnd_ : nullptr, act);
     act->setObjectName(QString::fromUtf8(line.Key));
     act->setShortcut(QKeySequence::fromString(QString::fromUtf8(line.Shortcut)));
     act->setEnabled(lines.IsOn(line));

@@ -1,0 +1,7 @@
+#include "books/Right.h"
+
+namespace quillon {
+
+Right UsersRight() { return {91, "firm.users", "Users and Rights"}; }
+
+}  // namespace quillon
