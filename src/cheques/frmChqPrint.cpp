@@ -194,7 +194,7 @@ std::string frmChqPrint::NotExceedingText() const {
 
 /// The number that is taken out of a narration stays in the caption.
 void frmChqPrint::ShowCaption() {
-  if (narrationLeft_ == Narration) return;
+  if (!numberTaken_.empty() && narrationLeft_ == Narration && numberTaken_ == ChqNo) return;
   Caption = Narration.empty() ? "Cheque Printing" : "Cheque Printing - " + Narration;
   lblTitle.Caption = "   " + Caption;
   lblPreview.Caption = lblTitle.Caption;
@@ -242,7 +242,9 @@ void frmChqPrint::ShowSigners() {
 }
 
 void frmChqPrint::ShowChqNo() {
+  const std::string whole = Narration;
   gStd->ChqNoFromNarration(Narration, ChqNo);
+  if (whole != Narration) numberTaken_ = ChqNo;
   narrationLeft_ = Narration;
   lblChqNo2.Visible = !ChqNo.empty();
   if (!ChqNo.empty()) lblChqNo2.Caption = "Chq.No: " + ChqNo;

@@ -2,7 +2,6 @@
 
 #include <initializer_list>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "host/controls/CButton.h"
@@ -188,7 +187,8 @@ class frmChqPrint : public ScreenForm {
   void LeaveToPanel();
   LayoutBoard::Limits Limits() const;
 
-  std::optional<std::string> narrationLeft_;  ///< what the captions leave of the narration
+  std::string narrationLeft_;  ///< what the captions leave of the narration
+  std::string numberTaken_;    ///< and the number that they took out of it
   LayoutBoard board_{*this, Lbl};
 };
 

@@ -16,7 +16,7 @@ namespace {
 
 constexpr ScreenSpec kScreen = {
     .className = "frmMailMerge",
-    .caption = "   Mail Merge",
+    .caption = "Mail Merge",
     .titleSuffix = " -> Mail Merge",
     .rightKey = "mst.mailmerge",
     .registerTitle = "Mail Merge",

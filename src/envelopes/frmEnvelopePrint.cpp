@@ -183,9 +183,6 @@ void frmEnvelopePrint::FillParty(CPartyInfo& party) {
   };
   const std::string contact = field("mName");
   Lbl(1).Caption = contact.empty() ? field("mhd") : contact;
-  // Without a contact the party's name stands at the head already.
-  if (contact.empty() && !lines.empty() && lines.front() == text::Trim(field("mhd")))
-    lines.erase(lines.begin());
   Lbl(2).Caption = text::Join(lines, kLineEnd);
   Lbl(3).Caption = Labelled("Phone : ", field("mPhoneOff"));
   Lbl(4).Caption = Labelled("Mobile : ", field("mCellNo"));

@@ -32,6 +32,10 @@ TEST_F(ChequeLayout, ABankWithoutALayoutShowsItsChequeAsDesigned) {
   EXPECT_EQ(Shown(form), "11111110100") << "an object's mark counts before the form is shown";
   Do([&] { gApp->ShowForm(form); });
   EXPECT_EQ(form->Caption(), "Cheque Printing - Chq.No. 004411 paid") << "the number leaves the caption";
+  form->Set("Narration", "paid");
+  form->Set("ChqNo", "");
+  Do([&] { form->Call("UpdateLabels", {}); });
+  EXPECT_EQ(form->Caption(), "Cheque Printing - paid") << "another cheque";
   EXPECT_EQ(Captions(form),
             (Texts{"Pay To : Asha Traders", "Date : 05-Apr-2024",
                    "Rupees : One Thousand Two Hundred Fifty and Paise Seventy Five Only", "Rs. : **1,250.75",

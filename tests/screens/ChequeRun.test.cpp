@@ -82,6 +82,31 @@ class ChequeRun : public DeskTest {
   FormPtr run_;
 };
 
+TEST_F(ChequeRun, ALeafOnItsWayIsNeitherDeletedNorCancelled) {
+  Db().Execute(
+      "insert into ChqGoingOut (LeafID,VoucherID,Program) select ID,5,'gone' from ChqLeaves where ChqNo=124");
+  const FormPtr leaves = desk_.Module().GetForm("chqleaves");
+  leaves->Set("BankCode", 101);
+  Do([&] { gApp->ShowForm(leaves); });
+  auto& grid = At<CGridPlus>(leaves, "Grid");
+  for (int row = 1; row < grid.Rows; ++row) {
+    if (grid.TextMatrix(row, 4) == "124") grid.Row = row;
+  }
+  AnswerMessage();
+  Key(*leaves, keys::kF3);
+  AnswerMessage();
+  Do([&] { leaves->Call("DeleteLeaves", {}); });
+  Key(*leaves, keys::kEscape);
+  for (const std::string& error : Errors()) {
+    EXPECT_NE(error.find(
+                  "Cheque No. 124 was sent to a printer. Open the firm anew and say whether it was printed."),
+              std::string::npos)
+        << error;
+  }
+  EXPECT_EQ(Leaf(124), "|||||");
+  EXPECT_EQ(Outgoing(), 1);
+}
+
 TEST_F(ChequeRun, ChosenPaymentsArePrintedOneAfterTheOtherAndTakeTheirLeaves) {
   Open();
   EXPECT_EQ(Rows(), (Texts{"|18/04/2024|Asha Traders|100.00", "|19/04/2024|Bharat Mills|250.50",

@@ -98,6 +98,18 @@ Meaning MeaningOf(const ISC_STATUS* vector, const std::string& sqlState) {
   return {0, Reason::kOther, "The database refused this."};
 }
 
+/// What the books themselves say when one of their triggers refuses; empty for any other failure. The name of
+/// the refusal comes before its words.
+std::string WordsOfTrigger(const ISC_STATUS* vector) {
+  if (!Names(vector, isc_arg_gds, isc_except)) return {};
+  int texts = 0;
+  for (; *vector != isc_arg_end; vector += *vector == isc_arg_cstring ? 3 : 2) {
+    if (*vector != isc_arg_string || ++texts < 2) continue;
+    return reinterpret_cast<const char*>(vector[1]);  // NOLINT(performance-no-int-to-ptr): so it comes
+  }
+  return {};
+}
+
 }  // namespace
 
 FirebirdStatus::FirebirdStatus(const std::string& statement)
@@ -110,7 +122,9 @@ void FirebirdStatus::checkException(FirebirdStatus* status) {
   std::array<char, 6> state{};
   fb_sqlstate(state.data(), status->getErrors());
   const Meaning meaning = MeaningOf(status->getErrors(), state.data());
-  throw DbError(meaning.Words, state.data(), status->statement_, text.data(), meaning.Why);
+  const std::string own = WordsOfTrigger(status->getErrors());
+  throw DbError(own.empty() ? meaning.Words : own, state.data(), status->statement_, text.data(),
+                meaning.Why);
 }
 
 Firebird::CheckStatusWrapper SilentStatus() { return {ThreadStatus()}; }

@@ -60,7 +60,7 @@ void ScreenForm::PressKey(const std::string& key) {
       gRuntime->Say("The pages have all rows, in the order of the screen itself.");
     }
     Print(key == "Print");
-  } else {
+  } else if (key != "PrintAll" || MayPrint()) {
     Pressed(key);
   }
 }
