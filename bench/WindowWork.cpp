@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 #include "bench/BenchFirm.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr int kWidth = 1366;
 constexpr int kHeight = 768;
+constexpr int kDragged = 40;
 
 /// Whether a widget was painted while one of these lived.
 class Painted : public QObject {
@@ -89,5 +91,33 @@ void WindowWork::ScrollBy(int step) {
 void WindowWork::ScrollLine() { ScrollBy(grid_->verticalScrollBar()->singleStep()); }
 
 void WindowWork::ScrollPage() { ScrollBy(grid_->verticalScrollBar()->pageStep()); }
+
+void WindowWork::SendMouse(QEvent::Type type, const QPoint& place) {
+  const bool isUp = type == QEvent::MouseButtonRelease;
+  QMouseEvent event(type, place, place, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                    isUp ? Qt::NoButton : Qt::LeftButton, {});
+  QApplication::sendEvent(grid_->viewport(), &event);
+}
+
+void WindowWork::DragColumn() {
+  int col = 0;
+  while (grid_->ColWidth(col) == 0) ++col;
+  const QRect cell = grid_->CellRect(grid_->Model().Row, col);
+  const QPoint border(cell.right() + 1, grid_->Body().top() - 2);
+  const Painted painted(*grid_->viewport());
+  SendMouse(QEvent::MouseButtonPress, border);
+  SendMouse(QEvent::MouseMove, border + QPoint(++frame_ % 2 == 0 ? -kDragged : kDragged, 0));
+  QApplication::processEvents();
+  if (!painted.Was()) throw HostError("The grid was not painted");
+  SendMouse(QEvent::MouseButtonRelease, border);
+}
+
+void WindowWork::DragWindow() {
+  const Painted painted(*grid_->viewport());
+  const int by = ++frame_ % kDragged;
+  window_.resize(kWidth + by, kHeight - by);
+  QApplication::processEvents();
+  if (!painted.Was()) throw HostError("The grid was not painted");
+}
 
 }  // namespace quillon::bench

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QPointer>
 #include <filesystem>
 
@@ -26,15 +27,21 @@ class WindowWork {
   void ScrollLine();
   void ScrollPage();
 
+  /// Moves a column's border, or the window's, to and fro.
+  void DragColumn();
+  void DragWindow();
+
  private:
   void Press(Qt::Key key);
   void Paint();
   void ScrollBy(int step);
+  void SendMouse(QEvent::Type type, const QPoint& place);
 
   TempFolder printed_;
   QtRuntime runtime_{printed_.Path().string()};
   DeskWindow window_{runtime_, ""};
   QPointer<GridWidget> grid_;
+  int frame_ = 0;
 };
 
 }  // namespace quillon::bench

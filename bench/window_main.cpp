@@ -120,6 +120,8 @@ int Measure(int count, char** words) {
   for (const int entries : {10000, 100000}) RegisterOpening(grounds, entries);
   RegisterScrolling(grounds, "Grid scrolled by a line", &WindowWork::ScrollLine);
   RegisterScrolling(grounds, "Grid scrolled by a page", &WindowWork::ScrollPage);
+  RegisterScrolling(grounds, "A column's border dragged", &WindowWork::DragColumn);
+  RegisterScrolling(grounds, "The window's border dragged", &WindowWork::DragWindow);
   benchmark::RunSpecifiedBenchmarks();
   return 0;
 }

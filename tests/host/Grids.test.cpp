@@ -143,9 +143,10 @@ TEST_F(Grids, TellWhereTheCellOfTheCursorIs) {
   Do([&] { Grid().UserMoveTo(2, 1); });
   EXPECT_EQ(Grid().CellTop(), 345 + 300 + 300);
   EXPECT_EQ(Grid().CellHeight(), 300);
-  EXPECT_EQ(Grid().CellWidth(), 2000) << "the columns share the width beside the scroll bar";
+  EXPECT_EQ(Grid().CellWidth(), 1000);
   Do([&] { Grid().UserMoveTo(30, 2); });
-  EXPECT_EQ(Grid().CellLeft(), 2000);
+  EXPECT_EQ(Grid().CellLeft(), 1000);
+  EXPECT_EQ(Grid().CellWidth(), 4760) << "the widest text takes the width beside the scroll bar";
   EXPECT_EQ(Grid().CellTop() + Grid().CellHeight(), Grid().Height()) << "scrolled into sight at the bottom";
   Do([&] { Grid().UserMoveTo(29, 2); });
   EXPECT_EQ(Grid().CellTop() + 2 * Grid().CellHeight(), Grid().Height());

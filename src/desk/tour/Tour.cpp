@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "desk/qt/adapters/Scale.h"
 #include "desk/qt/windows/DeskWindow.h"
 #include "desk/qt/windows/QtRuntime.h"
 #include "desk/tour/DeskSnapshot.h"
@@ -68,6 +69,10 @@ void Tour::Do(const TourAct& act) {
     ShowModuleDialog(act.Rest);
   } else if (act.What == QLatin1String("open")) {
     Open();
+  } else if (act.What == QLatin1String("window")) {
+    const QStringList size = act.Rest.split(QLatin1Char(' '));
+    desk_.resize(size.value(0).toInt() * Scale::Percent() / 100,
+                 size.value(1).toInt() * Scale::Percent() / 100);
   } else {
     Draw(act.Rest);
   }

@@ -23,8 +23,9 @@ std::vector<std::filesystem::path> FilesOf(const std::filesystem::path& script) 
 }  // namespace
 
 std::vector<TourAct> ReadTour(std::istream& in, const std::string& name) {
-  const QStringList words = {QStringLiteral("open"), QStringLiteral("press"), QStringLiteral("type"),
-                             QStringLiteral("see"),  QStringLiteral("ask"),   QStringLiteral("picture")};
+  const QStringList words = {QStringLiteral("open"),   QStringLiteral("window"), QStringLiteral("press"),
+                             QStringLiteral("type"),   QStringLiteral("see"),    QStringLiteral("ask"),
+                             QStringLiteral("picture")};
   std::vector<TourAct> acts;
   std::string text;
   for (int line = 1; std::getline(in, text); ++line) {

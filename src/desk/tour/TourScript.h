@@ -24,6 +24,7 @@ struct TourAct {
 ///     type TEXT         types a text
 ///     see TEXT          the tour fails unless what has the keys is called so
 ///     ask DIALOG        shows a dialog of the desk that a module may ask for
+///     window W H        gives the desk's window that many pixels at 100 %
 ///     picture NAME      draws the desk to NAME.png
 std::vector<TourAct> ReadTour(std::istream& in, const std::string& name = "the tour");
 

@@ -45,6 +45,9 @@ class EditableGrid : public GridModel {
   /// Once a column is marked, only marked columns are entered by the automatic move.
   void SetColEditable(int col, bool editable);
 
+  /// Whether the form lets a person type into the column.
+  bool IsTypedIn(int col) const { return BeforeEdit && IsCandidate(col); }
+
   bool EditMode() const { return editing_; }
   int EditRow() const { return editRow_; }
   int EditCol() const { return editCol_; }

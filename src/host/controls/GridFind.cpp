@@ -76,7 +76,7 @@ bool GridFind::HandleKey(const KeyEvent& key) {
 /// none.
 int GridFind::FindIn(int row, int beyond, int step) const {
   for (int col = beyond + step; col >= 0 && col < grid_.Cols; col += step) {
-    if (grid_.IsColVisible(col) && pattern_.Matches(grid_.Cell(row, col))) return col;
+    if (grid_.IsColShown(col) && pattern_.Matches(grid_.Cell(row, col))) return col;
   }
   return -1;
 }

@@ -113,7 +113,7 @@ void GridLook::Show() {
   for (int row = grid_.FixedRows; row < grid_.Rows; ++row) {
     bool isFound = pattern_.IsEmpty();
     for (int col = 0; !isFound && col < grid_.Cols; ++col) {
-      isFound = grid_.IsColVisible(col) && pattern_.Matches(grid_.Cell(row, col));
+      isFound = grid_.IsColShown(col) && pattern_.Matches(grid_.Cell(row, col));
     }
     if (isFound) keys.emplace_back(col_ >= 0 ? grid_.Cell(row, col_) : std::string_view(), row);
   }

@@ -1,7 +1,9 @@
 #include "host/controls/GridModel.h"
 
 #include <algorithm>
+#include <numeric>
 
+#include "host/controls/ColumnRoom.h"
 #include "host/forms/Form.h"
 
 namespace quillon {
@@ -25,9 +27,22 @@ int GridModel::VisibleRowFrom(int row, int step) const {
 
 int GridModel::ColBeside(int col, int direction) const {
   for (int next = col + direction; next >= 0 && next < Cols; next += direction) {
-    if (IsColVisible(next)) return next;
+    if (IsColShown(next)) return next;
   }
   return col;
+}
+
+bool GridModel::IsColShown(int col) const {
+  const auto place = static_cast<std::size_t>(col);
+  return IsColVisible(col) && (place >= sight_.aside.size() || !sight_.aside[place]);
+}
+
+std::vector<long> GridModel::SharedWidths(long width) const {
+  std::vector<ColumnRoom::Column> columns;
+  for (int col = 0; col < Cols; ++col) {
+    columns.push_back({std::max(ColWidth(col), 0L), ColAlignment(col) == kAlignLeft, 0, 0});
+  }
+  return ColumnRoom::Share(columns, width);
 }
 
 bool GridModel::IsTitleShown(int row) const {
@@ -47,7 +62,7 @@ long GridModel::BodyTop() const {
 }
 
 GridModel::Sight GridModel::OwnSight() const {
-  Sight sight{sight_.left, sight_.top, Width, std::max(Height - BodyTop() - FooterHeight(), 0L)};
+  Sight sight{sight_.left, sight_.top, Width, std::max(Height - BodyTop() - FooterHeight(), 0L), {}, {}};
   long whole = 0;
   for (int row = FixedRows; row < Rows && whole <= sight.height; ++row) whole += RowHeight(row);
   if (whole > sight.height) sight.width = std::max(sight.width - kScrollBar, 0L);
@@ -58,18 +73,10 @@ GridModel::Place GridModel::CellPlace(int row, int col) const {
   RequireRow(row);
   RequireCol(col);
   Sight sight = sight_.width > 0 ? sight_ : OwnSight();
-  Place place{0, 0, ColWidth(col), RowHeight(row)};
-  long whole = 0;
-  for (int i = 0; i < Cols; ++i) {
-    if (i == col) place.left = whole;
-    whole += std::max(ColWidth(i), 0L);
-  }
-  // Columns share the width that is left over, as they do on the screen.
-  if (whole > 0 && whole < sight.width) {
-    const long right = (place.left + place.width) * sight.width / whole;
-    place.left = place.left * sight.width / whole;
-    place.width = right - place.left;
-  }
+  const auto cols = static_cast<std::size_t>(Cols());
+  const std::vector<long> widths = sight.widths.size() == cols ? sight.widths : SharedWidths(sight.width);
+  Place place{0, 0, widths[static_cast<std::size_t>(col)], RowHeight(row)};
+  place.left = std::accumulate(widths.begin(), widths.begin() + col, 0L);
   if (HasView()) {
     for (int i = OuterRow(1); i >= 0 && i != row; i = RowBeside(i, 1)) place.top += RowHeight(i);
   } else {
@@ -207,7 +214,7 @@ void GridModel::RequireUserCell(int row, int col) const {
 }
 
 int GridModel::UserCol() const {
-  if (IsColVisible(Col)) return Col;
+  if (IsColShown(Col)) return Col;
   const int right = ColBeside(Col, 1);
   return right != Col ? right : ColBeside(Col, -1);
 }

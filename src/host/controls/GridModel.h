@@ -153,6 +153,9 @@ class GridModel : public Control {
   bool IsRowVisible(int row) const { return RowHeight(row) > 0; }
   bool IsColVisible(int col) const { return ColWidth(col) > 0; }
 
+  /// Visible, and not put aside by the user of the window.
+  bool IsColShown(int col) const;
+
   /// Empties the cells below the titles and takes the paint off.
   virtual void Clear();
 
@@ -250,8 +253,13 @@ class GridModel : public Control {
     long top = 0;
     long width = 0;  ///< 0 while no window has told
     long height = 0;
+    std::vector<long> widths{};  ///< of the columns; empty where they share the width by themselves
+    std::vector<bool> aside{};   ///< columns that the user put aside; empty where there is none
   };
-  void TellSight(const Sight& sight) { sight_ = sight; }
+  void TellSight(Sight sight) { sight_ = std::move(sight); }
+
+  /// The widths of the columns when they share a width, all in twips.
+  std::vector<long> SharedWidths(long width) const;
 
   /// A row of titles that says nothing is no line on the screen.
   bool IsTitleShown(int row) const;

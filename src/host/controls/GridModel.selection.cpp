@@ -26,7 +26,7 @@ GridModel::Rectangle GridModel::Selection() const {
 }
 
 bool GridModel::TakesWholeRows() const {
-  return selectsAll_ || SelectionMode == 1 || (Col() == ColSel() && Col < Cols && !IsColVisible(Col));
+  return selectsAll_ || SelectionMode == 1 || (Col() == ColSel() && Col < Cols && !IsColShown(Col));
 }
 
 std::vector<int> GridModel::SelectedRows() const {
@@ -50,7 +50,7 @@ std::vector<int> GridModel::SelectedCols() const {
   std::vector<int> cols;
   for (int col = 0; col < Cols; ++col) {
     const bool isTaken = TakesWholeRows() || (col >= taken.firstCol && col <= taken.lastCol);
-    if (isTaken && IsColVisible(col)) cols.push_back(col);
+    if (isTaken && IsColShown(col)) cols.push_back(col);
   }
   return cols;
 }

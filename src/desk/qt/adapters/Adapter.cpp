@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/FormRoom.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
 #include "host/controls/Label.h"
@@ -44,7 +45,7 @@ Adapter::Adapter(Control& model, QWidget* widget) : QObject(widget), model_(mode
 
 Adapter::~Adapter() { model_.RemoveListener(*this); }
 
-QRect Adapter::PlaceOf(const Control& child) const { return Scale::Rect(child); }
+QRect Adapter::PlaceOf(const Control& child) const { return room_->PlaceOf(child); }
 
 void Adapter::Refresh() {
   Dress();
@@ -67,7 +68,7 @@ void Adapter::ControlChanged(Control& /*control*/, const PropertyBase* property)
 }
 
 void Adapter::Dress() {
-  widget_->setGeometry(holder_ != nullptr ? holder_->PlaceOf(model_) : Scale::Rect(model_));
+  widget_->setGeometry(holder_ != nullptr ? holder_->PlaceOf(model_) : room_->PlaceOf(model_));
   widget_->setEnabled(model_.Enabled());
   widget_->setFont(Scale::FontOf(model_.Font));
   Color();

@@ -12,6 +12,8 @@ class QWidget;
 
 namespace quillon {
 
+class FormRoom;
+
 /// Shows one control: draws what the model says and hands every act of the person to the model's user verbs.
 /// It decides nothing, and goes with its widget; the model must live longer.
 class Adapter : public QObject, public IControlListener {
@@ -30,7 +32,12 @@ class Adapter : public QObject, public IControlListener {
 
   /// The place of a child in the container, in pixels.
   virtual QRect PlaceOf(const Control& child) const;
-  void SetHolder(const Adapter* holder) { holder_ = holder; }
+
+  /// Before it is drawn first: the form's room, which lives longer, and the adapter that it stands in.
+  void SetRoom(const FormRoom& room, const Adapter* holder) {
+    room_ = &room;
+    holder_ = holder;
+  }
 
   /// Draws all anew.
   void Refresh();
@@ -65,6 +72,7 @@ class Adapter : public QObject, public IControlListener {
 
   Control& model_;
   QWidget* widget_;
+  const FormRoom* room_ = nullptr;
   const Adapter* holder_ = nullptr;
   bool down_ = false;
 };

@@ -30,14 +30,19 @@ void BarAdapter::Draw() {
   while (static_cast<int>(buttons_.size()) < bar_.Count()) {
     buttons_.push_back(NewButton(static_cast<int>(buttons_.size())));
   }
+  // In a narrow window the keys stand in two lines.
+  const int lines = Widget().height() * 2 > 3 * Scale::Px(bar_.Height) ? 2 : 1;
+  const int inLine = std::max(1, (bar_.Count() + lines - 1) / lines);
+  const int height = Widget().height() / lines;
   const int gap = Scale::Px(kGap);
   for (int i = 0; i < bar_.Count(); ++i) {
     const CButtonBar::Button& model = bar_.Buttons(i);
     PushButton& shown = *buttons_[static_cast<std::size_t>(i)];
-    const int left = Scale::Px(model.Left());
-    const int right = Scale::Px(i + 1 < bar_.Count() ? bar_.Buttons(i + 1).Left() : bar_.Width());
+    const int place = i % inLine;
+    const int left = place * Widget().width() / inLine;
+    const int right = (place + 1) * Widget().width() / inLine;
     const int width = std::min(right - left, Scale::Px(kWidest));
-    shown.setGeometry(left + gap, gap, width - 2 * gap, Widget().height() - 2 * gap);
+    shown.setGeometry(left + gap, i / inLine * height + gap, width - 2 * gap, height - 2 * gap);
     shown.setFont(Widget().font());
     shown.SetCaption(QString::fromStdString(model.Caption()));
     shown.SetIconKey(QString::fromStdString(model.Picture()));

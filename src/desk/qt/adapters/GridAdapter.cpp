@@ -1,12 +1,14 @@
 #include "desk/qt/adapters/GridAdapter.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QScrollBar>
 #include <exception>
 #include <utility>
 
 #include "desk/qt/adapters/Acts.h"
 #include "desk/qt/adapters/BoxEdit.h"
+#include "desk/qt/adapters/ColumnMenu.h"
 #include "desk/qt/adapters/FindStrip.h"
 #include "desk/qt/adapters/GridWidget.h"
 #include "desk/qt/adapters/KeyMenu.h"
@@ -26,6 +28,7 @@ GridAdapter::GridAdapter(GridModel& model, QWidget* parent)
     if (grid_.Look.IsAllowed) Acts::Run([&] { grid_.Look.UserSort(col); });
   };
   shown_->OnMenu = [this](int row, int col, const QPoint& place) { ShowMenu(row, col, place); };
+  shown_->OnHeadingMenu = [this](int col, const QPoint& place) { ShowColumns(col, place); };
   shown_->OnDrag = [this](int row, int col, int toRow, int toCol) {
     Acts::Run([&] { grid_.UserSelect(row, col, toRow, toCol); });
   };
@@ -57,7 +60,24 @@ void GridAdapter::ShowMenu(int row, int col, const QPoint& place) {
   if (row >= 0 && col >= 0 && !(grid_.HasFocus() && grid_.IsSelected(row, col))) {
     Acts::Run([&] { grid_.UserMoveTo(row, col); });
   }
-  if (grid_.HasFocus()) KeyMenu::Show(*shown_, place, grid_, grid_.KeyChoices());
+  if (!grid_.HasFocus()) return;
+  KeyMenu::Show(*shown_, place, grid_, grid_.KeyChoices(), [this](QMenu& menu) {
+    if (!keepsColumns_) return;
+    menu.addSeparator();
+    ColumnMenu::Fill(*menu.addMenu(QStringLiteral("Co&lumns")), *shown_, grid_.UserCol());
+  });
+}
+
+void GridAdapter::ShowColumns(int col, const QPoint& place) {
+  if (!keepsColumns_) return;
+  QMenu menu(shown_);
+  ColumnMenu::Fill(menu, *shown_, col);
+  menu.exec(place);
+}
+
+void GridAdapter::KeepColumns() {
+  keepsColumns_ = true;
+  shown_->KeepColumnsAs(QString::fromStdString(grid_.OwnerForm().Name() + "." + grid_.Name()));
 }
 
 /// In the midst of an act nothing is read; its end settles the grid once more.

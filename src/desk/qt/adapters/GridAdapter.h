@@ -18,6 +18,9 @@ class GridAdapter : public Adapter {
   QWidget* FocusWidget() override;
   void Settle() override;
 
+  /// The user may change the columns, and his choices last.
+  void KeepColumns();
+
  protected:
   void Draw() override;
   void Dress() override;
@@ -27,6 +30,7 @@ class GridAdapter : public Adapter {
   void PlaceEditor();
   void ShowFind();
   void ShowMenu(int row, int col, const QPoint& place);
+  void ShowColumns(int col, const QPoint& place);
   void DoubleClick(int row, int col);
   void ReadCells(int firstRow, int lastRow);
 
@@ -36,6 +40,7 @@ class GridAdapter : public Adapter {
   BoxEdit* editor_ = nullptr;
   FindStrip* find_ = nullptr;
   bool readingFailed_ = false;
+  bool keepsColumns_ = false;
 };
 
 }  // namespace quillon

@@ -1,9 +1,9 @@
 #include "desk/qt/adapters/GridLayout.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "desk/qt/adapters/Scale.h"
+#include "host/controls/ColumnRoom.h"
 
 namespace quillon {
 
@@ -13,7 +13,7 @@ constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
 
 }  // namespace
 
-void GridLayout::Measure(const GridModel& grid, int room) {
+void GridLayout::Measure(const GridModel& grid) {
   modelRows_ = grid.Rows;
   rows_.clear();
   tops_.assign(1, 0);
@@ -34,19 +34,26 @@ void GridLayout::Measure(const GridModel& grid, int room) {
     rows_.push_back(row);
     tops_.push_back(Scale::Px(twips += grid.RowHeight(row)));
   }
-  MeasureColumns(grid, room);
 }
 
-void GridLayout::MeasureColumns(const GridModel& grid, int room) {
-  long whole = 0;
-  for (int col = 0; col < grid.Cols; ++col) whole += std::max(grid.ColWidth(col), 0L);
-  const double stretch = whole > 0 ? std::max(1.0, static_cast<double>(room) / Scale::Px(whole)) : 1;
+void GridLayout::MeasureColumns(const GridModel& grid, const ColumnChoices& choices,
+                                const std::vector<long>& needs, int room) {
+  std::vector<ColumnRoom::Column> columns;
+  aside_.assign(choices.IsEmpty() ? 0 : static_cast<std::size_t>(grid.Cols()), false);
+  for (int col = 0; col < grid.Cols; ++col) {
+    const ColumnChoices::Choice choice = choices.Of(grid, col);
+    if (choice.isAside) aside_[static_cast<std::size_t>(col)] = true;
+    const bool isShown = grid.IsColVisible(col) && !choice.isAside;
+    const long need = needs[static_cast<std::size_t>(col)];
+    const long width = std::max(grid.ColWidth(col), need);
+    const bool isText = grid.ColAlignment(col) == kAlignLeft;
+    columns.push_back({isShown ? width : 0, isText, isText ? 0 : need, choice.width});
+  }
+  takers_ = ColumnRoom::Takers(columns);
+  widths_ = ColumnRoom::Share(columns, Scale::Twips(room));
   lefts_.assign(1, 0);
   long twips = 0;
-  for (int col = 0; col < grid.Cols; ++col) {
-    twips += std::max(grid.ColWidth(col), 0L);
-    lefts_.push_back(static_cast<int>(std::lround(Scale::Px(twips) * stretch)));
-  }
+  for (const long width : widths_) lefts_.push_back(Scale::Px(twips += width));
 }
 
 bool GridLayout::Fits(const GridModel& grid) const { return modelRows_ == grid.Rows && Cols() == grid.Cols; }

@@ -3,6 +3,7 @@
 #include <QRect>
 #include <vector>
 
+#include "desk/qt/adapters/ColumnChoices.h"
 #include "host/controls/GridModel.h"
 
 namespace quillon {
@@ -11,8 +12,13 @@ namespace quillon {
 /// columns are left out once, so that they cost nothing afterwards.
 class GridLayout {
  public:
-  /// `room` is the width to fill, in pixels: what the columns leave of it is shared among them in proportion.
-  void Measure(const GridModel& grid, int room);
+  /// Rows and titles.
+  void Measure(const GridModel& grid);
+
+  /// Quick, whatever the number of rows. `needs` are the widths, in twips, below which a column would not
+  /// tell what it has; `room` is the width to fill, in pixels.
+  void MeasureColumns(const GridModel& grid, const ColumnChoices& choices, const std::vector<long>& needs,
+                      int room);
 
   /// False when rows or columns were added or taken since.
   bool Fits(const GridModel& grid) const;
@@ -24,6 +30,15 @@ class GridLayout {
   int ColLeft(int col) const { return lefts_[static_cast<std::size_t>(col)]; }
   int ColWidth(int col) const { return ColLeft(col + 1) - ColLeft(col); }
   int Width() const { return lefts_.back(); }
+
+  /// The same in twips.
+  const std::vector<long>& ColumnTwips() const { return widths_; }
+
+  /// The columns that the user put aside; empty where there is none.
+  const std::vector<bool>& Aside() const { return aside_; }
+
+  /// The columns that take the room that the others leave.
+  const std::vector<bool>& Takers() const { return takers_; }
   int Cols() const { return static_cast<int>(lefts_.size()) - 1; }
 
   /// By place among the shown rows.
@@ -45,8 +60,6 @@ class GridLayout {
   int ColAt(int x) const;
 
  private:
-  void MeasureColumns(const GridModel& grid, int room);
-
   int modelRows_ = 0;
   std::vector<std::size_t> places_;  // of each row, where they are shown in another order than their own
   std::vector<int> rows_;
@@ -54,6 +67,9 @@ class GridLayout {
   std::vector<int> titles_;
   std::vector<int> titleTops_{0};
   std::vector<int> lefts_{0};
+  std::vector<long> widths_;
+  std::vector<bool> takers_;
+  std::vector<bool> aside_;
 };
 
 }  // namespace quillon

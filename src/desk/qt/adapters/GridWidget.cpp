@@ -19,7 +19,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int kPadding = 6;
+constexpr long kPadding = 90;  // twips
 constexpr int kLineTop = 2;
 constexpr const char* kRuled = "*hline1*";
 
@@ -43,9 +43,12 @@ Qt::Alignment AlignmentOf(int alignment) {
 
 GridWidget::GridWidget(GridModel& model, QWidget* parent) : QAbstractScrollArea(parent), model_(model) {
   setFrameShape(QFrame::NoFrame);
+  viewport()->setMouseTracking(true);
   viewport()->setAutoFillBackground(false);
   GridAccessible::Offer();
 }
+
+int GridWidget::Padding() { return Scale::Px(kPadding); }
 
 void GridWidget::Touch() {
   stale_ = true;
@@ -56,7 +59,9 @@ void GridWidget::Touch() {
 }
 
 void GridWidget::Measure() {
-  layout_.Measure(model_, viewport()->width());
+  layout_.Measure(model_);
+  needs_ = Needs();
+  layout_.MeasureColumns(model_, columns_, needs_, viewport()->width());
   stale_ = false;
   UpdateBars();
 }
@@ -129,7 +134,8 @@ int GridWidget::WholeFrom(int scrolling) const {
 void GridWidget::TellSight() {
   const QRect body = Body();
   model_.TellSight({Scale::Twips(horizontalScrollBar()->value()), Scale::Twips(Scrolled()),
-                    Scale::Twips(body.width()), Scale::Twips(body.height())});
+                    Scale::Twips(body.width()), Scale::Twips(body.height()), layout_.ColumnTwips(),
+                    layout_.Aside()});
 }
 
 void GridWidget::ScrollTo(int row, int col) {
@@ -161,7 +167,7 @@ int GridWidget::FooterHeight() const {
 int GridWidget::FooterLine() const {
   const auto* plus = dynamic_cast<const CGridPlus*>(&model_);
   if (plus == nullptr || plus->Footer.Rows() == 0) return 0;
-  return std::max(Scale::Px(plus->FooterLine()), fontMetrics().height() + kPadding);
+  return std::max(Scale::Px(plus->FooterLine()), fontMetrics().height() + Padding());
 }
 
 QRect GridWidget::Body() const {
@@ -181,12 +187,14 @@ QRect GridWidget::CellRect(int row, int col) const {
   return {X(col), y, layout_.ColWidth(col), layout_.RowHeight(place)};
 }
 
+QRect GridWidget::CursorRect() const { return CellRect(model_.Row, model_.Col) & Body(); }
+
 QString GridWidget::CursorText() const {
   const int row = model_.Row;
   if (row < model_.FixedRows || row >= model_.Rows || model_.Col >= model_.Cols) return {};
   QStringList cells;
   for (int col = 0; col < model_.Cols; ++col) {
-    const bool wanted = model_.IsColVisible(model_.Col) ? col == model_.Col : model_.IsColVisible(col);
+    const bool wanted = model_.IsColShown(model_.Col) ? col == model_.Col : model_.IsColShown(col);
     const std::string text(Known(row, col));
     if (!wanted || text.empty()) continue;
     const std::string title = model_.FixedRows > 0 ? model_.TextMatrix(0, col) + ": " : std::string();
@@ -243,7 +251,7 @@ bool GridWidget::DrawLines(QPainter& painter, const QRect& cell, const QString& 
 
 void GridWidget::DrawText(QPainter& painter, QRect cell, std::string_view text, int alignment) const {
   if (text.empty()) return;
-  cell.adjust(kPadding, 0, -kPadding, 0);
+  cell.adjust(Padding(), 0, -Padding(), 0);
   QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   if (DrawLines(painter, cell, shown, alignment)) return;
   const QFontMetrics metrics(painter.font());
@@ -270,7 +278,7 @@ void GridWidget::paintEvent(QPaintEvent* /*event*/) {
   if (stale_ || !layout_.Fits(model_)) Measure();
   if (model_.HasView() && layout_.Rows().empty()) {
     painter.setPen(Theme::Muted());
-    painter.drawText(Body().adjusted(kPadding, kPadding, -kPadding, 0), Qt::AlignTop | Qt::AlignLeft,
+    painter.drawText(Body().adjusted(Padding(), Padding(), -Padding(), 0), Qt::AlignTop | Qt::AlignLeft,
                      QStringLiteral("Nothing found"));
   }
   PaintRows(painter);
@@ -298,7 +306,7 @@ void GridWidget::PaintTitles(QPainter& painter) const {
     const int row = layout_.Titles()[place];
     EachCol(painter, band, [&](int col, const QRect& cell) {
       painter.setPen(Theme::Border());
-      painter.drawLine(cell.right(), cell.top() + kPadding, cell.right(), cell.bottom() - kPadding);
+      painter.drawLine(cell.right(), cell.top() + Padding(), cell.right(), cell.bottom() - Padding());
       painter.setPen(Theme::Text());
       const bool sorts = col == model_.Look.SortedBy() && place + 1 == layout_.Titles().size();
       const std::string arrow = !sorts ? "" : model_.Look.IsDownwards() ? " ▼" : " ▲";
@@ -420,10 +428,15 @@ void GridWidget::scrollContentsBy(int /*dx*/, int /*dy*/) {
 }
 
 void GridWidget::mousePressEvent(QMouseEvent* event) {
+  if (const int border = BorderAt(event->position().toPoint()); border >= 0) {
+    pressed_ = {};
+    if (event->button() == Qt::LeftButton) StartDrag(border, event->position().toPoint().x());
+    return;
+  }
   pressed_ = event->button() == Qt::LeftButton ? CellAt(event->position().toPoint()) : CellPlace();
   dragged_ = pressed_;
   const QPoint at = event->position().toPoint();
-  if (event->button() == Qt::LeftButton && at.y() >= TitleLine() && at.y() < Body().top()) {
+  if (event->button() == Qt::LeftButton && IsOnHeadings(at)) {
     const int col = ColAt(at.x());
     if (OnHeading && col >= 0) OnHeading(col);
   }
@@ -437,6 +450,17 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void GridWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (drag_) {
+    DragTo(event->position().toPoint().x());
+    return;
+  }
+  if (event->buttons() == Qt::NoButton) {
+    if (BorderAt(event->position().toPoint()) >= 0) {
+      viewport()->setCursor(Qt::SplitHCursor);
+    } else {
+      viewport()->unsetCursor();
+    }
+  }
   if (pressed_.row < 0 || !(event->buttons() & Qt::LeftButton)) return;
   const CellPlace over = CellAt(event->position().toPoint());
   if (over.row < 0 || over.col < 0 || over == dragged_) return;
@@ -444,9 +468,18 @@ void GridWidget::mouseMoveEvent(QMouseEvent* event) {
   if (OnDrag) OnDrag(pressed_.row, pressed_.col, over.row, over.col);
 }
 
-void GridWidget::mouseReleaseEvent(QMouseEvent* /*event*/) { pressed_ = {}; }
+void GridWidget::mouseReleaseEvent(QMouseEvent* /*event*/) {
+  pressed_ = {};
+  if (!drag_) return;
+  drag_.reset();
+  columns_.Keep();
+}
 
 void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (const int border = BorderAt(event->position().toPoint()); border >= 0) {
+    if (event->button() == Qt::LeftButton) FitColumn(border);
+    return;
+  }
   const CellPlace cell = CellAt(event->position().toPoint());
   if (event->button() != Qt::LeftButton || cell.row < 0 || cell.col < 0) return;
   if (OnDoubleClick) OnDoubleClick(cell.row, cell.col);
@@ -454,7 +487,9 @@ void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void GridWidget::contextMenuEvent(QContextMenuEvent* event) {
   if (!OnMenu) return;
-  if (event->reason() == QContextMenuEvent::Mouse) {
+  if (event->reason() == QContextMenuEvent::Mouse && IsOnHeadings(event->pos())) {
+    if (OnHeadingMenu) OnHeadingMenu(ColAt(event->pos().x()), event->globalPos());
+  } else if (event->reason() == QContextMenuEvent::Mouse) {
     const CellPlace cell = CellAt(event->pos());
     OnMenu(cell.row, cell.col, event->globalPos());
   } else {
@@ -470,7 +505,7 @@ bool GridWidget::viewportEvent(QEvent* event) {
   QString text;
   if (cell.row >= 0 && cell.col >= 0 && model_.Redraw && layout_.Fits(model_)) {
     text = QString::fromStdString(std::string(Known(cell.row, cell.col)));
-    if (fontMetrics().horizontalAdvance(text) <= layout_.ColWidth(cell.col) - 2 * kPadding) text.clear();
+    if (fontMetrics().horizontalAdvance(text) <= layout_.ColWidth(cell.col) - 2 * Padding()) text.clear();
   }
   QToolTip::showText(help->globalPos(), text, this);
   return true;

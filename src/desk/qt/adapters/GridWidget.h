@@ -2,6 +2,7 @@
 
 #include <QAbstractScrollArea>
 #include <functional>
+#include <optional>
 
 #include "desk/qt/adapters/GridLayout.h"
 
@@ -13,10 +14,15 @@ class GridWidget : public QAbstractScrollArea {
  public:
   GridWidget(GridModel& model, QWidget* parent);
 
+  const GridModel& Model() const { return model_; }
+
   /// The mouse on a cell: pressed, dragged on to another one (the cell pressed comes first), clicked twice.
   std::function<void(int row, int col)> OnPress;
 
-  /// Pressed on a heading.
+  /// The menu is asked for on a heading; -1 where no column is.
+  std::function<void(int col, const QPoint& place)> OnHeadingMenu;
+
+  /// Clicked on a heading.
   std::function<void(int col)> OnHeading;
 
   /// Pressed with Shift held.
@@ -36,6 +42,21 @@ class GridWidget : public QAbstractScrollArea {
   /// Called when cells have moved on the screen.
   std::function<void()> OnMoved;
 
+  /// What a person has made of the columns, which he may once they are kept under a name.
+  const ColumnChoices& Columns() const { return columns_; }
+  void KeepColumnsAs(const QString& name);
+
+  /// As wide as its widest text.
+  void FitColumn(int col);
+
+  /// In twips; no column becomes too narrow to be seen.
+  void WidenColumn(int col, long by);
+  void PutAside(int col, bool aside);
+  void ResetColumns();
+
+  /// In pixels; 0 for one that is not shown.
+  int ColWidth(int col) const { return layout_.ColWidth(col); }
+
   /// The model changed; it is measured and drawn when the hand is free.
   void Touch();
 
@@ -48,6 +69,9 @@ class GridWidget : public QAbstractScrollArea {
 
   /// In the viewport; also of a cell that is scrolled out of sight. Empty for a hidden one.
   QRect CellRect(int row, int col) const;
+
+  /// That of the cursor, as much of it as is in sight.
+  QRect CursorRect() const;
 
   /// The cursor's row and cell in words: "Row 3, Cleared On: 05-Apr-2024".
   QString CursorText() const;
@@ -67,13 +91,36 @@ class GridWidget : public QAbstractScrollArea {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  static int Padding();
+
   struct CellPlace {
     int row = -1;
     int col = -1;
     bool operator==(const CellPlace&) const = default;
   };
 
+  /// A border between two columns that the mouse drags.
+  struct Drag {
+    int col;
+    int beside;  // the shown column behind it, or -1
+    int from;
+    long width;
+    long besideWidth;
+  };
+
   void Measure();
+  void MeasureColumns();
+  int BorderAt(const QPoint& point) const;
+  bool IsOnHeadings(const QPoint& point) const;
+  void StartDrag(int col, int x);
+  void DragTo(int x);
+  void SetColumn(int col, long width);
+  int TextWidth(std::string_view text) const;
+  template <class Take>
+  void EachOuterText(int col, const Take& take) const;
+
+  /// The widths in which headings, dates and amounts can be read, in twips.
+  std::vector<long> Needs() const;
   void UpdateBars();
   void Look();
   std::string_view Known(int row, int col) const;
@@ -102,6 +149,10 @@ class GridWidget : public QAbstractScrollArea {
 
   GridModel& model_;
   GridLayout layout_;
+  ColumnChoices columns_;
+  std::vector<long> needs_;
+  std::optional<Drag> drag_;
+  bool keepsColumns_ = false;
   CellPlace cursor_;
   CellPlace pressed_;
   CellPlace dragged_;

@@ -20,15 +20,16 @@ QString NameOf(const KeyEvent& key) {
 }  // namespace
 
 void KeyMenu::Show(QWidget& widget, const QPoint& place, Control& control,
-                   const std::vector<Control::KeyChoice>& choices) {
-  if (choices.empty()) return;
+                   const std::vector<Control::KeyChoice>& choices, const std::function<void(QMenu&)>& more) {
   QMenu menu(&widget);
   for (const Control::KeyChoice& choice : choices) {
     menu.addAction(QString::fromStdString(choice.words) + QLatin1Char('\t') + NameOf(choice.key));
   }
+  if (more) more(menu);
+  if (menu.isEmpty()) return;
   const FormPtr form = control.OwnerForm().Self();
   const auto taken = menu.actions().indexOf(menu.exec(place));
-  if (taken < 0) return;
+  if (taken < 0 || taken >= static_cast<qsizetype>(choices.size())) return;
   const KeyEvent key = choices[static_cast<std::size_t>(taken)].key;
   Acts::Run([&] { form->UserKey(key.KeyCode, key.Shift, 0); });
 }

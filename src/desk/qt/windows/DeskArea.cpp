@@ -4,16 +4,12 @@
 
 namespace quillon {
 
-DeskArea::DeskArea(QWidget* parent) : QScrollArea(parent), ground_(new QWidget) {
-  setFrameShape(QFrame::NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  setWidget(ground_);
-}
+DeskArea::DeskArea(QWidget* parent) : QWidget(parent) {}
 
 void DeskArea::Bring(FormView& view) {
   views_.removeAll(&view);
   views_.append(&view);
-  if (view.parentWidget() != ground_) view.setParent(ground_);
+  if (view.parentWidget() != this) view.setParent(this);
   Fit();
 }
 
@@ -27,17 +23,15 @@ FormView* DeskArea::Top() const { return views_.isEmpty() ? nullptr : views_.las
 
 void DeskArea::Fit() {
   FormView* const top = Top();
-  const QSize room = viewport()->size();
-  ground_->resize(top != nullptr ? top->size().expandedTo(room) : room);
-  if (top != nullptr) top->show();
+  if (top != nullptr) {
+    top->setGeometry(rect());
+    top->show();
+  }
   for (FormView* view : views_) {
     if (view != top) view->hide();
   }
 }
 
-void DeskArea::resizeEvent(QResizeEvent* event) {
-  QScrollArea::resizeEvent(event);
-  Fit();
-}
+void DeskArea::resizeEvent(QResizeEvent* /*event*/) { Fit(); }
 
 }  // namespace quillon

@@ -1,21 +1,19 @@
 #pragma once
 
-#include <QScrollArea>
+#include <QWidget>
 
 namespace quillon {
 
 class FormView;
 
-/// The part of the main window in which the full screens lie, one above the other; the top one shows.
-class DeskArea : public QScrollArea {
+/// The part of the main window in which the full screens lie, one above the other; the top one shows and
+/// fills it.
+class DeskArea : public QWidget {
  public:
   explicit DeskArea(QWidget* parent = nullptr);
 
   void Bring(FormView& view);
   void Remove(FormView& view);
-
-  /// Shows the top screen whole, by scroll bars where the room does not do.
-  void Fit();
 
   /// The screen that shows, or nothing.
   FormView* Top() const;
@@ -24,7 +22,8 @@ class DeskArea : public QScrollArea {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  QWidget* ground_;
+  void Fit();
+
   QList<FormView*> views_;
 };
 

@@ -18,6 +18,7 @@
 #include "desk/firm/FirmFile.h"
 #include "desk/firm/FirmLock.h"
 #include "desk/qt/adapters/Acts.h"
+#include "desk/qt/adapters/ElidedLabel.h"
 #include "desk/qt/adapters/Icons.h"
 #include "desk/qt/adapters/Scale.h"
 #include "desk/qt/adapters/Theme.h"
@@ -42,10 +43,31 @@ namespace {
 constexpr int kWidth = 1280;
 constexpr int kHeight = 760;
 constexpr long kBesideAmounts = 300;
+constexpr ScreenArea kLeastArea{0, 0, 15000, 7800};
+constexpr long kLeastPart = 300;
 constexpr int kSaidFor = 8000;  // milliseconds
 constexpr int kLookEvery = 3000;
 
-QString PlaceKey() { return QStringLiteral("place"); }
+/// Each set of displays has a place of its own.
+QString PlaceKey() {
+  QStringList displays;
+  for (const QScreen* display : QApplication::screens()) {
+    const QRect place = display->geometry();
+    displays << QStringLiteral("%1x%2+%3+%4")
+                    .arg(place.width())
+                    .arg(place.height())
+                    .arg(place.left())
+                    .arg(place.top());
+  }
+  return QStringLiteral("place/") + displays.join(QLatin1Char(' '));
+}
+
+/// What finds no room in the line ends in dots.
+QLabel* NewPartOfLine(QWidget* parent) {
+  auto* const part = new ElidedLabel(parent);
+  part->setMinimumWidth(Scale::Px(kLeastPart));
+  return part;
+}
 
 }  // namespace
 
@@ -53,11 +75,11 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
     : runtime_(runtime),
       area_(new DeskArea(this)),
       start_(new StartPage(this)),
-      firm_(new QLabel(this)),
+      firm_(NewPartOfLine(this)),
       year_(new QToolButton(this)),
-      user_(new QLabel(this)),
-      selected_(new QLabel(this)),
-      busy_(new QLabel(this)) {
+      user_(NewPartOfLine(this)),
+      selected_(NewPartOfLine(this)),
+      busy_(NewPartOfLine(this)) {
   setWindowIcon(Icons::Of(QStringLiteral("desk")));
   auto* const middle = new QWidget(this);
   auto* const pages = new QStackedLayout(middle);
@@ -79,9 +101,7 @@ DeskWindow::DeskWindow(QtRuntime& runtime, const std::string& modulePath)
   BuildMenus();
   runtime_.SetArea(area_);
   runtime_.OnBusy = [this](bool on, const std::string& text) { ShowBusy(on, text); };
-  runtime_.OnSaid = [this](const std::string& text) {
-    statusBar()->showMessage(QString::fromStdString(text), kSaidFor);
-  };
+  runtime_.OnSaid = [this](const std::string& text) { Say(QString::fromStdString(text)); };
   runtime_.OnSelected = [this](const std::string& text) { selected_->setText(QString::fromStdString(text)); };
   runtime_.OnProgress = [this](const std::string& text) { busy_->setText(QString::fromStdString(text)); };
   runtime_.OnWaiting = [this](bool on) { ShowWaiting(on); };
@@ -134,6 +154,13 @@ DeskWindow::~DeskWindow() {
 
 void DeskWindow::RestorePlace() { restoreGeometry(QSettings().value(PlaceKey()).toByteArray()); }
 
+/// In one line, as long as the window is wide; all of it under the mouse.
+void DeskWindow::Say(const QString& text) {
+  const int room = statusBar()->width() - Scale::Px(kBesideAmounts);
+  statusBar()->setToolTip(text);
+  statusBar()->showMessage(statusBar()->fontMetrics().elidedText(text, Qt::ElideRight, room), kSaidFor);
+}
+
 void DeskWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   // Its frame is known when it is on the screen.
@@ -158,7 +185,9 @@ void DeskWindow::FitScreen() {
 
 ScreenArea DeskWindow::AreaNow() const {
   const QSize room = centralWidget()->size();
-  return {0, 0, Scale::Twips(room.width()), Scale::Twips(room.height())};
+  // A screen that opens in a small window is made for a larger one, and laid out in the small one.
+  return {0, 0, std::max(kLeastArea.width, Scale::Twips(room.width())),
+          std::max(kLeastArea.height, Scale::Twips(room.height()))};
 }
 
 bool DeskWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -105,6 +105,7 @@ class DeskWindow : public QMainWindow, private ReportObserver {
   void ShowPage();
   void TakeArea();
   void FitScreen();
+  void Say(const QString& text);
   void Tell(const QString& text);
   ScreenArea AreaNow() const;
 

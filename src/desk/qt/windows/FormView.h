@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QWidget>
+#include <QScrollArea>
 #include <map>
 #include <vector>
 
+#include "desk/qt/adapters/FormRoom.h"
 #include "host/forms/Form.h"
 
 class QKeyEvent;
@@ -14,7 +15,10 @@ class Adapter;
 
 /// Shows a form: an adapter for each of its controls. Keys go to the form by one path, whatever has the
 /// toolkit's focus. Keeps the form alive.
-class FormView : public QWidget, private IControlListener {
+///
+/// Made for a picture or for paper it has the form's own size. For the user a screen takes the room that it
+/// is given and is laid out anew in it; what finds no room, in a dialog too, is reached by scrolling.
+class FormView : public QScrollArea, private IControlListener {
  public:
   explicit FormView(const FormPtr& form, QWidget* parent = nullptr, Qt::WindowFlags flags = {});
   ~FormView() override;
@@ -23,6 +27,9 @@ class FormView : public QWidget, private IControlListener {
 
   /// Nothing for a control that is not drawn, or that another one draws.
   Adapter* AdapterOf(const Control& control) const;
+
+  /// From now on it is the user's: it fills its place, and a dialog is no larger than the screen.
+  void Serve();
 
   /// All anew, after the zoom has changed.
   void Replace();
@@ -39,14 +46,24 @@ class FormView : public QWidget, private IControlListener {
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  class Ground;
+
   void ControlChanged(Control& control, const PropertyBase* property) override;
   void Build(Control& parent, QWidget* container, Adapter* holder);
   void Dress();
+  void Arrange();
+  void PlaceLists();
+  void ShowFocus();
+  QSize WholeSize() const;
 
   FormPtr form_;
+  QWidget* ground_;  // what the controls stand on
+  FormRoom room_;
+  QRect shownAt_;  // where the keys acted when it was last brought into sight
+  bool serves_ = false;
   std::vector<Adapter*> adapters_;
   std::map<const Control*, Adapter*> byControl_;
 };

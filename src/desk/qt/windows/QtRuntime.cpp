@@ -8,6 +8,7 @@
 #include <QTextDocument>
 #include <QThread>
 #include <QToolTip>
+#include <algorithm>
 #include <cmath>
 
 #include "desk/firebird/EngineThread.h"
@@ -75,8 +76,6 @@ QWidget* QtRuntime::TopWindow() const {
 
 void QtRuntime::Replace() {
   for (const auto& [form, view] : views_) view->Replace();
-  // A screen that no longer fits can be scrolled.
-  if (area_ != nullptr) area_->Fit();
 }
 
 long QtRuntime::ScreenWidth() const {
@@ -165,6 +164,7 @@ void QtRuntime::ShowView(Form& form) {
         Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
     view = screen ? new FormView(form.Self(), area_)
                   : new FormView(form.Self(), area_ ? area_->window() : nullptr, window);
+    view->Serve();
     // The desk's title names the screen.
     QObject::connect(view, &QWidget::windowTitleChanged, view, [this] {
       if (OnTopChanged) OnTopChanged();
@@ -174,7 +174,10 @@ void QtRuntime::ShowView(Form& form) {
     area_->Bring(*view);
   } else {
     view->setWindowModality(form.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
-    view->move(Scale::Px(form.Left), Scale::Px(form.Top));
+    const QRect room = view->screen()->availableGeometry();
+    const QPoint last = room.bottomRight() - QPoint(view->width(), view->height());
+    view->move(std::max(room.left(), std::min(Scale::Px(form.Left), last.x())),
+               std::max(room.top(), std::min(Scale::Px(form.Top), last.y())));
     view->show();
   }
   Settle();
