@@ -1,11 +1,13 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTreeWidget>
 
 #include "desk/qt/windows/PageView.h"
 #include "desk/qt/windows/SightWindow.h"
 #include "host/controls/CButton.h"
 #include "host/controls/ControlArray.h"
 #include "host/controls/TextBox.h"
+#include "host/forms/CPickList.h"
 #include "tests/qt/FormTest.h"
 
 namespace quillon {
@@ -155,6 +157,40 @@ TEST_F(FormsTest, WhatOnlyAnExpertReadsStandsBehindDetails) {
     QTest::keyClick(box, Qt::Key_Escape);
   });
   EXPECT_EQ(runtime_.AskMessage(request), 2);
+}
+
+TEST_F(FormsTest, APickListNarrowsToTheLinesOfWhichAWordBeginsSo) {
+  CPickList list;
+  list.Title("Choose a Bank");
+  list.AddColumn("Bank", 4500, 1);
+  list.AddColumn("Station", 2400, 1);
+  list.AddItem("State Bank of India\tKandla", 1);
+  list.AddItem("Sahyadri Bank\tPune", 2);
+  list.AddItem("Bank of Maharashtra\tPune", 3);
+  const auto lines = [] {
+    auto* const shown = QApplication::activeModalWidget()->findChild<QTreeWidget*>();
+    QStringList names;
+    for (int line = 0; line < shown->topLevelItemCount(); ++line) names << shown->topLevelItem(line)->text(0);
+    return names.join(QLatin1Char('|')).toStdString();
+  };
+  std::size_t item = 99;
+  Soon([&] {
+    QWidget* const field = QApplication::activeModalWidget()->focusWidget();
+    EXPECT_EQ(lines(), "State Bank of India|Sahyadri Bank|Bank of Maharashtra") << "the caller's order";
+    QTest::keyClicks(field, "bank");
+    EXPECT_EQ(lines(), "Bank of Maharashtra|State Bank of India|Sahyadri Bank") << "the best stands first";
+    QTest::keyClicks(field, " pu");
+    EXPECT_EQ(lines(), "Sahyadri Bank|Bank of Maharashtra");
+    QTest::keyClicks(field, "x");
+    EXPECT_EQ(lines(), "");
+    QTest::keyClick(field, Qt::Key_Return);
+    ASSERT_NE(QApplication::activeModalWidget(), nullptr) << "nothing found is nothing picked";
+    QTest::keyClick(field, Qt::Key_Backspace);
+    QTest::keyClick(field, Qt::Key_Down);
+    QTest::keyClick(field, Qt::Key_Return);
+  });
+  ASSERT_TRUE(runtime_.AskPick(list, item));
+  EXPECT_EQ(item, 2U) << "its number is the caller's";
 }
 
 TEST_F(FormsTest, SentKeysReachTheFormThatTheKeyOpened) {
