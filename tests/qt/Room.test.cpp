@@ -1,3 +1,4 @@
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -5,6 +6,7 @@
 #include "desk/qt/adapters/EdgeLayout.h"
 #include "desk/qt/adapters/GridWidget.h"
 #include "desk/qt/adapters/Scale.h"
+#include "desk/qt/dialogs/DeskDialog.h"
 #include "host/controls/host_controls.h"
 #include "host/services/ISession.h"
 #include "host/values/Text.h"
@@ -199,6 +201,33 @@ TEST_F(RoomTest, AFaceWithMeasuresIsNeverStretched) {
   Acts::Run([&] { face->UserFocus(face->btnFar); });
   EXPECT_TRUE(view.rect().contains(PlaceOf("btnFar"))) << "what the keys come to is scrolled to";
   runtime_.Unload(*face);
+}
+
+/// A dialog of the desk with many fields.
+class FieldsDialog : public DeskDialog {
+ public:
+  FieldsDialog() : DeskDialog(QStringLiteral("Fields"), nullptr) {
+    for (int field = 0; field < 40; ++field) Content().addWidget(new QLineEdit(this));
+    AddOkCancel();
+    findChild<QLineEdit*>()->setFocus();
+  }
+};
+
+TEST_F(RoomTest, ADialogOfTheDeskKeepsItsButtonsOnTheScreenAndScrollsToItsFields) {
+  FieldsDialog dialog;
+  dialog.show();
+  QApplication::processEvents();
+  EXPECT_TRUE(dialog.screen()->availableGeometry().contains(QRect(QPoint(), dialog.size())));
+  const auto fields = dialog.findChildren<QLineEdit*>();
+  ASSERT_EQ(dialog.focusWidget(), fields.first());
+  const auto inSight = [](const QWidget* widget) {
+    return widget->visibleRegion().boundingRect() == widget->rect();
+  };
+  EXPECT_FALSE(inSight(fields.last()));
+  for (const QPushButton* button : dialog.findChildren<QPushButton*>()) EXPECT_TRUE(inSight(button));
+  for (int field = 1; field < fields.size(); ++field) QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+  ASSERT_EQ(dialog.focusWidget(), fields.last());
+  EXPECT_TRUE(inSight(fields.last()));
 }
 
 /// A dialog that is larger than the screen.

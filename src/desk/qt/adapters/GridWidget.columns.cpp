@@ -17,8 +17,10 @@ constexpr long kWidest = 60'000;
 constexpr std::size_t kSample = 100;
 constexpr std::string_view kWidestDate = "28-May-2024";
 
+/// "28-May-2024", or "28/05/2024", which are all equally wide.
 bool IsDate(std::string_view text) {
-  return text.size() == kWidestDate.size() && text[2] == '-' && text[6] == '-';
+  const bool isNamed = text.size() == kWidestDate.size() && text[2] == '-' && text[6] == '-';
+  return isNamed || (text.size() == kWidestDate.size() - 1 && text[2] == '/' && text[5] == '/');
 }
 
 }  // namespace
@@ -116,7 +118,7 @@ std::vector<long> GridWidget::Needs() const {
       const bool isDate = IsDate(text);
       if (text.size() < longest || (!isDate && model_.ColAlignment(col) == kAlignLeft)) continue;
       longest = isDate ? text.size() + 1 : text.size();
-      width = std::max(width, TextWidth(isDate ? kWidestDate : text));
+      width = std::max(width, TextWidth(isDate && text[2] == '-' ? kWidestDate : text));
     }
     // What is so much longer is no figure.
     const long most = 2 * model_.ColWidth(col);

@@ -1,9 +1,12 @@
 #include "desk/qt/dialogs/DeskDialog.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
 
 #include "desk/qt/adapters/PushButton.h"
 #include "desk/qt/adapters/Scale.h"
@@ -16,26 +19,30 @@ namespace {
 constexpr long kMargin = 240;
 constexpr long kGap = 120;
 
+// What the window manager puts around a dialog.
+constexpr long kFrameSides = 150;
+constexpr long kFrameTop = 600;
+
 }  // namespace
 
 DeskDialog::DeskDialog(const QString& title, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      all_(new QVBoxLayout(this)),
       content_(new QVBoxLayout),
       buttons_(new QHBoxLayout),
       fault_(new QLabel(this)) {
   setWindowTitle(title);
   const int margin = Scale::Px(kMargin);
-  auto* const all = new QVBoxLayout(this);
-  all->setContentsMargins(margin, margin, margin, margin);
-  all->setSpacing(Scale::Px(kGap));
+  all_->setContentsMargins(margin, margin, margin, margin);
+  all_->setSpacing(Scale::Px(kGap));
   content_->setSpacing(Scale::Px(kGap));
-  all->addLayout(content_, 1);
+  all_->addLayout(content_, 1);
   fault_->setWordWrap(true);
   fault_->setStyleSheet(QStringLiteral("color: #A3261B"));
   fault_->hide();
-  all->addWidget(fault_);
-  all->addSpacing(Scale::Px(kGap));
-  all->addLayout(buttons_);
+  all_->addWidget(fault_);
+  all_->addSpacing(Scale::Px(kGap));
+  all_->addLayout(buttons_);
   buttons_->setSpacing(Scale::Px(kGap));
   buttons_->addStretch(1);
 }
@@ -84,6 +91,34 @@ void DeskDialog::keyPressEvent(QKeyEvent* event) {
   } else if (!(plain && enter && MoveOn())) {
     QDialog::keyPressEvent(event);
   }
+}
+
+void DeskDialog::setVisible(bool visible) {
+  if (visible && !scrolls_) KeepOnScreen();
+  QDialog::setVisible(visible);
+}
+
+/// The buttons stay in sight below what is scrolled.
+void DeskDialog::KeepOnScreen() {
+  const QSize room = screen()->availableSize() - QSize(Scale::Px(kFrameSides), Scale::Px(kFrameTop));
+  const QSize wanted = sizeHint();
+  if (wanted.boundedTo(room) == wanted) return;
+  scrolls_ = true;
+  QWidget* const focused = focusWidget();
+  auto* const area = new QScrollArea(this);
+  all_->removeItem(content_);
+  content_->setParent(nullptr);
+  auto* const ground = new QWidget;
+  ground->setLayout(content_);
+  area->setWidget(ground);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  all_->insertWidget(0, area, 1);
+  connect(qApp, &QApplication::focusChanged, area, [area](QWidget* /*left*/, QWidget* now) {
+    if (now != nullptr && area->isAncestorOf(now)) area->ensureWidgetVisible(now);
+  });
+  resize(wanted.boundedTo(room));
+  if (focused != nullptr) focused->setFocus();
 }
 
 void DeskDialog::showEvent(QShowEvent* event) {

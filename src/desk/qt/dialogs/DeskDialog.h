@@ -11,7 +11,7 @@ namespace quillon {
 class PushButton;
 
 /// A dialog of the desk: its content above a row of buttons. F7 is OK, Esc is Cancel; Enter moves on from
-/// field to field and is OK in the last one.
+/// field to field and is OK in the last one. A content that is too large for the screen can be scrolled.
 class DeskDialog : public QDialog {
  public:
   DeskDialog(const QString& title, QWidget* parent);
@@ -34,17 +34,21 @@ class DeskDialog : public QDialog {
 
   void keyPressEvent(QKeyEvent* event) override;
   void done(int result) override;
+  void setVisible(bool visible) override;
   void showEvent(QShowEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void Confirm();
   bool MoveOn();
+  void KeepOnScreen();
 
+  QVBoxLayout* all_;
   QVBoxLayout* content_;
   QHBoxLayout* buttons_;
   QLabel* fault_;
   bool hasOk_ = false;
+  bool scrolls_ = false;
 };
 
 }  // namespace quillon
