@@ -76,6 +76,8 @@ void WindowWork::OpenWorkbench() {
 }
 
 void WindowWork::CloseWorkbench() {
+  if (dragged_) SendMouse(QEvent::MouseButtonRelease, *dragged_);
+  dragged_.reset();
   Press(Qt::Key_Escape);
   Paint();
 }
@@ -100,16 +102,16 @@ void WindowWork::SendMouse(QEvent::Type type, const QPoint& place) {
 }
 
 void WindowWork::DragColumn() {
-  int col = 0;
-  while (grid_->ColWidth(col) == 0) ++col;
-  const QRect cell = grid_->CellRect(grid_->Model().Row, col);
-  const QPoint border(cell.right() + 1, grid_->Body().top() - 2);
   const Painted painted(*grid_->viewport());
-  SendMouse(QEvent::MouseButtonPress, border);
-  SendMouse(QEvent::MouseMove, border + QPoint(++frame_ % 2 == 0 ? -kDragged : kDragged, 0));
+  if (!dragged_) {
+    int col = 0;
+    while (grid_->ColWidth(col) == 0) ++col;
+    dragged_ = QPoint(grid_->CellRect(grid_->Model().Row, col).right() + 1, grid_->Body().top() - 2);
+    SendMouse(QEvent::MouseButtonPress, *dragged_);
+  }
+  SendMouse(QEvent::MouseMove, *dragged_ + QPoint(++frame_ % kDragged, 0));
   QApplication::processEvents();
   if (!painted.Was()) throw HostError("The grid was not painted");
-  SendMouse(QEvent::MouseButtonRelease, border);
 }
 
 void WindowWork::DragWindow() {

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPointer>
 #include <filesystem>
+#include <optional>
 
 #include "desk/qt/adapters/GridWidget.h"
 #include "desk/qt/windows/DeskWindow.h"
@@ -42,6 +43,7 @@ class WindowWork {
   DeskWindow window_{runtime_, ""};
   QPointer<GridWidget> grid_;
   int frame_ = 0;
+  std::optional<QPoint> dragged_;  // where a column's border was taken
 };
 
 }  // namespace quillon::bench

@@ -67,8 +67,19 @@ void Adapter::ControlChanged(Control& /*control*/, const PropertyBase* property)
   Draw();
 }
 
+QRect Adapter::Place() const {
+  return holder_ != nullptr ? holder_->PlaceOf(model_) : room_->PlaceOf(model_);
+}
+
+void Adapter::TakePlace() {
+  const QRect place = Place();
+  if (place == widget_->geometry()) return;
+  widget_->setGeometry(place);
+  Replaced();
+}
+
 void Adapter::Dress() {
-  widget_->setGeometry(holder_ != nullptr ? holder_->PlaceOf(model_) : room_->PlaceOf(model_));
+  widget_->setGeometry(Place());
   widget_->setEnabled(model_.Enabled());
   widget_->setFont(Scale::FontOf(model_.Font));
   Color();

@@ -39,6 +39,9 @@ class Adapter : public QObject, public IControlListener {
     holder_ = holder;
   }
 
+  /// Goes where the form's room has the control now.
+  void TakePlace();
+
   /// Draws all anew.
   void Refresh();
 
@@ -50,6 +53,9 @@ class Adapter : public QObject, public IControlListener {
  protected:
   /// What is the kind's own.
   virtual void Draw() = 0;
+
+  /// The widget has another place or size.
+  virtual void Replaced() { Draw(); }
 
   /// What every control has: place, visibility, colours, font, names.
   virtual void Dress();
@@ -68,6 +74,7 @@ class Adapter : public QObject, public IControlListener {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  QRect Place() const;
   void Color();
 
   Control& model_;

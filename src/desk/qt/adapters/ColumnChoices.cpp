@@ -50,30 +50,40 @@ QString ColumnChoices::HeadingOf(const GridModel& grid, int col) {
 }
 
 /// Columns of the same heading are told apart by their order.
-QString ColumnChoices::KeyOf(const GridModel& grid, int col) {
-  const QString heading = HeadingOf(grid, col);
-  int same = 1;
-  for (int before = 0; before < col; ++before) {
-    if (grid.IsColVisible(before) && HeadingOf(grid, before) == heading) ++same;
+std::vector<QString> ColumnChoices::KeysOf(const GridModel& grid) {
+  std::vector<QString> keys(static_cast<std::size_t>(grid.Cols()));
+  std::map<QString, int> seen;
+  for (int col = 0; col < grid.Cols; ++col) {
+    if (!grid.IsColVisible(col)) continue;
+    const QString heading = HeadingOf(grid, col);
+    const int same = ++seen[heading];
+    keys[static_cast<std::size_t>(col)] = same == 1 ? heading : heading + QStringLiteral(" #%1").arg(same);
   }
-  return same == 1 ? heading : heading + QStringLiteral(" #%1").arg(same);
+  return keys;
 }
 
-ColumnChoices::Choice ColumnChoices::Of(const GridModel& grid, int col) const {
-  if (choices_.empty() || !grid.IsColVisible(col)) return {};
-  const auto chosen = choices_.find(KeyOf(grid, col));
-  if (chosen == choices_.end()) return {};
-  Choice choice = chosen->second;
-  choice.isAside = choice.isAside && MayPutAside(grid, col);
-  return choice;
+std::vector<ColumnChoices::Choice> ColumnChoices::Of(const GridModel& grid) const {
+  std::vector<Choice> all(static_cast<std::size_t>(grid.Cols()));
+  if (choices_.empty()) return all;
+  const std::vector<QString> keys = KeysOf(grid);
+  for (int col = 0; col < grid.Cols; ++col) {
+    const auto place = static_cast<std::size_t>(col);
+    const auto chosen = choices_.find(keys[place]);
+    if (!grid.IsColVisible(col) || chosen == choices_.end()) continue;
+    all[place] = chosen->second;
+    all[place].isAside = all[place].isAside && MayPutAside(grid, col);
+  }
+  return all;
 }
 
-void ColumnChoices::SetWidth(const GridModel& grid, int col, long width) {
-  choices_[KeyOf(grid, col)].width = width;
+ColumnChoices::Choice& ColumnChoices::At(const GridModel& grid, int col) {
+  return choices_[KeysOf(grid)[static_cast<std::size_t>(col)]];
 }
+
+void ColumnChoices::SetWidth(const GridModel& grid, int col, long width) { At(grid, col).width = width; }
 
 void ColumnChoices::PutAside(const GridModel& grid, int col, bool aside) {
-  if (MayPutAside(grid, col)) choices_[KeyOf(grid, col)].isAside = aside;
+  if (MayPutAside(grid, col)) At(grid, col).isAside = aside;
 }
 
 void ColumnChoices::Reset() { choices_.clear(); }

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <map>
+#include <vector>
 
 #include "host/controls/GridModel.h"
 
@@ -19,7 +20,8 @@ class ColumnChoices {
   /// From now on they are kept under this name, "frmAccount.Grid", and those that are kept hold.
   void KeepAs(const QString& name);
 
-  Choice Of(const GridModel& grid, int col) const;
+  /// Of all columns.
+  std::vector<Choice> Of(const GridModel& grid) const;
   bool IsEmpty() const { return choices_.empty(); }
 
   void SetWidth(const GridModel& grid, int col, long width);
@@ -36,7 +38,9 @@ class ColumnChoices {
   static QString HeadingOf(const GridModel& grid, int col);
 
  private:
-  static QString KeyOf(const GridModel& grid, int col);
+  /// By column; empty for one that the screen hides.
+  static std::vector<QString> KeysOf(const GridModel& grid);
+  Choice& At(const GridModel& grid, int col);
 
   QString name_;
   std::map<QString, Choice> choices_;

@@ -24,6 +24,7 @@ class GridAdapter : public Adapter {
  protected:
   void Draw() override;
   void Dress() override;
+  void Replaced() override {}  // the grid itself sees to it
   std::string SpokenName() const override;
 
  private:

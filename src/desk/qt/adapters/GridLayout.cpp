@@ -40,8 +40,9 @@ void GridLayout::MeasureColumns(const GridModel& grid, const ColumnChoices& choi
                                 const std::vector<long>& needs, int room) {
   std::vector<ColumnRoom::Column> columns;
   aside_.assign(choices.IsEmpty() ? 0 : static_cast<std::size_t>(grid.Cols()), false);
+  const std::vector<ColumnChoices::Choice> chosen = choices.Of(grid);
   for (int col = 0; col < grid.Cols; ++col) {
-    const ColumnChoices::Choice choice = choices.Of(grid, col);
+    const ColumnChoices::Choice& choice = chosen[static_cast<std::size_t>(col)];
     if (choice.isAside) aside_[static_cast<std::size_t>(col)] = true;
     const bool isShown = grid.IsColVisible(col) && !choice.isAside;
     const long need = needs[static_cast<std::size_t>(col)];

@@ -52,6 +52,10 @@ int GridWidget::Padding() { return Scale::Px(kPadding); }
 
 void GridWidget::Touch() {
   stale_ = true;
+  SettleSoon();
+}
+
+void GridWidget::SettleSoon() {
   if (waiting_) return;
   waiting_ = true;
   QMetaObject::invokeMethod(
@@ -415,9 +419,10 @@ void GridWidget::PlaceStrip() {
 
 void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
   PlaceStrip();
-  stale_ = true;
   cursor_ = {};
-  Touch();
+  // The rows are as they were.
+  if (!stale_ && layout_.Fits(model_)) MeasureColumns();
+  SettleSoon();
 }
 
 void GridWidget::scrollContentsBy(int /*dx*/, int /*dy*/) {

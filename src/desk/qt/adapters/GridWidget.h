@@ -108,6 +108,7 @@ class GridWidget : public QAbstractScrollArea {
     long besideWidth;
   };
 
+  void SettleSoon();
   void Measure();
   void MeasureColumns();
   int BorderAt(const QPoint& point) const;

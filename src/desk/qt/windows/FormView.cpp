@@ -150,7 +150,7 @@ void FormView::Arrange() {
   const bool isLaid = room_.Lay(*form_, size);
   ground_->resize(Scale::Px(size.width), Scale::Px(size.height));
   if (!isLaid) return;
-  for (Adapter* adapter : adapters_) adapter->Refresh();
+  for (Adapter* adapter : adapters_) adapter->TakePlace();
 }
 
 void FormView::resizeEvent(QResizeEvent* event) {
