@@ -15,6 +15,7 @@
 #include "desk/screens/frmSelectAc.h"
 #include "desk/screens/frmUsers.h"
 #include "desk/screens/frmVoucher.h"
+#include "desk/screens/frmVoucherEntry.h"
 #include "host/values/Text.h"
 
 namespace quillon {
@@ -25,6 +26,7 @@ FormPtr DeskScreens::NewForm(const std::string& key) {
   if (wanted == "selectac") return std::make_shared<frmSelectAc>();
   if (wanted == "filterac") return std::make_shared<frmFilterAc>();
   if (wanted == "daybook") return std::make_shared<frmDayBook>();
+  if (wanted == "voucherentry") return std::make_shared<frmVoucherEntry>();
   if (wanted == "ledger") return std::make_shared<frmLedger>();
   if (wanted == "chequelayouts") return std::make_shared<frmChequeLayouts>();
   if (wanted == "bulkruns") return std::make_shared<frmBulkRuns>();

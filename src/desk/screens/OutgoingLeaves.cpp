@@ -16,9 +16,13 @@ constexpr std::size_t kLeastDigits = 6;
 constexpr std::size_t kLongestNarration = 250;
 constexpr const char* kFree = " and VoucherID is null and (Cancelled is null or Cancelled<>'Y')";
 
-/// The narration with the cheque's number, where it has none and there is room: before a payee that it names
-/// behind "::".
-std::string WithNumber(const std::string& narration, std::int64_t number) {
+std::string SqlText(const Variant& number) {
+  return number.IsNull() || number.IsEmpty() ? "null" : books::SqlNumber(number.ToInteger());
+}
+
+}  // namespace
+
+std::string NarrationWithCheque(const std::string& narration, std::int64_t number) {
   std::string rest = narration;
   std::string known;
   gStd->ChqNoFromNarration(rest, known);
@@ -29,12 +33,6 @@ std::string WithNumber(const std::string& narration, std::int64_t number) {
   text += "Chq.No. " + LeafText(number) + narration.substr(payee);
   return text::Length(text) > kLongestNarration ? narration : text;
 }
-
-std::string SqlText(const Variant& number) {
-  return number.IsNull() || number.IsEmpty() ? "null" : books::SqlNumber(number.ToInteger());
-}
-
-}  // namespace
 
 std::string LeafText(std::int64_t number) {
   const std::string digits = std::to_string(number);
@@ -81,7 +79,7 @@ void OutgoingLeaves::Free(const OutgoingLeaf& sent) {
 
 /// Several vouchers may share a narration, so that the number goes into a row of the voucher's own.
 Variant OutgoingLeaves::NumberNarration(const BankPayment& payment, Issue& issue) {
-  const std::string narration = WithNumber(payment.Narration, issue.Sent.Number);
+  const std::string narration = NarrationWithCheque(payment.Narration, issue.Sent.Number);
   if (narration == payment.Narration) return payment.NarrationID;
   issue.NarrationOwn = year_.Lookup("FANar", "Max(NarrationID)", "").ToInteger() + 1;
   const std::string own = books::SqlNumber(issue.NarrationOwn);

@@ -21,6 +21,10 @@ struct OutgoingLeaf {
   std::string Job{};  ///< its name in the printer's queue
 };
 
+/// The narration with the cheque's number, where it has none and there is room: before a payee that it names
+/// behind "::".
+std::string NarrationWithCheque(const std::string& narration, std::int64_t number);
+
 /// A cheque number as people read it: at least six digits.
 std::string LeafText(std::int64_t number);
 
