@@ -23,7 +23,7 @@ LEAF_123 = json.dumps({"cmd": "query", "sql": "select VoucherID,IsuDate from Chq
 COMMANDS = set(
     "firm form menu set get call show close forms key focus type paste click dblclick bar choose check row cell range "
     "gridrow scroll pickbutton picked popup answer state tree query execute setting picture trace bulk goback menuline "
-    "copy find sort".split()
+    "copy find sort keys".split()
 )
 
 
@@ -110,6 +110,9 @@ class Driver(unittest.TestCase):
 
     def test_a_cheque_that_came_back(self):
         self.run_script("returned.jsonl", 0)
+
+    def test_a_morning_of_vouchers(self):
+        self.run_script("vouchers.jsonl", 0)
 
     def test_a_month_of_cheques(self):
         shutil.copytree(self.sample, self.own.name + "/other")

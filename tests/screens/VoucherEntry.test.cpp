@@ -227,7 +227,7 @@ TEST_F(VoucherEntry, AVoucherIsCalledUpChangedAndDeleted) {
   EXPECT_EQ(Count("FAData"), 5) << "the line that was added to it";
   EXPECT_EQ(Db().Lookup("FANar", "Narration", "NarrationID=(select max(NarrationID) from FANar)").ToText(),
             "Bill 7 Chq.No. 000504");
-  Press("{F8}");
+  Press("{F8}{F8}");
   AnswerMessage(1);
   Press("{F3}");
   EXPECT_EQ(Told(), Texts{"W: Delete Bank Payment No. 1 of 08-Apr-2024?"});

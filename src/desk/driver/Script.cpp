@@ -52,7 +52,8 @@ Script::Command Script::Find(const std::string& name) {
       {"picture", &Script::DoPicture},   {"trace", &Script::DoTrace},
       {"menuline", &Script::DoMenuLine}, {"bulk", &Script::DoBulk},
       {"goback", &Script::DoGoBack},     {"copy", &Script::DoCopy},
-      {"find", &Script::DoFind},         {"sort", &Script::DoSort}};
+      {"find", &Script::DoFind},         {"sort", &Script::DoSort},
+      {"keys", &Script::DoKeys}};
   const auto known = kCommands.find(name);
   if (known == kCommands.end()) throw HostError("There is no command \"" + name + "\"");
   return known->second;

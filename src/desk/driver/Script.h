@@ -74,6 +74,7 @@ class Script {
 
   // Acting as a person.
   Json DoKey(const Json& command);
+  Json DoKeys(const Json& command);
   Json DoFocus(const Json& command);
   Json DoType(const Json& command);
   Json DoPaste(const Json& command);

@@ -20,6 +20,25 @@ Json Script::DoKey(const Json& command) {
   return Act([&] { form->UserKey(key.KeyCode, key.Shift, key.Character); });
 }
 
+/// Each key goes to the form that is on top then.
+Json Script::DoKeys(const Json& command) {
+  const std::string text = command.at("keys").get<std::string>();
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t close = text[at] == '{' ? text.find('}', at + 2) : std::string::npos;
+    const std::size_t bytes = close != std::string::npos ? close - at + 1 : text::CharBytes(text, at);
+    Json key = {{"key", text.substr(at, bytes)}};
+    if (close != std::string::npos) {
+      const std::string name = text.substr(at + 1, bytes - 2);
+      const std::size_t plus = name.size() > 1 ? name.rfind('+', name.size() - 2) : std::string::npos;
+      key["key"] = plus == std::string::npos ? name : name.substr(plus + 1);
+      if (plus != std::string::npos) key["shift"] = name.substr(0, plus);
+    }
+    DoKey(key);
+    at += bytes;
+  }
+  return Json::object();
+}
+
 Json Script::DoFocus(const Json& command) {
   Control& control = ControlOf(command);
   if (!control.CanTakeFocus()) throw Refused(control.Name() + " takes no focus");

@@ -162,8 +162,6 @@ void frmVoucherEntry::StartNew() {
   draft.Day = lastDay_;
   ShowDraft(draft);
   ProposeMain();
-  ShowNumber();
-  ProposeCheque();
   start_ = ReadDraft();
   gApp->PutUserSetting(kLastKind, std::to_string(static_cast<int>(kind_) + 1));
 }
@@ -176,7 +174,6 @@ void frmVoucherEntry::ShowStored(std::int64_t id) {
     return;
   }
   ShowDraft(DraftOf(gSession->MainDb(), *stored_));
-  ShowNumber();
   start_ = ReadDraft();
 }
 
@@ -194,24 +191,20 @@ void frmVoucherEntry::ShowDraft(const VoucherDraft& draft) {
   txpDay.TextBox.SelectAll();
 }
 
-/// Vouchers of the kind at hand by date; behind the last one stands a new one.
+/// Vouchers of the kind at hand in the order in which they were entered; behind the last one stands a new
+/// one.
 void frmVoucherEntry::Step(int direction) {
-  const std::string prefix =
-      stored_ ? SpecOf(KindOfType(stored_->Type)).TypePrefix : SpecOf(kind_).TypePrefix;
-  const std::string beyond = direction > 0 ? ">" : "<";
-  const std::string order = direction > 0 ? "" : " desc";
-  std::string from;
-  if (stored_) {
-    const std::string day = books::SqlDate(stored_->Day);
-    from = " and (dVchDate" + beyond + day + " or (dVchDate=" + day + " and VoucherID" + beyond +
-           books::SqlNumber(stored_->Id) + "))";
-  } else if (direction > 0) {
+  if (!stored_ && direction > 0) {
     gRuntime->Beep();
     return;
   }
+  const VoucherKind kind = stored_ ? KindOfType(stored_->Type) : kind_;
+  const std::string from =
+      !stored_ ? "" : (direction > 0 ? " and VoucherID>" : " and VoucherID<") + books::SqlNumber(stored_->Id);
   CDataSet next;
-  next.Open("Select first 1 VoucherID from FAData where dTrnType starting with " + books::SqlString(prefix) +
-                " and " + books::InLists() + from + " order by dVchDate" + order + ",VoucherID" + order,
+  next.Open("Select first 1 VoucherID from FAData where dTrnType starting with " +
+                books::SqlString(SpecOf(kind).TypePrefix) + " and " + books::InLists() + from +
+                " order by VoucherID" + (direction > 0 ? "" : " desc"),
             gSession->MainDb());
   if (!next.Eof()) {
     ShowStored(next.Field("VoucherID").ToInteger());

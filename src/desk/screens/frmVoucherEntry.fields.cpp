@@ -73,7 +73,6 @@ void frmVoucherEntry::ChooseKind(VoucherKind kind) {
   ShowKind();
   PutMain(0);
   ProposeMain();
-  ShowSums();
   if (IsBlank()) start_ = ReadDraft();
   txpDay.SetFocus();
 }
@@ -117,12 +116,8 @@ void frmVoucherEntry::PutMain(std::int64_t code) {
   txpMain.Text = head;
   txpMain.Tag = head.empty() ? "" : std::to_string(code);
   txpMain.TabStop = true;
-  if (head.empty()) {
-    ShowNumber();
-    return;
-  }
-  MStrip1.Code = code;
-  if (!stored_ && !IsBill(kind_)) gApp->PutUserSetting(KeptMain(kind_), txpMain.Tag());
+  if (code != 0) MStrip1.Code = code;
+  if (code != 0 && !stored_ && !IsBill(kind_)) gApp->PutUserSetting(KeptMain(kind_), txpMain.Tag());
   ShowNumber();
   ProposeCheque();
   ShowSums();
@@ -140,17 +135,24 @@ bool frmVoucherEntry::CheckMain() {
 
 // --- Day, number and cheque
 
+/// A day alone is one of the last voucher's month, a day and month one of the open year.
+Date frmVoucherEntry::TypedDay() const {
+  const Date day = Date::Parse(gStd->ParseDateText(txpDay.Text(), lastDay_.Text()));
+  const FinYear& year = gSession->Year();
+  if (day >= year.StartDate() && day <= year.EndDate()) return day;
+  return Date::Parse(gStd->ParseDateText(txpDay.Text(), ""));
+}
+
 bool frmVoucherEntry::CheckDay() {
   if (txpDay.Text->empty()) return true;
-  const std::string day = gStd->ParseDateText(txpDay.Text(), lastDay_.Text());
-  std::string why = "Invalid Date";
-  if (!day.empty()) {
-    why = VoucherGuard(gSession->Year()).WhyNotOn(Date::Parse(day));
-    txpDay.Text = day;
+  const Date day = TypedDay();
+  const std::string why = day.IsEmpty() ? "Invalid Date" : VoucherGuard(gSession->Year()).WhyNotOn(day);
+  if (!day.IsEmpty()) {
+    txpDay.Text = day.Text();
     ShowSums();
   }
   if (why.empty()) {
-    lastDay_ = Date::Parse(day);
+    lastDay_ = day;
     return true;
   }
   gStd->MsgBox(why, "", "W");
@@ -194,7 +196,7 @@ void frmVoucherEntry::ProposeCheque() {
 VoucherDraft frmVoucherEntry::ReadDraft() const {
   VoucherDraft draft;
   draft.Kind = kind_;
-  draft.Day = Date::Parse(gStd->ParseDateText(txpDay.Text(), lastDay_.Text()));
+  draft.Day = TypedDay();
   draft.Number = stored_ || txpNumber.Text() != proposedNumber_ ? text::Trim(txpNumber.Text()) : "";
   draft.Main = draft.HasMain() ? MainCode() : 0;
   draft.Lines = ReadLines();

@@ -63,6 +63,7 @@ class frmVoucherEntry : public ScreenForm {
   void LoadMainAccounts();
   void ProposeMain();
   void PutMain(std::int64_t code);
+  Date TypedDay() const;
   bool CheckDay();
   bool CheckMain();
   void ShowNumber();
