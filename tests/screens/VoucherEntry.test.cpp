@@ -293,11 +293,8 @@ TEST_F(VoucherEntry, AnAccountIsAddedAndAChequeOpenedOnTheWay) {
       "insert into FAHeads (Code,SubCode,Head,PressHead) values (201,0,'Asha Traders','ASHATRADERS')");
   Press("{CTRL+4}5/4{ENTER}sahya{ENTER}");
   During([&] { Press("{F5}"); }, {[&] {
-                                    const FormPtr dialog = runtime_.ActiveForm();
-                                    At<CTextPlus>(dialog, "txpHead").UserType("Asha");
-                                    At<CTextPlus>(dialog, "txpGroup").UserType("exp");
                                     AnswerMessage(1);
-                                    Press("{F7}");
+                                    Press("Asha{ENTER}{ENTER}exp{F7}");
                                   },
                                   [&] {
                                     EXPECT_EQ(runtime_.ActiveForm()->Name(), "frmSimilarAcHead");
@@ -314,6 +311,22 @@ TEST_F(VoucherEntry, AnAccountIsAddedAndAChequeOpenedOnTheWay) {
   Press("{F6}");
   EXPECT_EQ(runtime_.ActiveForm()->Name(), "frmChqLeaves");
   EXPECT_EQ(runtime_.ActiveForm()->Get("BankCode").ToInteger(), 101);
+}
+
+TEST_F(VoucherEntry, AVoucherThatIsReadIsCalledUpToBeChanged) {
+  Press("{CTRL+6}5/4{ENTER}asha{ENTER}5{ENTER}bharat{ENTER}{ENTER}{ENTER}{F7}{ESC}");
+  const FormPtr book = gApp->GetForm("DayBook");
+  Do([&] { gApp->ShowForm(book); });
+  Press("{ENTER}{F3}");
+  entry_ = runtime_.ActiveForm();
+  ASSERT_EQ(entry_->Name(), "frmVoucherEntry");
+  EXPECT_EQ(RowText(Grid(), 2, {1, 3, 4}), "Bharat Mills||5.00");
+  Do([&] { entry_->UserFocus(Grid()); });
+  EditCell(Grid(), 1, 3, "6");
+  EditCell(Grid(), 2, 4, "6");
+  Press("{F7}{ESC}");
+  EXPECT_EQ(Last(), "J JD1 1 05-Apr-2024 '' 201:6 202:-6");
+  EXPECT_EQ(RowText(At<CGridPlus>(book, "Grid"), 1, {5, 8}), "Asha Traders|6.00") << "which is read anew";
 }
 
 TEST_F(VoucherEntry, OnlyWhoHasTheRightEntersAndStores) {

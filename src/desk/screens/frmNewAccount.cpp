@@ -60,6 +60,8 @@ void frmNewAccount::LoadDialog() {
   SelGrid1.Grid.SetColWidth(1, 0);
 }
 
+void frmNewAccount::OnActivate() { txpHead.SetFocus(); }
+
 bool frmNewAccount::CheckGroup() {
   if (!txpGroup.Tag->empty() || txpGroup.Text->empty()) return true;
   if (!SelGrid1.HasChoice()) {

@@ -24,6 +24,7 @@ class frmNewAccount : public DialogForm {
 
  protected:
   void LoadDialog() override;
+  void OnActivate() override;
   bool Confirm() override;
 
  private:

@@ -16,7 +16,7 @@ constexpr ScreenSpec kScreen = {
     .rightKey = "",
     .registerTitle = "Voucher",
     .iconKey = "Voucher",
-    .firstKey = keys::kF9,
+    .firstKey = keys::kF3,
     .lastKey = keys::kF9,
 };
 
@@ -80,6 +80,20 @@ void frmVoucher::LoadScreen() {
 
 void frmVoucher::Pressed(const std::string& key) {
   if (key == "ChqPrint") OpenChequeForm();
+  if (key == "Modify") Modify();
+}
+
+/// It is entered anew on the screen of its own, and this one would show what it was.
+void frmVoucher::Modify() {
+  if (StartYear != gSession->Year().StartYear()) {
+    gStd->MsgBox("Only vouchers of the open year are changed.", "", "W");
+    return;
+  }
+  const FormPtr alive = Self();
+  const FormPtr entry = gApp->GetForm("VoucherEntry");
+  entry->Set("VoucherID", VoucherID);
+  gRuntime->Unload(*this);
+  gApp->ShowForm(entry);
 }
 
 void frmVoucher::OpenChequeForm() {

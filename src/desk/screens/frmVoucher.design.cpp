@@ -3,7 +3,9 @@
 namespace quillon {
 
 void frmVoucher::BuildBar() {
-  BtnBar1.AddButtons({"ChqPrint,F9: Cheque Print,Cheque", "Exit,Esc : Exit,Close"});
+  BtnBar1.AddButtons({"Modify,F3: Modify,Modify", "F4", "F5", "F6", "F7", "F8",
+                      "ChqPrint,F9: Cheque Print,Cheque", "Exit,Esc : Exit,Close"});
+  BtnBar1.HideButtons({"F4", "F5", "F6", "F7", "F8"});
 }
 
 void frmVoucher::DesignControls() {

@@ -39,6 +39,7 @@ class frmVoucher : public ScreenForm {
   void ShowDocuments(CDbLink& db);
   void ShowLeaves(CDbLink& db);
   void OpenChequeForm();
+  void Modify();
 
   std::shared_ptr<FinYear> year_;
 };

@@ -89,7 +89,7 @@ void frmVoucherEntry::LoadScreen() {
   cmbKind.Clear();
   int number = 0;
   for (const VoucherKindSpec& spec : VoucherKinds()) {
-    cmbKind.AddItem(std::to_string(++number) + "  " + spec.Name);
+    cmbKind.AddItem("Ctrl+" + std::to_string(++number) + "   " + spec.Name);
   }
   const long long last = ValInteger(gApp->GetUserSetting(kLastKind));
   if (last > 0 && last <= number) kind_ = VoucherKinds()[static_cast<std::size_t>(last) - 1].Kind;

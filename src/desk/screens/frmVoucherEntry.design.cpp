@@ -24,7 +24,6 @@ void frmVoucherEntry::DesignControls() {
   lblKind.Move(kGap, top, 1200, kLine);
   cmbKind.Move(1290, top, 3600, kLine);
   cmbKind.TabStop = false;
-  cmbKind.ToolTipText = "Ctrl and the number of a kind chooses it";
   const auto place = [](CTextPlus& field, const char* caption, long left, long fieldTop, long label,
                         long width) {
     field.Caption = caption;
