@@ -10,6 +10,7 @@ namespace quillon {
 
 namespace {
 
+/// The firm keeps the book of a bank and the end of its types: "B1,1".
 std::string KeptUnder(std::int64_t bank) { return "VoucherEntry.Book." + std::to_string(bank); }
 
 std::string AccountsOf(const VoucherDraft& draft) {
@@ -54,8 +55,14 @@ std::int64_t VoucherBooks::BankAmong(const VoucherDraft& draft) {
 }
 
 VoucherBooks::BankBook VoucherBooks::OfBank(std::int64_t bank) {
-  if (const std::string kept = gApp->GetFirmSetting(KeptUnder(bank)); !kept.empty())
-    return {"B" + kept, kept};
+  const std::vector<std::string> kept = text::Split(gApp->GetFirmSetting(KeptUnder(bank)), ",");
+  if (kept.size() == 2) return {kept[0], kept[1]};
+  const BankBook found = UsedBook(bank);
+  gApp->PutFirmSetting(KeptUnder(bank), found.Book + "," + found.Suffix);
+  return found;
+}
+
+VoucherBooks::BankBook VoucherBooks::UsedBook(std::int64_t bank) {
   CDataSet used;
   used.Open(
       "Select first 1 dBook,substring(dTrnType from 3) as Suffix,Count(*) as Entries from FAData where dcd=" +
@@ -64,7 +71,6 @@ VoucherBooks::BankBook VoucherBooks::OfBank(std::int64_t bank) {
       year_);
   if (!used.Eof()) return {used.Field("dBook").ToText(), used.Field("Suffix").ToText()};
   const std::string suffix = FreeSuffix();
-  gApp->PutFirmSetting(KeptUnder(bank), suffix);
   return {"B" + suffix, suffix};
 }
 

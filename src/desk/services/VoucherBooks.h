@@ -14,7 +14,7 @@ struct VoucherBook {
 };
 
 /// Finds the book of a voucher. Cash has one book and each bank its own: the one that most of its entries
-/// stand in, else the next free one, which the firm then keeps for it.
+/// stand in, else the next free one. The firm then keeps it for the bank.
 class VoucherBooks {
  public:
   explicit VoucherBooks(CDbLink& year) : year_(year) {}
@@ -28,6 +28,7 @@ class VoucherBooks {
   };
 
   BankBook OfBank(std::int64_t bank);
+  BankBook UsedBook(std::int64_t bank);
   std::string FreeSuffix();
   std::int64_t BankAmong(const VoucherDraft& draft);
 

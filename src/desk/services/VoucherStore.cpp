@@ -71,8 +71,8 @@ std::int64_t VoucherStore::Store(const NewVoucher& voucher) {
   CheckWhole(voucher);
   std::int64_t id = 0;
   DoWhole([&] {
-    const Common common = NewCommon(voucher);
-    Kept kept{NextSerial(voucher.Day), {}};
+    Kept kept;
+    const Common common = NewCommon(voucher, kept.Serial);
     int number = 0;
     for (const VoucherLine& line : voucher.Lines) {
       WriteLine(common, voucher, line, ++number, kept);
@@ -123,8 +123,9 @@ void VoucherStore::Delete(const StoredVoucher& before) {
 std::int64_t VoucherStore::Begin(const NewVoucher& voucher, int line) {
   CheckLine(voucher, voucher.Lines.at(0));
   TransactionScope work(year_);
-  const Common common = NewCommon(voucher);
-  WriteLine(common, voucher, voucher.Lines.front(), line, {NextSerial(voucher.Day), {}});
+  Kept kept;
+  const Common common = NewCommon(voucher, kept.Serial);
+  WriteLine(common, voucher, voucher.Lines.front(), line, kept);
   work.Commit();
   return ValInteger(common.Id);
 }
@@ -146,44 +147,49 @@ void VoucherStore::AddLine(std::int64_t id, const NewVoucher& voucher, int line)
 
 // --- Ids and numbers
 
-/// The id comes first: two desks that take the same one meet at the key of the entries, and whoever comes
-/// second begins anew and then sees the number that the first one gave.
-VoucherStore::Common VoucherStore::NewCommon(const NewVoucher& voucher) {
-  const std::int64_t id = NextId("FAData", "VoucherID");
-  return {books::SqlNumber(id), books::SqlString(FreeNumber(voucher)), StoreNarration(voucher.Narration)};
+/// Id and number come of one look at the entries: two desks that take the same id meet at the key of the
+/// entries, and whoever comes second begins anew and then sees the number that the first one gave. Numbers
+/// are texts, so that the longest of the greatest counts.
+VoucherStore::Next VoucherStore::FindNext(const std::string& type, Date day) {
+  const std::string isNumber = "case when dTrnType=" + books::SqlString(type) +
+                               " and char_length(dVchNo)<10 and dVchNo similar to '[0-9]+' then ";
+  CDataSet last;
+  last.Open("Select Max(VoucherID) as Id,Max(case when dVchDate=" + books::SqlDateOrNull(day) +
+                " then dSrNo end) as Serial,Max(" + isNumber +
+                "cast(dVchNo as integer) end) as Greatest,Max(" + isNumber +
+                "char_length(dVchNo) end) as Width from FAData",
+            year_);
+  Next next;
+  next.Id = last.Field("Id").ToInteger() + 1;
+  next.Serial = last.Field("Serial").ToInteger() + 1;
+  next.Number = std::to_string(last.Field("Greatest").ToInteger() + 1);
+  const auto width = static_cast<std::size_t>(last.Field("Width").ToInteger());
+  if (next.Number.size() < width) next.Number.insert(0, width - next.Number.size(), '0');
+  return next;
 }
 
-std::string VoucherStore::FreeNumber(const NewVoucher& voucher) {
-  if (voucher.Number.empty()) return NextNumber(voucher.Type);
-  if (voucher.IsNumberOwn &&
-      year_.RowExists("Select first 1 VoucherID from FAData where dTrnType=" +
-                      books::SqlString(voucher.Type) + " and dVchNo=" + books::SqlString(voucher.Number))) {
-    throw VoucherRefused(VoucherRefused::Cause::kNumber,
-                         "The number " + voucher.Number + " is given to another voucher already.");
-  }
-  return voucher.Number;
+VoucherStore::Common VoucherStore::NewCommon(const NewVoucher& voucher, std::int64_t& serial) {
+  const Next next = FindNext(voucher.Type, voucher.Day);
+  serial = next.Serial;
+  RequireFree(voucher);
+  return {books::SqlNumber(next.Id), books::SqlString(voucher.Number.empty() ? next.Number : voucher.Number),
+          StoreNarration(voucher.Narration)};
 }
 
-std::int64_t VoucherStore::NextId(const std::string& table, const std::string& column) {
-  return year_.Lookup(table, "Max(" + column + ")", "").ToInteger() + 1;
+void VoucherStore::RequireFree(const NewVoucher& voucher) {
+  if (voucher.Number.empty() || !voucher.IsNumberOwn) return;
+  if (!year_.RowExists("Select first 1 VoucherID from FAData where dTrnType=" +
+                       books::SqlString(voucher.Type) + " and dVchNo=" + books::SqlString(voucher.Number)))
+    return;
+  throw VoucherRefused(VoucherRefused::Cause::kNumber,
+                       "The number " + voucher.Number + " is given to another voucher already.");
 }
 
 std::int64_t VoucherStore::NextSerial(Date day) {
   return year_.Lookup("FAData", "Max(dSrNo)", "dVchDate=" + books::SqlDate(day)).ToInteger() + 1;
 }
 
-/// Numbers are texts, so that the longest of the greatest counts.
-std::string VoucherStore::NextNumber(const std::string& type) {
-  CDataSet last;
-  last.Open(
-      "Select Max(cast(dVchNo as integer)) as Greatest,Max(char_length(dVchNo)) as Width from FAData where "
-      "dTrnType=" +
-          books::SqlString(type) + " and dVchNo similar to '[0-9]+' and char_length(dVchNo)<10",
-      year_);
-  const std::string digits = std::to_string(last.Field("Greatest").ToInteger() + 1);
-  const auto width = static_cast<std::size_t>(last.Field("Width").ToInteger());
-  return digits.size() < width ? std::string(width - digits.size(), '0') + digits : digits;
-}
+std::string VoucherStore::NextNumber(const std::string& type) { return FindNext(type, Date()).Number; }
 
 // --- Lines
 
@@ -204,7 +210,8 @@ void VoucherStore::WriteLine(const Common& common, const NewVoucher& voucher, co
 void VoucherStore::WriteAgain(const StoredVoucher& before, const NewVoucher& voucher, const Common& common) {
   std::vector<StoredLine> left = before.Lines;
   const bool keepsPlace = voucher.Day == before.Day;
-  std::int64_t next = NextSerial(voucher.Day);
+  const bool isMore = !keepsPlace || voucher.Lines.size() > before.Lines.size();
+  std::int64_t next = isMore ? NextSerial(voucher.Day) : 0;
   for (std::size_t at = 0; at < voucher.Lines.size(); ++at) {
     const VoucherLine& line = voucher.Lines[at];
     Common own = common;
@@ -292,7 +299,7 @@ void VoucherStore::FreeLeaves(const std::string& id) {
 }
 
 std::string VoucherStore::StoreNarration(const std::string& narration) {
-  const std::int64_t id = NextId("FANar", "NarrationID");
+  const std::int64_t id = year_.Lookup("FANar", "Max(NarrationID)", "").ToInteger() + 1;
   year_.Execute("insert into FANar (NarrationID,Narration) values (" + books::SqlNumber(id) + "," +
                 books::SqlString(narration) + ")");
   return books::SqlNumber(id);

@@ -89,6 +89,13 @@ class VoucherStore {
     std::string Narration;
   };
 
+  /// The next of all, of a day, and of a type.
+  struct Next {
+    std::int64_t Id = 1;
+    std::int64_t Serial = 1;
+    std::string Number;
+  };
+
   /// What a line takes over from the one that stood in its place.
   struct Kept {
     std::int64_t Serial = 0;
@@ -97,8 +104,9 @@ class VoucherStore {
 
   template <class Work>
   void DoWhole(Work work);
-  Common NewCommon(const NewVoucher& voucher);
-  std::string FreeNumber(const NewVoucher& voucher);
+  Next FindNext(const std::string& type, Date day);
+  Common NewCommon(const NewVoucher& voucher, std::int64_t& serial);
+  void RequireFree(const NewVoucher& voucher);
   void WriteLine(const Common& common, const NewVoucher& voucher, const VoucherLine& line, int number,
                  const Kept& kept);
   void WriteAgain(const StoredVoucher& before, const NewVoucher& voucher, const Common& common);
@@ -108,7 +116,6 @@ class VoucherStore {
   void UseLeaf(const Common& common, const NewVoucher& voucher);
   void FreeLeaves(const std::string& id);
   void DropNarrations(const StoredVoucher& before);
-  std::int64_t NextId(const std::string& table, const std::string& column);
   std::int64_t NextSerial(Date day);
   std::string StoreNarration(const std::string& narration);
 
