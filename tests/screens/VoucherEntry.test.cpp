@@ -211,7 +211,7 @@ TEST_F(VoucherEntry, AVoucherIsCalledUpChangedAndDeleted) {
   Press("{CTRL+4}5/4{ENTER}sahya{ENTER}bha{ENTER}750{ENTER}{ENTER}Bill 7{ENTER}{F7}");
   Press("6{ENTER}{ENTER}asha{ENTER}80{ENTER}{ENTER}Bill 8{ENTER}{F7}");
   EXPECT_EQ(Leaf(503), "2|06-Apr-2024|201|80");
-  Press("{F8}");
+  Press("1/9{ENTER}{F8}");
   EXPECT_EQ(At<CTextPlus>(entry_, "txpNumber").Text(), "2");
   EXPECT_EQ(RowText(Grid(), 1, {1, 2, 3, 4}), "Asha Traders|Surat|80.00|");
   Press("{F8}");
@@ -311,6 +311,20 @@ TEST_F(VoucherEntry, AnAccountIsAddedAndAChequeOpenedOnTheWay) {
   Press("{F6}");
   EXPECT_EQ(runtime_.ActiveForm()->Name(), "frmChqLeaves");
   EXPECT_EQ(runtime_.ActiveForm()->Get("BankCode").ToInteger(), 101);
+}
+
+TEST_F(VoucherEntry, APaymentFromTwoBanksIsShownLineByLineAndKeepsItsLeaf) {
+  Press("{CTRL+4}5/4{ENTER}sahya{ENTER}asha{ENTER}750{ENTER}{ENTER}Bill{F7}");
+  Db().Execute("update FAData set dAmt=-700 where dcd=101");
+  Db().Execute(
+      "insert into FAData (VoucherID,dVchSubNo,dSrNo,dVchNo,dVchDate,dcd,dAmt,dBook,dTrnType,NarrationID) select "
+      "VoucherID,3,9,dVchNo,dVchDate,102,-50,dBook,dTrnType,NarrationID from FAData where dcd=101");
+  Press("{F8}");
+  EXPECT_EQ(RowTexts(Grid(), {1, 3, 4}),
+            (Texts{"Sahyadri Bank||700.00", "Asha Traders|750.00|", "Konkan Bank||50.00", "||"}));
+  Press("7{ENTER}{F7}");
+  EXPECT_EQ(Last(), "B1 BP1 1 07-Apr-2024 'Bill Chq.No. 000501' 101:-700 201:750 102:-50");
+  EXPECT_EQ(Leaf(501), "1|07-Apr-2024|201|700");
 }
 
 TEST_F(VoucherEntry, AVoucherThatIsReadIsCalledUpToBeChanged) {

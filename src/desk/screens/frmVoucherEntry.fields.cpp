@@ -135,9 +135,11 @@ bool frmVoucherEntry::CheckMain() {
 
 // --- Day, number and cheque
 
-/// A day alone is one of the last voucher's month, a day and month one of the open year.
+/// A day alone is one of the month of the voucher, or of the last one before a new one; a day and month one
+/// of the open year.
 Date frmVoucherEntry::TypedDay() const {
-  const Date day = Date::Parse(gStd->ParseDateText(txpDay.Text(), lastDay_.Text()));
+  const Date near = stored_ ? stored_->Day : lastDay_;
+  const Date day = Date::Parse(gStd->ParseDateText(txpDay.Text(), near.Text()));
   const FinYear& year = gSession->Year();
   if (day >= year.StartDate() && day <= year.EndDate()) return day;
   return Date::Parse(gStd->ParseDateText(txpDay.Text(), ""));
@@ -152,7 +154,7 @@ bool frmVoucherEntry::CheckDay() {
     ShowSums();
   }
   if (why.empty()) {
-    lastDay_ = day;
+    if (!stored_) lastDay_ = day;
     return true;
   }
   gStd->MsgBox(why, "", "W");

@@ -31,6 +31,12 @@ std::string WithoutCheque(const std::string& narration, std::int64_t number) {
   return ValInteger(known) == number ? rest : narration;
 }
 
+bool PaysFrom(const NewVoucher& voucher, std::int64_t bank) {
+  return std::any_of(voucher.Lines.begin(), voucher.Lines.end(), [bank](const VoucherLine& line) {
+    return line.Account == bank && line.Value < Amount();
+  });
+}
+
 std::string NameOf(const VoucherDraft& draft, const std::string& number) {
   return std::string(SpecOf(draft.Kind).Name) + " No. " + number + " of " + draft.Day.Text();
 }
@@ -126,12 +132,16 @@ NewVoucher frmVoucherEntry::AsStored(const VoucherDraft& draft) {
   voucher.Type = stored_ ? stored_->Type : book.Type;
   voucher.Nature = stored_ ? stored_->Nature : SpecOf(kind_).Nature;
   voucher.Narration = draft.Narration;
-  if (stored_ && stored_->LeafNumber != 0 && stored_->LeafNumber != draft.Cheque)
-    voucher.Narration = WithoutCheque(voucher.Narration, stored_->LeafNumber);
-  if (draft.Cheque == 0) return voucher;
   voucher.LeafBank = draft.Main;
   voucher.LeafNumber = draft.Cheque;
-  voucher.Narration = NarrationWithCheque(voucher.Narration, draft.Cheque);
+  // A voucher that is shown line by line has no field for its cheque.
+  if (stored_ && !TakesCheque() && PaysFrom(voucher, stored_->LeafBank)) {
+    voucher.LeafBank = stored_->LeafBank;
+    voucher.LeafNumber = stored_->LeafNumber;
+  }
+  if (stored_ && stored_->LeafNumber != 0 && stored_->LeafNumber != voucher.LeafNumber)
+    voucher.Narration = WithoutCheque(voucher.Narration, stored_->LeafNumber);
+  if (voucher.LeafNumber != 0) voucher.Narration = NarrationWithCheque(voucher.Narration, voucher.LeafNumber);
   return voucher;
 }
 
@@ -155,7 +165,6 @@ bool frmVoucherEntry::Store(const VoucherDraft& draft) {
   }
   const std::string number =
       year.Lookup("FAData", "dVchNo", "VoucherID=" + books::SqlNumber(lastSaved_)).ToText();
-  lastDay_ = draft.Day;
   gRuntime->Say(NameOf(draft, number) + " is saved.");
   StartNew();
   return true;

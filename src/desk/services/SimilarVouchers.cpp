@@ -68,6 +68,7 @@ std::vector<SimilarEntry> SimilarVouchers::Read(const std::string& condition) co
 }
 
 void SimilarVouchers::AddAmounts(std::vector<SimilarEntry>& found, std::int64_t account) const {
+  if (draft_.Kind == VoucherKind::kContra) return;  // it is with nobody
   for (const VoucherLine& line : draft_.AllLines()) {
     if (line.Account != account) continue;
     const auto same = Read("a.dcd=" + books::SqlNumber(account) + " and a.dAmt=" + line.Value.ToString() +
