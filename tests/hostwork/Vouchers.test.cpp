@@ -55,7 +55,7 @@ TEST_F(Vouchers, TwoDesksThatStoreAtOnceNeverGetOneNumber) {
   const std::unique_ptr<Firm> other = Firm::Open(desk_.Session().Books().Folder());
   CDbLink& theirs = *other->OpenYear(2024).Db;
   std::string failure;
-  std::thread desk([&] {
+  std::jthread desk([&] {
     try {
       for (int i = 0; i < kEach; ++i) VoucherStore(theirs).Store(Payment(5, 202, 10));
     } catch (const std::exception& error) {
