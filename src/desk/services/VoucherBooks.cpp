@@ -57,7 +57,7 @@ std::int64_t VoucherBooks::BankAmong(const VoucherDraft& draft) {
 VoucherBooks::BankBook VoucherBooks::OfBank(std::int64_t bank) {
   const std::vector<std::string> kept = text::Split(gApp->GetFirmSetting(KeptUnder(bank)), ",");
   if (kept.size() == 2) return {kept[0], kept[1]};
-  const BankBook found = UsedBook(bank);
+  BankBook found = UsedBook(bank);
   gApp->PutFirmSetting(KeptUnder(bank), found.Book + "," + found.Suffix);
   return found;
 }
@@ -82,7 +82,7 @@ std::string VoucherBooks::FreeSuffix() {
     taken += gApp->GetFirmSetting(KeptUnder(banks.Field("mcd").ToInteger())) + ",";
   }
   for (int number = 1;; ++number) {
-    const std::string suffix = std::to_string(number);
+    std::string suffix = std::to_string(number);
     if (taken.find("," + suffix + ",") == std::string::npos &&
         !year_.RowExists("Select first 1 VoucherID from FAData where dBook=" +
                          books::SqlString("B" + suffix)))
