@@ -20,6 +20,13 @@ std::string SqlText(const Variant& number) {
   return number.IsNull() || number.IsEmpty() ? "null" : books::SqlNumber(number.ToInteger());
 }
 
+void TellOfNoRoom(std::string narration, std::int64_t number) {
+  std::string known;
+  gStd->ChqNoFromNarration(narration, known);
+  if (known.empty())
+    gRuntime->Say("The narration has no room for the number of cheque " + LeafText(number) + ".");
+}
+
 }  // namespace
 
 std::string NarrationWithCheque(const std::string& narration, std::int64_t number) {
@@ -80,7 +87,10 @@ void OutgoingLeaves::Free(const OutgoingLeaf& sent) {
 /// Several vouchers may share a narration, so that the number goes into a row of the voucher's own.
 Variant OutgoingLeaves::NumberNarration(const BankPayment& payment, Issue& issue) {
   const std::string narration = NarrationWithCheque(payment.Narration, issue.Sent.Number);
-  if (narration == payment.Narration) return payment.NarrationID;
+  if (narration == payment.Narration) {
+    TellOfNoRoom(narration, issue.Sent.Number);
+    return payment.NarrationID;
+  }
   issue.NarrationOwn = year_.Lookup("FANar", "Max(NarrationID)", "").ToInteger() + 1;
   const std::string own = books::SqlNumber(issue.NarrationOwn);
   year_.Execute("insert into FANar (NarrationID,Narration) values (" + own + "," +

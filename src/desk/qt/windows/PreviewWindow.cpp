@@ -70,8 +70,17 @@ PreviewWindow::PreviewWindow(ReportCopy report, QWidget* parent)
 void PreviewWindow::ShowState() {
   const std::size_t page = pages_->PageAt(area_->verticalScrollBar()->value() + area_->height() / 2);
   state_->setText(
-      QStringLiteral("  Page %1 of %2    %3 %").arg(page + 1).arg(pages_->Pages()).arg(pages_->Percent()));
+      QStringLiteral("  Page %1 of %2    %3 %").arg(page + 1).arg(pages_->Pages()).arg(pages_->Percent()) +
+      Corrected());
   state_->setToolTip(QString());
+}
+
+/// What the printer at hand will do to these pages.
+QString PreviewWindow::Corrected() {
+  const std::string printer = gRuntime->Printer().DeviceName;
+  const Calibration calibration = Calibration::Of(printer);
+  if (calibration.IsNone()) return {};
+  return QString::fromStdString("    corrected by " + calibration.Words() + " for " + printer);
 }
 
 void PreviewWindow::Tell(const QString& text) {
@@ -158,8 +167,8 @@ void PreviewWindow::Print() {
                       .Monochrome = setup.ColorMode == IPrinter::kMonochrome,
                       .Paper = report_.Sheets.PaperSize});
     const std::string corrected = Calibration::Of(printer).Words();
-    Tell(QString::fromStdString("Sent to " + printer +
-                                (corrected.empty() ? "" : ", corrected by " + corrected)));
+    Tell(QString::fromStdString(
+        "Sent to " + printer + (corrected.empty() ? "" : ", corrected by " + corrected + " for " + printer)));
   } catch (const HostError& error) {
     TellFailure(QString::fromStdString(error.what()));
   }

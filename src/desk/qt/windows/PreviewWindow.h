@@ -39,6 +39,7 @@ class PreviewWindow : public PagesWindow {
 
  private:
   void ShowState();
+  static QString Corrected();
   void Tell(const QString& text);
 
   /// What failed, in a box that waits to be read.
