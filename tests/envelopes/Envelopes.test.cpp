@@ -77,7 +77,8 @@ TEST_F(Envelopes, APartysEnvelopeShowsAndPrintsWhatIsKnownOfIt) {
   Key(*form, keys::kEscape);
   const FormPtr again = Open(202);
   EXPECT_EQ(Object(again, 0).Caption(), "BY CAMEL") << "the way of posting is kept for the user";
-  EXPECT_EQ(PartyOf(again), (Texts{"O'Neil <& Sons>", "O'Neil <& Sons>", "", ""})) << "the lines begin with the name";
+  EXPECT_EQ(PartyOf(again), (Texts{"O'Neil <& Sons>", "O'Neil <& Sons>", "", ""}))
+      << "the lines begin with the name";
   Do([&] { again->Call("ShowParty", {0, true}); });
   EXPECT_EQ(PartyOf(again), Texts(4, ""));
   Do([&] { again->Call("ShowParty", {777, true}); });

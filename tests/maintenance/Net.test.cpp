@@ -265,7 +265,10 @@ TEST_F(BulkNet, WhatKilledProgramsLeftIsRemovedByTheNextRun) {
 }
 
 TEST_F(BulkNet, ACopyOfAnOlderVersionIsBroughtUp) {
-  Db().Execute("drop table LedgerPages");
+  for (const char* later : {"table LedgerPages", "trigger LeafIsNotDeleted", "trigger LeafIsNotCancelled",
+                            "exception LeafOnItsWay"}) {
+    Db().Execute(std::string("drop ") + later);
+  }
   Db().Execute("update SchemaVersion set Version=3");
   DeleteCash({1, 1, 1});
   GoBack(1);

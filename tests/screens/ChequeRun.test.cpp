@@ -94,15 +94,13 @@ TEST_F(ChequeRun, ALeafOnItsWayIsNeitherDeletedNorCancelled) {
   }
   AnswerMessage();
   Key(*leaves, keys::kF3);
+  During([&] { Key(*leaves, keys::kF7); }, {[this] { runtime_.PickFromMenu("Delete"); }});
   AnswerMessage();
-  Do([&] { leaves->Call("DeleteLeaves", {}); });
+  Key(*leaves, keys::kF7);
+  EXPECT_EQ(
+      Errors(),
+      Texts(2, "Cheque No. 124 was sent to a printer. Open the firm anew and say whether it was printed."));
   Key(*leaves, keys::kEscape);
-  for (const std::string& error : Errors()) {
-    EXPECT_NE(error.find(
-                  "Cheque No. 124 was sent to a printer. Open the firm anew and say whether it was printed."),
-              std::string::npos)
-        << error;
-  }
   EXPECT_EQ(Leaf(124), "|||||");
   EXPECT_EQ(Outgoing(), 1);
 }

@@ -106,8 +106,8 @@ std::optional<OutgoingLeaves::Issue> OutgoingLeaves::Record(const OutgoingLeaf& 
   TransactionScope work(year_);
   const std::optional<BankPayment> payment = BankPayment::Of(year_, sent.Bank, sent.Voucher);
   if (!payment) {
-    year_.Execute("update ChqLeaves set Cancelled='Y' where " + leaf);
     Free(sent);
+    year_.Execute("update ChqLeaves set Cancelled='Y' where " + leaf);
     work.Commit();
     gStd->MsgBox("The voucher of cheque " + LeafText(sent.Number) + " is gone. Its leaf is cancelled.", "",
                  "W");
