@@ -100,6 +100,7 @@ TEST_F(ColumnsTest, TheNarrationTakesTheRoomAndDatesAndAmountsOnlyWhatTheyNeed) 
 
 TEST_F(ColumnsTest, WidthsAreDraggedFittedKeptAndTakenBackAndTheModelKeepsItsOwn) {
   std::vector<long> stated;
+  stated.reserve(static_cast<std::size_t>(grid_->Cols()));
   for (int col = 0; col < grid_->Cols; ++col) stated.push_back(grid_->ColWidth(col));
   const int date = WidthOf("Date");
   const int credit = WidthOf("Credit");

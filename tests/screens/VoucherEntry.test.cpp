@@ -151,6 +151,7 @@ TEST_F(VoucherEntry, EachKindStandsInItsBook) {
   EXPECT_EQ(Last(), "B2 CN1 1 05-Apr-2024 'Deposited' 1:-300 101:300");
   Press("{CTRL+6}6{ENTER}asha{ENTER}60{ENTER}bharat{ENTER}{ENTER}{ENTER}Set off{F7}");
   EXPECT_EQ(Last(), "J JD1 1 06-Apr-2024 'Set off' 201:60 202:-60") << "the missing side is offered";
+  EXPECT_EQ(At<CTextPlus>(entry_, "txpNumber").Text(), "2") << "of the next journal";
   Press(
       "{CTRL+7}{ENTER}S/41{ENTER}bharat{ENTER}sales{ENTER}1000{ENTER}output{ENTER}50{ENTER}{ENTER}Bill{F7}");
   EXPECT_EQ(Last(), "JS SL1 S/41 06-Apr-2024 'Bill' 202:1050 301:-1000 302:-50");

@@ -68,7 +68,7 @@ void frmParameters::DesignControls() {
   constexpr long kEdge = 240;
   constexpr long kLine = 360;
   for (int i = 0; i < kCount; ++i) {
-    const long top = kEdge + i * 480;
+    const long top = kEdge + i * 480L;
     lblChoice(i).Caption = kChoices[i].Caption;
     lblChoice(i).Move(kEdge, top + 30, 4800, kLine);
     cmbChoice(i).Move(5160, top, Width - 5160 - kEdge, kLine);

@@ -181,11 +181,11 @@ void frmVoucherEntry::ShowDraft(const VoucherDraft& draft) {
   kind_ = draft.Kind;
   ShowKind();
   txpDay.Text = draft.Day.Text();
+  txpNumber.Text = draft.Number;
   PutMain(draft.Main);
   ShowLines(draft.Lines);
   txpNarration.Text = draft.Narration;
   txpChqNo.Text = draft.Cheque != 0 ? std::to_string(draft.Cheque) : "";
-  txpNumber.Text = draft.Number;
   ShowSums();
   txpDay.SetFocus();
   txpDay.TextBox.SelectAll();

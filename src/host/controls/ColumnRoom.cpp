@@ -63,7 +63,7 @@ std::vector<long> ColumnRoom::Share(const std::vector<Column>& columns, long roo
   long weights = 0;
   for (std::size_t col = 0; col < columns.size(); ++col) weights += takers[col] ? columns[col].stated : 0;
   for (std::size_t col = 0; col < columns.size(); ++col) {
-    if (!takers[col]) continue;
+    if (!takers[col] || weights == 0) continue;
     // By what is left, so that nothing is lost by rounding.
     const long given = room * columns[col].stated / weights;
     widths[col] += given;

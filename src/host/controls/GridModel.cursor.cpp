@@ -39,6 +39,7 @@ bool GridModel::IsColShown(int col) const {
 
 std::vector<long> GridModel::SharedWidths(long width) const {
   std::vector<ColumnRoom::Column> columns;
+  columns.reserve(static_cast<std::size_t>(Cols()));
   for (int col = 0; col < Cols; ++col) {
     columns.push_back({std::max(ColWidth(col), 0L), ColAlignment(col) == kAlignLeft, 0, 0});
   }

@@ -173,7 +173,7 @@ std::vector<EdgeLayout::Span> EdgeLayout::Share(const Part& part, Span now) cons
     // Where nothing grows the widest gap does.
     if (reaches && weights == 0 && gap == widest && gap > 0) at += std::exchange(extra, 0);
     long length = old.length;
-    if (const long own = weight(inner); own > 0) {
+    if (const long own = weight(inner); own > 0 && weights > 0) {
       const long given = extra * own / weights;
       extra -= given;
       weights -= own;

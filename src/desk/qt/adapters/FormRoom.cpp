@@ -17,17 +17,17 @@ constexpr long kBar = 240;
 constexpr EdgeLayout::Size kLeastList{3000, 1800};
 constexpr int kLeastRows = 3;
 
-bool IsHolder(const Control& control) {
-  return dynamic_cast<const PictureBox*>(&control) != nullptr ||
-         dynamic_cast<const Frame*>(&control) != nullptr;
+bool IsHolder(const Control* control) {
+  return dynamic_cast<const PictureBox*>(control) != nullptr ||
+         dynamic_cast<const Frame*>(control) != nullptr;
 }
 
-bool HasMeasures(const Control& holder) {
-  const auto* const surface = dynamic_cast<const Surface*>(&holder);
+bool HasMeasures(const Control* holder) {
+  const auto* const surface = dynamic_cast<const Surface*>(holder);
   if (surface != nullptr && !surface->Lines().empty()) return true;
-  const std::vector<Control*>& inside = holder.Children();
+  const std::vector<Control*>& inside = holder->Children();
   return std::any_of(inside.begin(), inside.end(), [](const Control* control) {
-    return dynamic_cast<const MSChart*>(control) != nullptr || (IsHolder(*control) && HasMeasures(*control));
+    return dynamic_cast<const MSChart*>(control) != nullptr || (IsHolder(control) && HasMeasures(control));
   });
 }
 
@@ -53,7 +53,7 @@ long LeastHeight(const GridModel& grid) {
 EdgeLayout::Item ItemOf(const Control& control, long width) {
   EdgeLayout::Item item{{control.Left, control.Top, control.Width, control.Height}};
   item.least = {kLeastLine, item.place.height};
-  if (IsHolder(control)) {
+  if (IsHolder(&control)) {
     const EdgeLayout inside = LayoutOf(control, {control.Width, control.Height}, width);
     item.growsAcross = true;
     item.growsDown = inside.GrowsDown();
@@ -88,7 +88,7 @@ EdgeLayout LayoutOf(const Control& holder, EdgeLayout::Size own, long width) {
 
 EdgeLayout::Size FormRoom::SizeIn(const Form& form, EdgeLayout::Size room) {
   const EdgeLayout::Size own{form.Width, form.Height};
-  if (room == own || HasMeasures(form)) return own;
+  if (room == own || HasMeasures(&form)) return own;
   const EdgeLayout::Size least = LayoutOf(form, own, room.width).Least();
   return {std::max(room.width, least.width), std::max(room.height, least.height)};
 }
@@ -106,7 +106,7 @@ void FormRoom::LayInside(const Control& holder, EdgeLayout::Size own, EdgeLayout
     const Control& control = *holder.Children()[child];
     const EdgeLayout::Box& box = boxes[child];
     places_[&control] = box;
-    if (IsHolder(control)) {
+    if (IsHolder(&control)) {
       LayInside(control, {control.Width, control.Height}, {box.width, box.height});
     }
   }
