@@ -2,6 +2,7 @@
 
 #include <unordered_set>
 
+#include "books/BooksNames.h"
 #include "books/SqlText.h"
 #include "host/services/host_services.h"
 #include "host/values/Text.h"
@@ -88,7 +89,8 @@ std::vector<BankPayment> BankPayment::WithoutLeaf(CDbLink& db, std::int64_t bank
 std::int64_t BankPayments::BankOf(CDbLink& db, std::int64_t voucher, std::int64_t preferred) {
   CDataSet banks;
   banks.Open("Select a.dcd from FAData a inner join FAMaster b on a.dcd=b.mcd where a.VoucherID=" +
-                 books::SqlNumber(voucher) + " and b.mbshno=47 and a.dAmt<0 order by a.dVchSubNo",
+                 books::SqlNumber(voucher) + " and b.mbshno=" + books::SqlNumber(books::kBankGroup) +
+                 " and a.dAmt<0 order by a.dVchSubNo",
              db);
   const std::int64_t first = banks.Eof() ? 0 : banks.Field("dcd").ToInteger();
   for (; !banks.Eof(); banks.MoveNext()) {
@@ -151,6 +153,7 @@ FormPtr NewChequeForm(const FormPtr& caller, std::int64_t bank) {
   }
   cheque->CallingForm = caller;
   cheque->Set("BankCode", bank);
+  gApp->PutUserSetting(kLastBank, std::to_string(bank));
   return cheque;
 }
 
@@ -163,7 +166,6 @@ void OpenCheque(const FormPtr& caller, const std::shared_ptr<FinYear>& year, std
     payments->Fill(*cheque);
     cheque->Set("fDataForm", std::static_pointer_cast<Object>(payments));
   }
-  gApp->PutUserSetting(kLastBank, std::to_string(bank));
   gApp->ShowForm(cheque);
 }
 

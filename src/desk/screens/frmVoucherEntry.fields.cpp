@@ -1,5 +1,6 @@
 #include "desk/screens/frmVoucherEntry.h"
 
+#include "books/BooksNames.h"
 #include "books/SqlText.h"
 #include "desk/screens/OutgoingLeaves.h"
 #include "desk/services/VoucherBooks.h"
@@ -175,8 +176,9 @@ void frmVoucherEntry::ShowNumber() {
 bool frmVoucherEntry::TakesCheque() const {
   const std::int64_t main = MainCode();
   return main != 0 && SpecOf(kind_).MainSide < 0 && !IsBill(kind_) &&
-         gSession->MainDb().RowExists("Select mcd from FAMaster where mbshno=47 and mcd=" +
-                                      books::SqlNumber(main));
+         gSession->MainDb().RowExists(
+             "Select mcd from FAMaster where mbshno=" + books::SqlNumber(books::kBankGroup) +
+             " and mcd=" + books::SqlNumber(main));
 }
 
 /// The lowest leaf of the bank that is neither used, nor cancelled, nor on its way to a printer.
